@@ -1,0 +1,19 @@
+# A folder is a unit: every source in it belongs to it, so a new file needs no line here.
+
+# flumewise_library(engine DEPENDS ...): the static library of src/<name>.
+function(flumewise_library name)
+  cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  add_library(flumewise_${name} STATIC ${sources})
+  target_link_libraries(flumewise_${name} PUBLIC flumewise_flags ${arg_DEPENDS})
+endfunction()
+
+# flumewise_tests(engine DEPENDS ...): the GoogleTest program of tests/<name>, each test known to ctest.
+function(flumewise_tests name)
+  cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  add_executable(${name}_tests ${sources})
+  target_link_libraries(${name}_tests PRIVATE flumewise_flags ${arg_DEPENDS} GTest::gmock GTest::gtest_main)
+  target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  gtest_discover_tests(${name}_tests DISCOVERY_TIMEOUT 60)
+endfunction()
