@@ -1,0 +1,4 @@
+// The problem record; see ChannelState.h.
+#include "engine/ChannelState.h"
+
+ChannelRecord ChannelState;

@@ -1,0 +1,37 @@
+// A value cell of the problem record: a number, a text, or the boolean false of an undefined result.
+#pragma once
+
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <variant>
+
+class EngineValue {
+ public:
+  EngineValue() = default;  // the empty text
+  template <typename N>
+  requires(std::is_arithmetic_v<N> && !std::is_same_v<N, bool>) EngineValue(N number)
+      : value_(static_cast<double>(number)) {}
+  EngineValue(std::string text) : value_(std::move(text)) {}
+  EngineValue(const char* text) : value_(std::string(text)) {}
+
+  static EngineValue False();
+
+  bool IsDouble() const { return std::holds_alternative<double>(value_); }
+  bool IsText() const { return std::holds_alternative<std::string>(value_); }
+  bool IsFalse() const { return std::holds_alternative<std::monostate>(value_); }
+  bool IsNumeric() const;  // a double, or a text that is one number in the current locale
+
+  // A double itself, the leading number of a text; 0 for a text without one and for false.
+  double Number() const { return IsDouble() ? *std::get_if<double>(&value_) : TextNumber(); }
+
+  // A text itself, a number plainly in the current locale, false blank.
+  std::string Text() const;
+
+  friend bool operator==(const EngineValue&, const EngineValue&) = default;
+
+ private:
+  double TextNumber() const;
+
+  std::variant<std::string, double, std::monostate> value_;  // monostate: false
+};

@@ -1,0 +1,187 @@
+// Reading and spelling numbers; see NumberText.h. Only from_chars and to_chars touch digits, because a
+// desktop toolkit may change the C locale at any time.
+#include "engine/NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <iterator>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+namespace {
+
+NumberLocale& Locale() {
+  static NumberLocale locale;
+  return locale;
+}
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+
+size_t DigitsFrom(std::string_view text, size_t start) {
+  size_t end = start;
+  while (end < text.size() && IsDigit(text[end])) ++end;
+  return end - start;
+}
+
+// Length of the group separator at this place of the text, 0 if there is none. No keyboard has a key for
+// the no-break spaces, so a plain blank stands for them.
+size_t SeparatorAt(std::string_view text, size_t at, std::string_view separator) {
+  if (separator.empty()) return 0;
+  if (text.substr(at).starts_with(separator)) return separator.size();
+  const bool noBreakSpace = separator == "\u00A0" || separator == "\u202F";
+  return noBreakSpace && text.substr(at).starts_with(' ') ? 1 : 0;
+}
+
+// The longest leading number of a text, respelled for from_chars.
+struct ScannedNumber {
+  std::string spelling;  // digits, ".", digits, "e", exponent; empty if there is no number
+  bool negative = false;
+  size_t end = 0;  // where the rest of the text begins
+};
+
+// Whole digits, grouped or plain. A first group that starts with 0 is no group: "0,500" is somebody's
+// decimal comma, not five hundred.
+size_t ScanWholePart(std::string_view text, size_t at, std::string_view separator, std::string& spelling) {
+  const size_t count = DigitsFrom(text, at);
+  spelling.append(text.substr(at, count));
+  const bool mayGroup = count >= 1 && count <= 3 && text[at] != '0';
+  at += count;
+  while (mayGroup) {
+    const size_t skip = SeparatorAt(text, at, separator);
+    if (skip == 0 || DigitsFrom(text, at + skip) != 3) break;
+    spelling.append(text.substr(at + skip, 3));
+    at += skip + 3;
+  }
+  return at;
+}
+
+size_t ScanExponent(std::string_view text, size_t at, std::string& spelling) {
+  if (at >= text.size() || (text[at] != 'e' && text[at] != 'E')) return at;
+  size_t digits = at + 1;
+  const bool negative = digits < text.size() && text[digits] == '-';
+  if (negative || (digits < text.size() && text[digits] == '+')) ++digits;
+  const size_t count = DigitsFrom(text, digits);
+  if (count == 0) return at;
+  spelling.append(negative ? "e-" : "e").append(text.substr(digits, count));
+  return digits + count;
+}
+
+ScannedNumber Scan(std::string_view text, const NumberLocale& locale) {
+  ScannedNumber number;
+  size_t at = 0;
+  while (at < text.size() && IsBlank(text[at])) ++at;
+  if (at < text.size() && (text[at] == '-' || text[at] == '+')) number.negative = text[at++] == '-';
+  at = ScanWholePart(text, at, locale.GroupSeparator, number.spelling);
+  if (text.substr(at).starts_with(locale.DecimalSign)) {
+    const size_t fraction = at + locale.DecimalSign.size();
+    const size_t count = DigitsFrom(text, fraction);
+    if (count > 0 || !number.spelling.empty()) {
+      number.spelling.append(".").append(text.substr(fraction, count));
+      at = fraction + count;
+    }
+  }
+  if (number.spelling.empty()) return number;
+  number.end = ScanExponent(text, at, number.spelling);
+  return number;
+}
+
+// from_chars reports "out of range" for both ends. The power of ten of the first digit that counts tells
+// them apart; an exponent that no integer holds decides alone.
+bool TooLarge(std::string_view spelling) {
+  const size_t exponentAt = std::min(spelling.find('e'), spelling.size());
+  const std::string_view digits = spelling.substr(0, exponentAt);
+  const size_t point = std::min(digits.find('.'), digits.size());
+  const size_t first = digits.find_first_not_of("0.");
+  std::int64_t power = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first);
+  if (exponentAt < spelling.size()) {
+    const std::string_view text = spelling.substr(exponentAt + 1);
+    std::int64_t exponent = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), exponent);
+    if (read.ec != std::errc{}) return text.front() != '-';
+    power = std::clamp<std::int64_t>(exponent, -1'000'000'000'000, 1'000'000'000'000) + power;
+  }
+  return power > 0;
+}
+
+// The value, or nothing where there is no number or one too large for a double. A value too small is 0.
+std::optional<double> Value(const ScannedNumber& number) {
+  if (number.spelling.empty()) return std::nullopt;
+  const char* begin = number.spelling.data();
+  double value = 0;
+  const auto read = std::from_chars(begin, begin + number.spelling.size(), value);
+  if (read.ec == std::errc::result_out_of_range) {
+    if (TooLarge(number.spelling)) return std::nullopt;
+    value = 0;
+  }
+  if (!std::isfinite(value)) return std::nullopt;
+  return number.negative ? -value : value;
+}
+
+// Digits after &H or &O: a pattern of up to 16 bits is a signed 16-bit number, a longer one a signed 32-bit.
+double BitPattern(std::string_view digits, int base) {
+  std::uint32_t bits = 0;
+  const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), bits, base);
+  if (read.ec != std::errc{}) return 0;
+  if (bits <= 0xFFFF) return static_cast<std::int16_t>(bits);
+  return static_cast<std::int32_t>(bits);
+}
+
+}  // namespace
+
+void SetNumberLocale(NumberLocale locale) {
+  if (locale.DecimalSign.empty()) locale.DecimalSign = ".";
+  if (locale.GroupSeparator == locale.DecimalSign) locale.GroupSeparator.clear();
+  Locale() = std::move(locale);
+}
+
+const NumberLocale& CurrentNumberLocale() {
+  return Locale();
+}
+
+bool IsNumeric(std::string_view text) {
+  const ScannedNumber number = Scan(text, Locale());
+  const std::string_view rest = text.substr(number.end);
+  return std::all_of(rest.begin(), rest.end(), IsBlank) && Value(number).has_value();
+}
+
+double LeadingNumber(std::string_view text) {
+  return Value(Scan(text, Locale())).value_or(0);
+}
+
+double Val(std::string_view text) {
+  std::string packed;
+  std::copy_if(text.begin(), text.end(), std::back_inserter(packed),
+               [](char c) { return !IsBlank(c) && c != '\n'; });
+  const std::string_view digits = std::string_view(packed).substr(std::min<size_t>(2, packed.size()));
+  if (packed.starts_with("&H") || packed.starts_with("&h")) return BitPattern(digits, 16);
+  if (packed.starts_with("&O") || packed.starts_with("&o")) return BitPattern(digits, 8);
+  std::replace_if(
+      packed.begin(), packed.end(), [](char c) { return c == 'd' || c == 'D'; }, 'e');
+  return Value(Scan(packed, NumberLocale{".", ""})).value_or(0);
+}
+
+std::string PlainNumber(double x) {
+  if (x == 0) return "0";
+  const double magnitude = std::abs(x);
+  const bool fixed = magnitude >= 1e-5 && magnitude < 1e15;
+  std::array<char, 32> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), x,
+                                 fixed ? std::chars_format::fixed : std::chars_format::scientific);
+  return {buffer.data(), end.ptr};
+}
+
+std::string PlainNumberInLocale(double x) {
+  std::string text = PlainNumber(x);
+  const size_t point = text.find('.');
+  if (point != std::string::npos) text.replace(point, 1, Locale().DecimalSign);
+  return text;
+}

@@ -1,0 +1,34 @@
+// Numbers as people write them: reading them from text boxes and spelling them plainly.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// How a number is spelled for the user, UTF-8. An empty GroupSeparator means digits are never grouped.
+struct NumberLocale {
+  std::string DecimalSign = ".";
+  std::string GroupSeparator = ",";
+};
+
+// The locale of every function below that does not say otherwise. An empty decimal sign becomes ".", and a
+// group separator equal to the decimal sign is dropped: with it no number could be read back.
+void SetNumberLocale(NumberLocale locale);
+const NumberLocale& CurrentNumberLocale();
+
+// True when the whole text is one number: blanks and TABs around it, one sign in front, plain digits or
+// proper groups of three, the decimal sign, an exponent. False for a value too large for a double.
+bool IsNumeric(std::string_view text);
+
+// The value of the longest leading part of the text that is a number; 0 where there is none or where the
+// value is too large for a double.
+double LeadingNumber(std::string_view text);
+
+// The leading number of an item of the project file, for its checksum: independent of the locale, "." only,
+// no groups. Blanks, TABs and line feeds are dropped first; D is an exponent letter as E is; &H and &O start
+// hexadecimal and octal digits. No number or one too large: 0.
+double Val(std::string_view text);
+
+// The shortest digits that read back as the same double: fixed notation for 0 and 1e-5 <= |x| < 1e15, else
+// with an exponent. Never grouped. The first has "." always, the second the locale's decimal sign.
+std::string PlainNumber(double x);
+std::string PlainNumberInLocale(double x);
