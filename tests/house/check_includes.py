@@ -1,0 +1,111 @@
+#!/usr/bin/env python3
+"""Proves who includes whom: the folders of src only downwards, nothing in a circle, Qt in the desktop alone.
+
+Usage: check_includes.py ROOT   prints one line for each fault; status 1 when there is any
+"""
+import re
+import sys
+from pathlib import Path
+
+CALCULATOR = ["engine", "platform", "app"]
+MAY_INCLUDE = {
+    "engine": [],
+    "platform": [],
+    "app": ["engine", "platform"],
+    "section": CALCULATOR,
+    "print": CALCULATOR,
+    "help": CALCULATOR,
+    "rating": ["print", *CALCULATOR],
+    "program": ["rating", "section", "print", "help", *CALCULATOR],
+    "desktop": ["program", "rating", "section", "print", "help", *CALCULATOR],
+}
+WITH_QT = ["src/desktop/", "tests/desktop/"]
+QT = re.compile(r"Q[A-Z]|Qt|q[a-z]+\.h$|qcustomplot")
+STANDARD = set("""
+    algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes climits
+    clocale cmath codecvt compare complex concepts condition_variable coroutine csetjmp csignal cstdarg cstddef cstdint
+    cstdio cstdlib cstring ctime cuchar cwchar cwctype deque exception execution filesystem forward_list fstream
+    functional future initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory
+    memory_resource mutex new numbers numeric optional ostream queue random ranges ratio regex scoped_allocator
+    semaphore set shared_mutex source_location span sstream stack stdexcept stop_token streambuf string string_view
+    strstream syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility
+    valarray variant vector version""".split())
+DIRECTIVE = re.compile(r'^\s*#\s*include\s*(?:<([^>]*)>|"([^"]*)"|(.*))')
+
+
+def sources(root, folder):
+    return sorted(file for file in (root / folder).rglob("*") if file.suffix in (".h", ".cpp"))
+
+
+def includes(file):
+    """(line number, header in <>, header in quotes) of every include; both None when it is neither."""
+    for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
+        directive = DIRECTIVE.match(line)
+        if directive:
+            yield number, directive[1], directive[2]
+
+
+def fault_of_include(folder, system, own):
+    if system is None and own is None:
+        return "an include names its header in <> or quotes"
+    if folder == "desktop" and (system is not None or own.endswith(".moc")):
+        return None
+    if system is not None:
+        return None if system in STANDARD else f"{folder} stands on the standard library alone, not <{system}>"
+    target = own.split("/")[0]
+    if "/" not in own or target not in MAY_INCLUDE:
+        return f'"{own}" does not begin with a folder of src'
+    if target != folder and target not in MAY_INCLUDE[folder]:
+        return f"{folder} may not include {target}"
+    return None
+
+
+def faults_of_folders(root):
+    for file in sources(root, "src"):
+        place = file.relative_to(root)
+        folder = place.parts[1]
+        if folder not in MAY_INCLUDE:
+            yield f"{place}: no rule says what {folder} may include"
+            continue
+        for number, system, own in includes(file):
+            fault = fault_of_include(folder, system, own)
+            if fault:
+                yield f"{place}:{number}: {fault}"
+
+
+def faults_of_qt(root):
+    for folder in ["src", "tests", "bench", "fuzz"]:
+        for file in sources(root, folder):
+            place = str(file.relative_to(root))
+            for number, system, own in includes(file):
+                if QT.match(system or own or "") and not place.startswith(tuple(WITH_QT)):
+                    yield f"{place}:{number}: Qt belongs to the desktop alone"
+
+
+def faults_of_circles(root):
+    """No file of src includes itself over others: #pragma once would hide it until a type is missing somewhere."""
+    included = {}
+    for file in sources(root, "src"):
+        included[str(file.relative_to(root / "src"))] = sorted({own for _, _, own in includes(file) if own})
+    finished = set()
+
+    def walk(file, path):
+        if file in path:
+            yield "a circle: " + " -> ".join([*path[path.index(file):], file])
+        elif file not in finished:
+            for other in included.get(file, ()):
+                yield from walk(other, [*path, file])
+            finished.add(file)
+
+    for file in included:
+        yield from walk(file, [])
+
+
+def faults(root):
+    return [*faults_of_folders(root), *faults_of_qt(root), *faults_of_circles(root)]
+
+
+if __name__ == "__main__":
+    found = faults(Path(sys.argv[1]))
+    print("\n".join(found))
+    sys.exit(1 if found else 0)

@@ -1,0 +1,74 @@
+#!/usr/bin/env python3
+"""The include check finds each kind of fault in a small tree made for it, and none in a sound one."""
+import tempfile
+import unittest
+from pathlib import Path
+
+from check_includes import MAY_INCLUDE, faults
+
+SOUND = {
+    "src/engine/Value.h": "#include <string>\n",
+    "src/engine/Value.cpp": '#include "engine/Value.h"\n',
+    "src/app/Units.h": '#include "engine/Value.h"\n',
+    "src/desktop/View.cpp": '#include <QWidget>\n#include "app/Units.h"\n#include "View.moc"\n',
+    "tests/desktop/ViewTest.cpp": "#include <QTest>\n",
+    "tests/engine/ValueTest.cpp": '#include <gtest/gtest.h>\n#include "engine/Value.h"\n// #include <QString>\n',
+}
+# a file added to the sound tree, its text, and the end of the one line that it must bring
+FAULTY = [
+    ("src/engine/Bad.cpp", '#include "app/Units.h"', "src/engine/Bad.cpp:1: engine may not include app"),
+    ("src/platform/Bad.h", '#pragma once\n#include "engine/Value.h"', "Bad.h:2: platform may not include engine"),
+    ("src/print/Bad.h", '#include "rating/Series.h"', "print may not include rating"),
+    ("src/section/Bad.h", '#include "print/Print.h"', "section may not include print"),
+    ("src/program/Bad.h", '#include "desktop/View.h"', "program may not include desktop"),
+    ("src/app/Bad.h", '#include "../desktop/View.h"', "does not begin with a folder of src"),
+    ("src/app/Bad.h", "#  include <unistd.h>", "app stands on the standard library alone, not <unistd.h>"),
+    ("src/app/Bad.h", "#include HEADER", "an include names its header in <> or quotes"),
+    ("tests/console/Bad.cpp", "#include <QtWidgets/QLabel>", "Qt belongs to the desktop alone"),
+    ("tests/support/Bad.h", '#include "QString"', "Qt belongs to the desktop alone"),
+    ("bench/Bad.cpp", "#include <qcustomplot.h>", "Qt belongs to the desktop alone"),
+    ("src/extra/Bad.h", "", "no rule says what extra may include"),
+    ("src/app/Units.h", '#include "app/Units.h"', "a circle: app/Units.h -> app/Units.h"),
+]
+CIRCLE = {
+    "src/engine/A.h": '#include "engine/B.h"',
+    "src/engine/B.h": '#include "engine/C.h"',
+    "src/engine/C.h": '#include "engine/A.h"',
+}
+
+
+def faults_with(added):
+    with tempfile.TemporaryDirectory() as folder:
+        for name, text in {**SOUND, **added}.items():
+            file = Path(folder) / name
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_text(text, encoding="utf-8")
+        return faults(Path(folder))
+
+
+class CheckIncludes(unittest.TestCase):
+    def test_a_sound_tree_has_no_fault(self):
+        self.assertEqual(faults_with({}), [])
+
+    def test_each_fault_is_found_and_told_once(self):
+        for name, text, line in FAULTY:
+            with self.subTest(name=name, text=text):
+                found = faults_with({name: text})
+                self.assertEqual(len(found), 1, found)
+                self.assertTrue(found[0].endswith(line), found)
+
+    def test_qt_in_the_calculator_breaks_both_rules(self):
+        self.assertEqual(len(faults_with({"src/program/Bad.h": "#include <QString>"})), 2)
+
+    def test_a_circle_over_several_files_is_found(self):
+        self.assertEqual(faults_with(CIRCLE), ["a circle: engine/A.h -> engine/B.h -> engine/C.h -> engine/A.h"])
+
+    def test_the_rules_themselves_lead_only_downwards(self):
+        below = {}
+        for folder, others in MAY_INCLUDE.items():  # listed from the bottom up
+            self.assertLessEqual(set(others), set(below), folder)
+            below[folder] = others
+
+
+if __name__ == "__main__":
+    unittest.main()
