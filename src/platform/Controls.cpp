@@ -1,0 +1,46 @@
+// See Controls.h.
+#include "platform/Controls.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Byte offset of character `position` in a UTF-8 text; its end when there are fewer characters.
+std::size_t ByteOffset(std::string_view text, int position) {
+  std::size_t offset = 0;
+  for (; position > 0 && offset < text.size(); --position) {
+    ++offset;
+    while (offset < text.size() && (static_cast<unsigned char>(text[offset]) & 0xC0U) == 0x80U) ++offset;
+  }
+  return offset;
+}
+
+int CharacterCount(std::string_view text) {
+  return static_cast<int>(
+      std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+}  // namespace
+
+Control::Control(Form* form, std::string name) : form_(*form), name_(std::move(name)) {
+  form_.controls_.push_back(this);
+}
+
+std::string TextBox::SelectedText() const {
+  const std::string& text = Text;
+  const TextRange range = Selection;
+  const std::size_t from = ByteOffset(text, range.Start);
+  return text.substr(from, ByteOffset(std::string_view(text).substr(from), range.Length));
+}
+
+void TextBox::ReplaceSelection(std::string_view with) {
+  std::string text = Text;
+  const TextRange range = Selection;
+  const std::size_t from = ByteOffset(text, range.Start);
+  text.replace(from, ByteOffset(std::string_view(text).substr(from), range.Length), with);
+  const int caret = CharacterCount(std::string_view(text).substr(0, from + with.size()));
+  Text = std::move(text);
+  Selection = {caret, 0};
+}
+
+void TextBox::SelectAll() { Selection = {0, CharacterCount(Text.Get())}; }

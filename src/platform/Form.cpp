@@ -1,0 +1,33 @@
+// See Form.h.
+#include "platform/Form.h"
+
+#include <algorithm>
+
+#include "platform/Controls.h"
+
+Control* Form::Find(std::string_view controlName) const {
+  const auto found =
+      std::ranges::find_if(controls_, [&](const Control* each) { return each->Name() == controlName; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Form::Load() {
+  loaded_ = true;
+  Form_Load();
+}
+
+void Form::Unload() {
+  if (!loaded_ || !Form_QueryUnload()) return;
+  loaded_ = false;
+  if (UnloadView) UnloadView();
+}
+
+void Form::MoveFocus(FocusControl& next) {
+  if (active_ == &next) return;
+  if (FocusControl* const left = active_) {
+    if (left->Validate) left->Validate();
+    if (left->LostFocus) left->LostFocus();
+  }
+  active_ = &next;
+  if (next.GotFocus) next.GotFocus();
+}

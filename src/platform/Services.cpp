@@ -1,0 +1,33 @@
+// See Services.h.
+#include "platform/Services.h"
+
+#include <algorithm>
+
+#include "platform/Form.h"
+
+namespace {
+std::optional<Services> installed;
+}
+
+void InstallServices(const Services& services) { installed.emplace(services); }
+
+const Services& TheServices() { return *installed; }
+
+Form* WindowHost::Top() const {
+  const auto top = std::find_if(open_.rbegin(), open_.rend(), [](const Form* each) { return each->IsLoaded(); });
+  return top == open_.rend() ? nullptr : *top;
+}
+
+void WindowHost::Show(Form& form) {
+  open_.push_back(&form);
+  form.Load();
+  Open(form);
+  form.Form_Activate();
+}
+
+void WindowHost::ShowModal(Form& form) {
+  Show(form);
+  if (form.IsLoaded()) Wait(form);
+  std::erase(open_, &form);
+  if (Form* const below = Top()) below->Form_Activate();
+}
