@@ -138,7 +138,7 @@ double BitPattern(std::string_view digits, int base) {
 }  // namespace
 
 void SetNumberLocale(NumberLocale locale) {
-  if (locale.DecimalSign.empty()) locale.DecimalSign = ".";
+  if (locale.DecimalSign.empty()) locale.DecimalSign = std::string(".");
   if (locale.GroupSeparator == locale.DecimalSign) locale.GroupSeparator.clear();
   Locale() = std::move(locale);
 }
