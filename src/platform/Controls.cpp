@@ -43,4 +43,6 @@ void TextBox::ReplaceSelection(std::string_view with) {
   Selection = {caret, 0};
 }
 
-void TextBox::SelectAll() { Selection = {0, CharacterCount(Text.Get())}; }
+void TextBox::SelectAll() {
+  Selection = {0, CharacterCount(Text.Get())};
+}

@@ -1,5 +1,6 @@
-// The kinds of control that the windows are made of. A control knows its name and registers itself with its form;
-// a view shows it, a conversation of the console drives it, and neither knows more of a window than this list.
+// The kinds of control that the windows are made of. A control knows its name and registers itself with its
+// form; a view shows it, a conversation of the console drives it, and neither knows more of a window than
+// this list.
 #pragma once
 
 #include <array>
@@ -123,7 +124,8 @@ template <class Kind, int First, int Last>
 class ControlArray {
  public:
   ControlArray(Form* form, const std::string& name) {
-    for (int index = First; index <= Last; ++index) members_.emplace_back(form, name + "_" + std::to_string(index));
+    for (int index = First; index <= Last; ++index)
+      members_.emplace_back(form, name + "_" + std::to_string(index));
   }
   Kind& operator[](int index) { return members_[static_cast<std::size_t>(index - First)]; }
   static constexpr int Lower = First;

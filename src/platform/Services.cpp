@@ -9,12 +9,17 @@ namespace {
 std::optional<Services> installed;
 }
 
-void InstallServices(const Services& services) { installed.emplace(services); }
+void InstallServices(const Services& services) {
+  installed.emplace(services);
+}
 
-const Services& TheServices() { return *installed; }
+const Services& TheServices() {
+  return *installed;
+}
 
 Form* WindowHost::Top() const {
-  const auto top = std::find_if(open_.rbegin(), open_.rend(), [](const Form* each) { return each->IsLoaded(); });
+  const auto top =
+      std::find_if(open_.rbegin(), open_.rend(), [](const Form* each) { return each->IsLoaded(); });
   return top == open_.rend() ? nullptr : *top;
 }
 

@@ -1,4 +1,5 @@
-// What the calculator asks of the desktop it runs on. Program installs the services once; the windows only call them.
+// What the calculator asks of the desktop it runs on. Program installs the services once; the windows only
+// call them.
 #pragma once
 
 #include <optional>
@@ -23,7 +24,8 @@ enum class BoxAnswer { Ok, Yes, No, Cancel };
 class MessageBox {
  public:
   virtual ~MessageBox() = default;
-  virtual BoxAnswer Show(const std::string& text, const std::string& title, BoxIcon icon, BoxButtons buttons) = 0;
+  virtual BoxAnswer Show(const std::string& text, const std::string& title, BoxIcon icon,
+                         BoxButtons buttons) = 0;
 };
 
 struct FileDialogRequest {

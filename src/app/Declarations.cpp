@@ -1,0 +1,16 @@
+// See Declarations.h.
+#include "app/Declarations.h"
+
+#include "engine/ChannelState.h"
+
+namespace Declarations {
+
+void Reset() {
+  ChannelState = ChannelRecord{};
+  DataChanged = false;
+  FilePath = FileTitle = Untitled;
+  UserPath.clear();
+  SigDigs = EngDigs = 3;
+}
+
+}  // namespace Declarations

@@ -1,0 +1,28 @@
+// The variables that the windows share: the project in work, where its file lies, and how numbers are shown.
+#pragma once
+
+#include <string>
+
+#include "app/Version.h"
+#include "platform/Property.h"
+
+namespace Declarations {
+
+inline constexpr const char* AppTitle = "Flumewise";
+inline constexpr const char* Untitled = "Untitled";
+
+/// The project has edits that its file has not. A property, so that a window title can show it.
+inline Property<bool> DataChanged;
+
+inline std::string FilePath;   ///< full path of the project file; "Untitled" without one
+inline std::string FileTitle;  ///< its name without the folder; "Untitled" without one
+inline std::string UserPath;   ///< folder, with its last separator, in which the file dialogs start
+
+inline int SigDigs = 3;  ///< significant digits of computed results, 1 to 5
+inline int EngDigs =
+    3;  ///< decimals of depths and water-surface elevations, 1 to 4 (5 is a stored value only)
+
+/// All of the above, and the problem record, as at the start of the program.
+void Reset();
+
+}  // namespace Declarations

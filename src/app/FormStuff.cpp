@@ -1,0 +1,55 @@
+// See FormStuff.h.
+#include "app/FormStuff.h"
+
+#include "engine/NumberText.h"
+#include "platform/Services.h"
+
+namespace FormStuff {
+
+namespace {
+
+std::string Bound(const char* inclusiveWord, const char* exclusiveWord, bool inclusive, double bound) {
+  return std::string(inclusive ? inclusiveWord : exclusiveWord) + (bound < 0 ? "" : " ") +
+         PlainNumberInLocale(bound);
+}
+
+bool Within(double x, const Range& range) {
+  if (range.Min && (range.MinInclusive ? x < *range.Min : x <= *range.Min)) return false;
+  if (range.Max && (range.MaxInclusive ? x > *range.Max : x >= *range.Max)) return false;
+  return true;
+}
+
+}  // namespace
+
+std::string RangeText(const Range& range) {
+  std::string text;
+  if (range.Min) text += Bound(" greater than or equal to", " greater than", range.MinInclusive, *range.Min);
+  if (range.Min && range.Max) text += " and";
+  if (range.Max) text += Bound(" less than or equal to", " less than", range.MaxInclusive, *range.Max);
+  return text;
+}
+
+bool CheckRange(std::string_view value, std::optional<double> min, bool minInclusive,
+                std::optional<double> max, bool maxInclusive, bool showMessage) {
+  if (value.empty()) return false;
+  const Range range{min, minInclusive, max, maxInclusive};
+  const bool valid = IsNumeric(value) && Within(LeadingNumber(value), range);
+  if (!valid && showMessage) {
+    TheServices().messageBox.Show("Must be" + RangeText(range), "Warning", BoxIcon::Exclamation,
+                                  BoxButtons::Ok);
+  }
+  return valid;
+}
+
+void SelectAllText(TextBox& box) {
+  box.SelectAll();
+}
+
+std::string AddLeadingZero(const TextBox& box) {
+  const std::string& text = box.Text;
+  if (!text.starts_with(CurrentNumberLocale().DecimalSign) || !IsNumeric(text)) return text;
+  const double x = LeadingNumber(text);
+  return x >= 0 && x < 1 ? "0" + text : text;
+}
+
+}  // namespace FormStuff

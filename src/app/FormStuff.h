@@ -1,0 +1,34 @@
+// What several windows do with a text box: test its range, select it, tidy its number.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Controls.h"
+
+namespace FormStuff {
+
+/// Bounds of a number; an absent one does not bound.
+struct Range {
+  std::optional<double> Min;
+  bool MinInclusive = false;
+  std::optional<double> Max;
+  bool MaxInclusive = false;
+};
+
+/// " greater than 0 and less than 1": what a number of this range must be, with a blank in front.
+std::string RangeText(const Range& range);
+
+/// True when the text is a number within the bounds. With `showMessage` a "Warning" box says what the number
+/// must be; an empty text fails without it.
+bool CheckRange(std::string_view value, std::optional<double> min, bool minInclusive,
+                std::optional<double> max, bool maxInclusive, bool showMessage);
+
+/// Selects the whole text, so that typing replaces it.
+void SelectAllText(TextBox& box);
+
+/// The box's text, with "0" in front of a number from 0 to 1 that starts with the decimal sign.
+std::string AddLeadingZero(const TextBox& box);
+
+}  // namespace FormStuff

@@ -1,0 +1,39 @@
+// See Units.h.
+#include "app/Units.h"
+
+#include <array>
+
+namespace {
+
+struct Unit {
+  const char* Label = "";
+  double Factor = 0;
+};
+
+constexpr std::array<std::array<Unit, 9>, 3> UnitTable = {{
+    {{{}, {"ft", 1}, {"cfs", 1}, {"ft/ft", 1}, {"in", 1.0 / 12}, {"sf", 1}, {"fps", 1}, {"ft", 1}, {"", 1}}},
+    {{{},
+      {"m", 3.28084},
+      {"m^3/s", 35.31467},
+      {"m/m", 1},
+      {"mm", 0.00328084},
+      {"m^2", 10.76391},
+      {"m/s", 3.28084},
+      {"m", 3.28084},
+      {"", 1}}},
+    {},
+}};
+
+const Unit& At(int units, int row) {
+  return UnitTable.at(static_cast<std::size_t>(units)).at(static_cast<std::size_t>(row));
+}
+
+}  // namespace
+
+std::string UnitLabel(int units, int row) {
+  return At(units, row).Label;
+}
+
+double UnitFactor(int units, int row) {
+  return At(units, row).Factor;
+}

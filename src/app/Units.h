@@ -1,0 +1,24 @@
+// Unit captions and conversion factors: the engine computes in feet and seconds, a person reads either
+// system.
+#pragma once
+
+#include <string>
+
+namespace Units {
+
+/// Unit systems, as the problem record holds them.
+inline constexpr int English = 0;
+inline constexpr int Metric = 1;
+
+/// Rows of the unit table.
+enum Quantity { Length = 1, Flow, Slope, Diameter, Area, Velocity, BaseWidth, Dimensionless };
+
+}  // namespace Units
+
+/// Caption of a quantity in a unit system, for example "m^3/s"; empty for a dimensionless one.
+/// std::out_of_range outside systems 0 to 2 (2 holds nothing) and rows 0 to 8 (0 holds nothing).
+std::string UnitLabel(int units, int row);
+
+/// Engine units (feet, seconds) in one displayed unit: engine value = displayed value x factor.
+/// std::out_of_range as above.
+double UnitFactor(int units, int row);

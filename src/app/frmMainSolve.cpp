@@ -1,0 +1,235 @@
+// Checking the inputs, solving the channel and showing the results. See frmMain.h.
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <map>
+#include <span>
+
+#include "app/Declarations.h"
+#include "app/FormStuff.h"
+#include "app/NumberDisplay.h"
+#include "app/Units.h"
+#include "app/frmMain.h"
+#include "engine/ChannelState.h"
+#include "engine/Constants.h"
+#include "engine/EngineFault.h"
+#include "engine/ManningCircular.h"
+#include "engine/SolveChannel.h"
+
+namespace {
+
+using FormStuff::Range;
+
+struct Bound {
+  TextBox frmMain::*Box;
+  Label frmMain::*Name;
+  Range Allowed;
+};
+
+constexpr Range Positive{0.0, false, {}, false};
+constexpr Range NotNegative{0.0, true, {}, false};
+constexpr Range BetweenZeroAndOne{0.0, false, 1.0, false};
+
+constexpr Bound FlowBound{&frmMain::tbFlow, &frmMain::lblFlow, Positive};
+constexpr Bound DepthBound{&frmMain::tbDepth, &frmMain::lblDepth, Positive};
+constexpr Bound SlopeBound{&frmMain::tbSlope, &frmMain::lblSlope, BetweenZeroAndOne};
+constexpr Bound RoughnessBound{&frmMain::tbMann, &frmMain::lblMann, BetweenZeroAndOne};
+
+constexpr Bound CircularBounds[] = {
+    SlopeBound, RoughnessBound, {&frmMain::tbDiameter, &frmMain::lblDiameter, Positive}};
+constexpr Bound PrismaticBounds[] = {SlopeBound,
+                                     RoughnessBound,
+                                     {&frmMain::tbBaseWidth, &frmMain::lblBaseWidth, NotNegative},
+                                     {&frmMain::tbSSL, &frmMain::lblSSL, NotNegative},
+                                     {&frmMain::tbSSR, &frmMain::lblSSR, NotNegative}};
+constexpr Bound IrregularBounds[] = {SlopeBound};
+
+std::span<const Bound> BoundsOf(std::string_view type) {
+  if (type == ChannelTypes::Circular) return CircularBounds;
+  if (type == ChannelTypes::Irregular) return IrregularBounds;
+  return PrismaticBounds;
+}
+
+struct Result {
+  TextBox frmMain::*Box;
+  EngineValue ChannelRecord::*Value;
+  int Quantity;
+  bool FixedDecimals;
+};
+
+constexpr Result FlowResult{&frmMain::tbFlow, &ChannelRecord::Flow, Units::Flow, false};
+constexpr Result DepthResult{&frmMain::tbDepth, &ChannelRecord::Depth, Units::Length, true};
+constexpr Result Results[] = {
+    {&frmMain::tbVelocity, &ChannelRecord::Velocity, Units::Velocity, false},
+    {&frmMain::tbVelHead, &ChannelRecord::VelocityHead, Units::Length, false},
+    {&frmMain::tbArea, &ChannelRecord::Area, Units::Area, false},
+    {&frmMain::tbWP, &ChannelRecord::WettedPerimeter, Units::Length, false},
+    {&frmMain::tbHRad, &ChannelRecord::HydraulicRadius, Units::Length, false},
+    {&frmMain::tbTopW, &ChannelRecord::TopWidth, Units::Length, false},
+    {&frmMain::tbFroude, &ChannelRecord::Froude, Units::Dimensionless, false},
+    {&frmMain::tbCritD, &ChannelRecord::CriticalDepth, Units::Length, true},
+    {&frmMain::tbCritS, &ChannelRecord::CriticalSlope, Units::Length, false},
+};
+
+double FactorOf(int quantity) {
+  return UnitFactor(ChannelState.UnitsEorM, quantity);
+}
+
+std::string Shown(const EngineValue& value, int quantity, bool fixedDecimals) {
+  const double factor = 1 / FactorOf(quantity);
+  return (fixedDecimals ? FixedFormat(value, factor, Declarations::EngDigs)
+                        : SigFormat(value, factor, Declarations::SigDigs))
+      .Text();
+}
+
+/// A typed number in feet and seconds; a text that is not a number counts its leading number.
+double Internal(const TextBox& box, int quantity) {
+  return EngineValue(box.Text).Number() * FactorOf(quantity);
+}
+
+std::string Offence(const TextBox& box, const Label& name, const Range& allowed) {
+  if (FormStuff::CheckRange(box.Text.Get(), allowed.Min, allowed.MinInclusive, allowed.Max,
+                            allowed.MaxInclusive, false)) {
+    return "";
+  }
+  return name.Caption.Get() + " must be" + FormStuff::RangeText(allowed);
+}
+
+/// The same depth in two units differs in the last bits: a pipe typed full is full.
+bool SameLength(double a, double b) {
+  return std::abs(a - b) <= 1e-12 * std::abs(b);
+}
+
+}  // namespace
+
+void frmMain::CheckInputs() {
+  std::string reason = MarkOffences();
+  if (reason.empty()) {
+    try {
+      ComputeResults();
+      reason = Outcome();
+    } catch (const EngineFault& fault) {
+      ClearResults();
+      reason = std::string("No result: ") + fault.what();
+    }
+  } else {
+    ClearResults();
+  }
+  const bool solved = !tbArea.Text.Get().empty();
+  for (Control* const command :
+       std::initializer_list<Control*>{&mnuSolveGraph, &mnuSolveTable, &mnuSolveSection, &Toolbar1.Graph,
+                                       &Toolbar1.Table, &Toolbar1.Section}) {
+    command->Enabled = solved;
+  }
+  lblStatus.Caption = reason;
+}
+
+std::string frmMain::MarkOffences() {
+  std::map<const TextBox*, std::string> offences;
+  std::string first;
+  const auto add = [&](const TextBox& box, const std::string& offence) {
+    offences[&box] = offence;
+    if (first.empty()) first = offence;
+  };
+  const auto test = [&](const Bound& bound) {
+    add(this->*bound.Box, Offence(this->*bound.Box, this->*bound.Name, bound.Allowed));
+  };
+  const std::string_view type = ChannelState.ChannelType;
+  if (type == ChannelTypes::Irregular && ChannelState.IrregPoints[1][1] == EngineValue("")) {
+    first = "Enter the points of the section";
+  }
+  if (type == ChannelTypes::Irregular && ChannelState.SolveForFlow) {
+    add(tbDepth, WaterSurfaceOffence());
+  } else {
+    test(ChannelState.SolveForFlow ? DepthBound : FlowBound);
+  }
+  for (const Bound& bound : BoundsOf(type)) test(bound);
+  if (std::ranges::find(ChannelTypes::All, type) == ChannelTypes::All.end()) first = "Choose a channel type";
+
+  for (TextBox* const box :
+       {&tbFlow, &tbDepth, &tbSlope, &tbMann, &tbBaseWidth, &tbSSL, &tbSSR, &tbDiameter}) {
+    const std::string& offence = offences[box];
+    box->ToolTip = offence;
+    // An empty box is a question, not a mistake.
+    box->Offending = !offence.empty() && !box->Text.Get().empty();
+  }
+  return first;
+}
+
+std::string frmMain::WaterSurfaceOffence() const {
+  const EngineValue level(tbDepth.Text);
+  const auto points =
+      std::span(ChannelState.IrregPoints).subspan(1, static_cast<std::size_t>(ChannelState.IrregPointCount));
+  const bool below =
+      std::ranges::any_of(points, [&](const auto& point) { return point[2].Number() > level.Number(); });
+  return level.IsNumeric() && below ? "" : "WSElev must be below the highest point of the section";
+}
+
+void frmMain::InputToGlobal() {
+  ChannelRecord& record = ChannelState;
+  if (record.SolveForFlow) {
+    record.Depth = Internal(tbDepth, Units::Length);
+  } else {
+    record.Flow = Internal(tbFlow, Units::Flow);
+  }
+  record.ManningN = tbMann.Text.Get();
+  record.Slope = tbSlope.Text.Get();
+  record.SideSlopeLeft = tbSSL.Text.Get();
+  record.SideSlopeRight = tbSSR.Text.Get();
+  record.Diameter = Internal(tbDiameter, Units::Diameter);
+  record.BaseWidth = Internal(tbBaseWidth, Units::Length);
+  if (record.ChannelType == ChannelTypes::Circular &&
+      SameLength(record.Depth.Number(), record.Diameter.Number())) {
+    record.Depth = record.Diameter;
+  }
+  for (std::size_t row = 1; row <= static_cast<std::size_t>(record.IrregPointCount); ++row) {
+    const auto& typed = record.IrregPoints[row];
+    auto& point = record.IrregEnginePoints[row];
+    point[1] = typed[1].Number() * FactorOf(Units::Length);
+    point[2] = typed[2].Number() * FactorOf(Units::Length);
+    if (typed[3] != EngineValue("")) point[3] = typed[3].Number();
+  }
+}
+
+void frmMain::ComputeResults() {
+  InputToGlobal();
+  SolveChannel();
+  const auto show = [this](const Result& result) {
+    (this->*result.Box).Text = Shown(ChannelState.*result.Value, result.Quantity, result.FixedDecimals);
+  };
+  show(ChannelState.SolveForFlow ? FlowResult : DepthResult);
+  for (const Result& result : Results) show(result);
+  const bool metricSlope = ChannelState.UnitsEorM == Units::Metric && ChannelState.CriticalSlope.IsNumeric();
+  tbCritS.ToolTip = metricSlope
+                        ? "Critical slope: " + Shown(ChannelState.CriticalSlope, Units::Slope, false) + " " +
+                              UnitLabel(Units::Metric, Units::Slope)
+                        : "";
+  EnablePrint(true);
+}
+
+void frmMain::ClearResults() {
+  for (const Result& result : Results) (this->*result.Box).Text = "";
+  (ChannelState.SolveForFlow ? tbFlow : tbDepth).Text = "";
+  tbCritS.ToolTip = "";
+  EnablePrint(false);
+}
+
+void frmMain::EnablePrint(bool enabled) {
+  mnuFilePrint.Enabled = enabled;
+  Toolbar1.Print.Enabled = enabled;
+}
+
+std::string frmMain::Outcome() const {
+  const bool solveForFlow = ChannelState.SolveForFlow;
+  if (!tbArea.Text.Get().empty()) return solveForFlow ? "Flow solved" : "Depth solved";
+  if (solveForFlow) return "Overflow: the depth is above the crown of the pipe";
+  if (ChannelState.ChannelType == ChannelTypes::Circular) {
+    const double greatest = ManningCircular::CircMaxFlow(
+        ChannelState.Diameter.Number(), ChannelState.Slope.Number(), ChannelState.ManningN.Number());
+    return "Overflow: the pipe carries at most " + Shown(greatest, Units::Flow, false) + " " +
+           lblFlowUnits.Caption.Get() + ", at 0.938 of its diameter";
+  }
+  return "Overflow: the channel does not carry this flow within " +
+         FixedFormat(Constants::DeepestResult, 1 / FactorOf(Units::Length), 0).Text() + " " +
+         lblDepthUnits.Caption.Get() + " of depth";
+}

@@ -1,0 +1,34 @@
+// See Program.h.
+#include "program/Program.h"
+
+#include "app/Declarations.h"
+#include "app/InitialFile.h"
+#include "app/frmDigits.h"
+#include "app/frmMannParam.h"
+
+namespace {
+
+template <class Dialog, class... Arguments>
+void ShowModal(Arguments&... arguments) {
+  Dialog dialog(arguments...);
+  TheServices().windows.ShowModal(dialog);
+}
+
+}  // namespace
+
+Program::Program(const Services& services) : Main(*this) {
+  InstallServices(services);
+  Declarations::Reset();
+}
+
+void Program::Start() {
+  InitialFile::LoadPreferences();
+  TheServices().windows.Show(Main);
+}
+
+void Program::OpenDigits() {
+  ShowModal<frmDigits>();
+}
+void Program::OpenMannParam() {
+  ShowModal<frmMannParam>(Main);
+}

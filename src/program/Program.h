@@ -1,0 +1,23 @@
+// The whole program without a screen: builds the windows and joins each command of the main window to its
+// window.
+#pragma once
+
+#include "app/SubWindows.h"
+#include "app/frmMain.h"
+#include "platform/Services.h"
+
+class Program : private SubWindows {
+ public:
+  /// Installs the services; they must outlive the program. One program at a time: it owns the shared
+  /// variables.
+  explicit Program(const Services& services);
+
+  /// Restores the preferences and shows the main window.
+  void Start();
+
+  frmMain Main;
+
+ private:
+  void OpenDigits() override;
+  void OpenMannParam() override;
+};
