@@ -1,5 +1,5 @@
-// What a person does to a control. The console does it to the controllers, the widget player to the real widgets;
-// both obey the same conversations.
+// What a person does to a control. The console does it to the controllers, the widget player to the real
+// widgets; both obey the same conversations.
 #pragma once
 
 #include <string>

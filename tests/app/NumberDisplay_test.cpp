@@ -1,0 +1,101 @@
+// Significant digits and fixed decimals, from hand-worked decimals and against a second way of rounding.
+#include "app/NumberDisplay.h"
+
+#include <cmath>
+#include <random>
+
+#include "engine/EngineFault.h"
+#include "support/LocaleTest.h"
+
+namespace {
+
+class NumberDisplay : public LocaleTest {};
+
+TEST_P(NumberDisplay, SignificantDigits) {
+  struct Case {
+    EngineValue Value;
+    int Digits;
+    const char* Shown;
+  };
+  for (const Case& each : std::initializer_list<Case>{
+           {1234.56, 3, "1,230"},
+           {0.012345, 3, "0.0123"},
+           {2.5, 3, "2.50"},
+           {0, 3, "0.00"},
+           {0.000123456, 2, "0.00012"},
+           {99.96, 3, "100.0"},
+           {12345, 2, "12,000"},
+           {-0.5, 3, "-0.500"},
+           {1234567.0, 5, "1,234,600"},
+           {0.25, 1, "0.2"},  // halves go to the even digit
+           {0.75, 1, "0.8"},
+           {25, 1, "20"},
+           {35, 1, "40"},
+           {9.5, 1, "10"},
+           {1000, 4, "1,000.0"},  // ln 1000 / ln 10 is a little below 3
+           {1e-7, 2, "0.00000010"},
+           {-1e20, 3, "-100,000,000,000,000,000,000"},
+       }) {
+    EXPECT_EQ(SigFormat(each.Value, 1, each.Digits).Text(), Spelled(each.Shown)) << each.Value.Text();
+  }
+  EXPECT_EQ(SigFormat(100, 1 / 35.31467, 3).Text(), Spelled("2.83"));
+  EXPECT_EQ(SigFormat(5e-324, 1, 3).Text(), "5e-324");  // its step underflows to zero
+}
+
+TEST_P(NumberDisplay, FixedDecimals) {
+  struct Case {
+    EngineValue Value;
+    int Decimals;
+    const char* Shown;
+  };
+  for (const Case& each : std::initializer_list<Case>{
+           {2.34567, 3, "2.346"},
+           {0.125, 2, "0.13"},  // halves away from zero,
+           {-0.125, 2, "-0.13"},
+           {1.005, 2, "1.01"},  // of the decimal a person sees, not of the double a little below it
+           {0.5, 0, "1"},
+           {1.5, 0, "2"},
+           {-0.0004, 3, "0.000"},
+           {0.0006, 3, "0.001"},
+           {0, 2, "0.00"},
+           {999.9996, 3, "1,000.000"},
+           {1234.568, 3, "1,234.568"},
+           {1e15, 1, "1,000,000,000,000,000.0"},
+           {123456789012345678.0, 0, "123,456,789,012,346,000"},
+           {4e-7, 3, "0.000"},
+           {99.95, 1, "100.0"},
+       }) {
+    EXPECT_EQ(FixedFormat(each.Value, 1, each.Decimals).Text(), Spelled(each.Shown)) << each.Value.Text();
+  }
+  EXPECT_EQ(FixedFormat(Spelled("1,000").c_str(), 1 / 3.28084, 3).Text(), Spelled("304.800"));
+}
+
+TEST_P(NumberDisplay, OtherThanNumbersPassAndWhatNoDoubleHoldsFaults) {
+  for (const EngineValue& value : {EngineValue(), EngineValue("Overflow"), EngineValue::False()}) {
+    EXPECT_EQ(SigFormat(value, 2, 3), value);
+    EXPECT_EQ(FixedFormat(value, 2, 3), value);
+  }
+  EXPECT_THROW(SigFormat(1e308, 35, 3), EngineFault);
+  EXPECT_THROW(FixedFormat(1e308, 35, 3), EngineFault);
+}
+
+// The last decimal shown is never further from the number than half a unit, and it reads back as a number.
+TEST_P(NumberDisplay, StaysWithinHalfAUnitOfTheNumber) {
+  std::mt19937_64 random(7);
+  std::uniform_real_distribution<double> exponent(-6, 9);
+  for (int i = 0; i < 3000; ++i) {
+    const double x = std::pow(10.0, exponent(random));
+    for (int digits = 1; digits <= 5; ++digits) {
+      const std::string fixed = FixedFormat(x, 1, digits).Text();
+      ASSERT_TRUE(IsNumeric(fixed)) << fixed;
+      EXPECT_LE(std::fabs(LeadingNumber(fixed) - x), 0.5 * std::pow(10.0, -digits) + x * 1e-14) << fixed;
+      const std::string significant = SigFormat(x, 1, digits).Text();
+      EXPECT_LE(std::fabs(LeadingNumber(significant) / x - 1), 0.5001 * std::pow(10.0, 1 - digits))
+          << significant;
+    }
+  }
+}
+
+INSTANTIATE_LOCALES(NumberDisplay);
+
+}  // namespace

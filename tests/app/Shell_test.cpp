@@ -1,0 +1,181 @@
+// Units, range checks, tidied numbers, and preferences that survive a run.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "app/Declarations.h"
+#include "app/FormStuff.h"
+#include "app/InitialFile.h"
+#include "app/SettingsFile.h"
+#include "app/Units.h"
+#include "engine/ChannelState.h"
+#include "support/FakeServices.h"
+#include "support/LocaleTest.h"
+
+namespace {
+
+TEST(UnitTable, CaptionsAndFactorsOfBothSystems) {
+  EXPECT_EQ(UnitLabel(0, 2), "cfs");
+  EXPECT_EQ(UnitLabel(1, 2), "m^3/s");
+  EXPECT_EQ(UnitLabel(1, 8), "");
+  // A cubic metre is 3.28084^3 cubic feet, an inch a twelfth of a foot.
+  EXPECT_NEAR(UnitFactor(1, 2), 3.28084 * 3.28084 * 3.28084, 1e-5);
+  EXPECT_NEAR(UnitFactor(1, 5), 3.28084 * 3.28084, 1e-5);
+  EXPECT_EQ(UnitFactor(0, 4), 1.0 / 12);
+  EXPECT_EQ(UnitFactor(1, 4) * 1000, UnitFactor(1, 1));
+  EXPECT_EQ(UnitLabel(2, 1), "");
+  EXPECT_THROW(UnitLabel(3, 1), std::out_of_range);
+  EXPECT_THROW(UnitFactor(-1, 1), std::out_of_range);
+  EXPECT_THROW(UnitFactor(0, 9), std::out_of_range);
+}
+
+class Helpers : public LocaleTest {
+ protected:
+  class NoWindows : public WindowHost {
+    void Open(Form&) override {}
+    void Wait(Form&) override {}
+  };
+  Helpers() { InstallServices(fakes_.With(windows_)); }
+
+  FakeServices fakes_;
+  NoWindows windows_;
+};
+
+TEST_P(Helpers, RangeChecksTellTheirBounds) {
+  using FormStuff::CheckRange;
+  EXPECT_TRUE(CheckRange(Spelled("0.5"), 0, false, 1, false, true));
+  EXPECT_TRUE(CheckRange("0", 0, true, 1, false, true));
+  EXPECT_TRUE(CheckRange("1", 0, false, 1, true, true));
+  EXPECT_TRUE(CheckRange("-7", {}, false, {}, false, true));
+  EXPECT_FALSE(CheckRange("", 0, false, 1, false, true));
+  EXPECT_TRUE(fakes_.messageBox.Boxes.empty()) << "an empty text is asked for, not complained about";
+  EXPECT_FALSE(CheckRange("0", 0, false, 1, false, true));
+  EXPECT_FALSE(CheckRange("1", 0, false, 1, false, true));
+  EXPECT_FALSE(CheckRange("x", {}, false, 2.5, true, true));
+  EXPECT_FALSE(CheckRange("-6", -5, true, {}, false, true));
+  EXPECT_FALSE(CheckRange("-6", -5, true, {}, false, false));
+  ASSERT_EQ(fakes_.messageBox.Boxes.size(), 4U);
+  EXPECT_EQ(fakes_.messageBox.Boxes[0].Title, "Warning");
+  EXPECT_EQ(fakes_.messageBox.Boxes[0].Icon, BoxIcon::Exclamation);
+  EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "Must be greater than 0 and less than 1");
+  EXPECT_EQ(fakes_.messageBox.Boxes[2].Text, "Must be less than or equal to " + Spelled("2.5"));
+  EXPECT_EQ(fakes_.messageBox.Boxes[3].Text, "Must be greater than or equal to-5");
+}
+
+TEST_P(Helpers, LeadingZeroOnlyWhereANumberLacksIt) {
+  Form form("form");
+  TextBox box{&form, "box"};
+  for (const auto& [typed, tidy] :
+       std::initializer_list<std::pair<const char*, const char*>>{{".5", "0.5"},
+                                                                  {".", "."},
+                                                                  {"-.5", "-.5"},
+                                                                  {"1.5", "1.5"},
+                                                                  {".5x", ".5x"},
+                                                                  {"abc", "abc"},
+                                                                  {"", ""},
+                                                                  {".5e1", ".5e1"},
+                                                                  {".25 ", "0.25 "}}) {
+    box.Text = Spelled(typed);
+    EXPECT_EQ(FormStuff::AddLeadingZero(box), Spelled(tidy));
+  }
+}
+
+INSTANTIATE_LOCALES(Helpers);
+
+class Preferences : public testing::Test {
+ protected:
+  Preferences() {
+    std::filesystem::remove_all(folder_);
+    Declarations::Reset();
+    SettingsFile::Use(path_);
+  }
+  ~Preferences() override { SettingsFile::Use(""); }
+
+  void Write(const std::string& text) {
+    std::filesystem::create_directories(folder_);
+    std::ofstream(path_, std::ios::binary) << text;
+  }
+  std::string Written() {
+    std::ifstream file(path_, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  static void ExpectDefaults() {
+    EXPECT_EQ(ChannelState.ChannelType, "Circular Channel");
+    EXPECT_FALSE(ChannelState.SolveForFlow);
+    EXPECT_EQ(ChannelState.UnitsEorM, 0);
+    EXPECT_EQ(Declarations::SigDigs, 3);
+    EXPECT_EQ(Declarations::EngDigs, 3);
+    EXPECT_EQ(Declarations::UserPath, "c:\\");
+  }
+
+  std::filesystem::path folder_ = std::filesystem::path(testing::TempDir()) / "flumewise-preferences";
+  std::string path_ = (folder_ / "deep" / "settings.ini").string();
+};
+
+TEST_F(Preferences, DefaultsWhereNothingUsableIsStored) {
+  folder_ /= "deep";
+  InitialFile::LoadPreferences();
+  ExpectDefaults();
+  for (const char* const text :
+       {"",
+        "[Startup]\nChanType=U-Channel\nSolveForFlow=maybe\nUnitsEorM=2\nSigDigs=7\nEngDigs=0\nUserPath=\n",
+        "[Startup]\nSigDigs=33\nEngDigs=-1\nUnitsEorM=\nChanType\n", "ChanType=Triangular Channel\n",
+        "[Other]\nSigDigs=5\n", "\xFF\xFE\x00\x01[Startup\n=\n\n]"}) {
+    Write(text);
+    InitialFile::LoadPreferences();
+    ExpectDefaults();
+  }
+  std::filesystem::remove(path_);
+  std::filesystem::create_directories(path_);
+  InitialFile::LoadPreferences();
+  ExpectDefaults();
+  InitialFile::SavePreferences();  // a folder in the place of the file: nothing to write to, nothing lost
+  EXPECT_TRUE(std::filesystem::is_directory(path_));
+}
+
+TEST_F(Preferences, EachAcceptedValueIsTaken) {
+  folder_ /= "deep";
+  Write(
+      "\xEF\xBB\xBF[Startup]\r\nChanType=Irregular "
+      "Section\r\nSolveForFlow=True\r\nUnitsEorM=1\r\nSigDigs=1\r\n"
+      "EngDigs=5\r\nUserPath=/home/J\xC3\xBCrgen/a = b/\r\n");
+  InitialFile::LoadPreferences();
+  EXPECT_EQ(ChannelState.ChannelType, "Irregular Section");
+  EXPECT_TRUE(ChannelState.SolveForFlow);
+  EXPECT_EQ(ChannelState.UnitsEorM, 1);
+  EXPECT_EQ(Declarations::SigDigs, 1);
+  EXPECT_EQ(Declarations::EngDigs, 5);
+  EXPECT_EQ(Declarations::UserPath, "/home/J\xC3\xBCrgen/a = b/");
+}
+
+TEST_F(Preferences, SavedInOrderBesideTheLinesOfOthers) {
+  ChannelState.ChannelType = "Trapezoidal Channel";
+  ChannelState.SolveForFlow = true;
+  Declarations::SigDigs = 4;
+  Declarations::UserPath = "/data/";
+  InitialFile::SavePreferences();
+  const std::string startup =
+      "[Startup]\nChanType=Trapezoidal Channel\nSolveForFlow=True\nUnitsEorM=0\nSigDigs=4\nEngDigs=3\n"
+      "UserPath=/data/\n";
+  EXPECT_EQ(Written(), startup);
+  folder_ /= "deep";
+  Write("[Window]\nWidth=5\n" + startup + "[Last]\nSigDigs=2\n");
+  Declarations::SigDigs = 1;
+  InitialFile::SavePreferences();
+  const std::string saved = Written();
+  EXPECT_TRUE(saved.starts_with("[Window]\nWidth=5\n[Startup]\nChanType=Trapezoidal Channel\n"));
+  EXPECT_NE(saved.find("\nSigDigs=1\nEngDigs=3\n"), std::string::npos);
+  EXPECT_TRUE(saved.ends_with("[Last]\nSigDigs=2\n"));
+}
+
+TEST(SettingsPath, FollowsTheDesktopsFolders) {
+  setenv("XDG_CONFIG_HOME", "/x/config", 1);
+  EXPECT_EQ(SettingsFile::DefaultPath(), "/x/config/flumewise/settings.ini");
+  setenv("XDG_CONFIG_HOME", "relative", 1);
+  setenv("HOME", "/home/me", 1);
+  EXPECT_EQ(SettingsFile::DefaultPath(), "/home/me/.config/flumewise/settings.ini");
+}
+
+}  // namespace

@@ -1,0 +1,334 @@
+// See Console.h.
+#include "console/Console.h"
+
+#include <charconv>
+#include <map>
+#include <stdexcept>
+
+#include "app/Declarations.h"
+#include "app/SettingsFile.h"
+#include "console/Inspect.h"
+
+namespace {
+
+/// A line that cannot be obeyed; the reply says why.
+class Refusal : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+using Words = std::vector<std::string>;
+
+const std::map<char, char> Escapes = {{'t', '\t'}, {'r', '\r'}, {'n', '\n'}, {'\\', '\\'}};
+
+std::string Unescaped(std::string_view text) {
+  std::string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto escape = text[i] == '\\' && i + 1 < text.size() ? Escapes.find(text[i + 1]) : Escapes.end();
+    plain += escape == Escapes.end() ? text[i] : escape->second;
+    if (escape != Escapes.end()) ++i;
+  }
+  return plain;
+}
+
+std::string Escaped(std::string_view text) {
+  std::string escaped;
+  for (const char c : text) {
+    const char* const name = c == '\t'   ? "\\t"
+                             : c == '\r' ? "\\r"
+                             : c == '\n' ? "\\n"
+                             : c == '\\' ? "\\\\"
+                                         : nullptr;
+    if (name != nullptr) {
+      escaped += name;
+    } else {
+      escaped += c;
+    }
+  }
+  return escaped;
+}
+
+int Whole(const std::string& word) {
+  int number = 0;
+  const auto read = std::from_chars(word.data(), word.data() + word.size(), number);
+  if (read.ec != std::errc() || read.ptr != word.data() + word.size())
+    throw Refusal("no whole number: " + word);
+  return number;
+}
+
+std::string Known(const std::optional<std::string>& value, const std::string& name) {
+  if (!value) throw Refusal("unknown: " + name);
+  return Escaped(*value);
+}
+
+void CancelForm(Form& form) {
+  auto* const cancel = dynamic_cast<Button*>(form.Find("cmdCancel"));
+  if (cancel != nullptr && cancel->Click) cancel->Click();
+  form.Unload();
+}
+
+}  // namespace
+
+/// A command takes one word, the rest of the line as its last argument, between so many words.
+struct Console::Command {
+  std::string_view Name;
+  std::size_t LeastArguments;
+  std::size_t MostArguments;
+  std::string (Console::*Perform)(const Words&);
+};
+
+const std::vector<Console::Command>& Console::Commands() {
+  static const std::vector<Command> commands = {
+      {"form", 0, 0, &Console::FormName},
+      {"type", 2, 2, &Console::Type},
+      {"focus", 1, 1, &Console::Focus},
+      {"click", 1, 1, &Console::Click},
+      {"dblclick", 1, 1, &Console::DoubleClick},
+      {"pick", 2, 2, &Console::Pick},
+      {"caret", 2, 2, &Console::Caret},
+      {"mark", 3, 3, &Console::Mark},
+      {"get", 1, 1, &Console::Get},
+      {"record", 1, 3, &Console::Record},
+      {"shared", 1, 1, &Console::Shared},
+      {"clipboard", 0, 1, &Console::ClipboardText},
+      {"answer", 1, 1, &Console::Answer},
+      {"choose", 1, 1, &Console::Choose},
+      {"messages", 0, 0, &Console::Messages},
+      {"close", 0, 0, &Console::Close},
+      {"locale", 2, 2, &Console::Locale},
+  };
+  return commands;
+}
+
+Console::Console(MakeStage makeStage, ReadLine read, WriteReply write)
+    : makeStage_(std::move(makeStage)), read_(std::move(read)), write_(std::move(write)) {}
+
+// The windows of a stage show the controls of the program, so they go first.
+Console::~Console() {
+  stage_ = {};
+}
+
+void Console::Run() {
+  Obey([] { return false; });
+}
+
+void Console::Obey(const std::function<bool()>& done) {
+  while (!done() && !unwinding_) {
+    if (pending_) write_(*pending_);
+    pending_.reset();
+    const std::optional<std::string> line = read_();
+    if (!line) {
+      unwinding_ = true;
+      return;
+    }
+    const std::size_t number = ++linesRead_;
+    const std::string reply = Execute(*line);
+    // A line that opened a window was answered then, and others after it.
+    if (number == linesRead_) pending_ = reply;
+    if (restart_ && stage_.Windows->OpenForms().size() <= 1) Restart();
+  }
+}
+
+void Console::Wait(Form& form) {
+  if (!unwinding_) {
+    pending_ = "ok";
+    Obey([&form] { return !form.IsLoaded(); });
+  }
+  if (unwinding_) CancelForm(form);
+}
+
+std::string Console::Execute(const std::string& line) {
+  try {
+    return Perform(line);
+  } catch (const Refusal& refusal) {
+    return std::string("error: ") + refusal.what();
+  }
+}
+
+std::string Console::Perform(const std::string& line) {
+  const std::size_t blank = line.find(' ');
+  const std::string name = line.substr(0, blank);
+  std::optional<std::string> rest;
+  if (blank != std::string::npos) rest = line.substr(blank + 1);
+  if (name == "start") {
+    restart_ = Unescaped(rest.value_or(""));
+    unwinding_ = stage_.Windows && stage_.Windows->OpenForms().size() > 1;
+    if (!unwinding_) Restart();
+    return "ok";
+  }
+  const bool ended = program_ && !program_->Main.IsLoaded();
+  if (ended || (!program_ && name != "locale")) throw Refusal("not running");
+  for (const Command& command : Commands()) {
+    if (command.Name != name) continue;
+    Words words;
+    while (rest) {
+      const std::size_t end = words.size() + 1 < command.MostArguments ? rest->find(' ') : std::string::npos;
+      words.push_back(Unescaped(rest->substr(0, end)));
+      if (end == std::string::npos) break;
+      rest = rest->substr(end + 1);
+    }
+    if (words.size() < command.LeastArguments || (command.MostArguments == 0 && !words.empty())) {
+      throw Refusal("wrong number of arguments");
+    }
+    return (this->*command.Perform)(words);
+  }
+  throw Refusal("unknown command: " + name);
+}
+
+void Console::Restart() {
+  unwinding_ = false;
+  stage_ = {};
+  program_.reset();
+  SettingsFile::Use(*std::exchange(restart_, std::nullopt));
+  SetNumberLocale(locale_);
+  stage_ = makeStage_([this](Form& form) { Wait(form); });
+  program_ = std::make_unique<Program>(services_.With(*stage_.Windows));
+  program_->Start();
+  pending_ = "ok";
+}
+
+Form& Console::Top() const {
+  Form* const top = stage_.Windows->Top();
+  if (top == nullptr) throw Refusal("not running");
+  return *top;
+}
+
+Form& Console::FormOf(std::string_view& path) const {
+  const std::string_view first = path.substr(0, path.find('.'));
+  for (Form* const form : stage_.Windows->OpenForms()) {
+    if (form->Name() != first) continue;
+    path.remove_prefix(std::min(path.size(), first.size() + 1));
+    return *form;
+  }
+  return Top();
+}
+
+Control& Console::Find(std::string_view path) const {
+  const std::string whole(path);
+  Control* const control = FormOf(path).Find(path);
+  if (control == nullptr) throw Refusal("no control " + whole);
+  return *control;
+}
+
+template <class Kind>
+Kind& Console::Usable(const std::string& name) const {
+  Control& control = Find(name);
+  auto* const usable = dynamic_cast<Kind*>(&control);
+  if (usable == nullptr) throw Refusal("not possible with " + name);
+  if (&control.Owner() != &Top()) throw Refusal("another window is on top");
+  if (!control.Visible) throw Refusal(name + " is hidden");
+  if (!control.Enabled) throw Refusal(name + " is disabled");
+  return *usable;
+}
+
+template <class Kind>
+Kind& Console::Focused(const std::string& name) {
+  Kind& control = Usable<Kind>(name);
+  stage_.Person->Focus(control);
+  return control;
+}
+
+std::string Console::Type(const Words& words) {
+  if (Usable<TextBox>(words[0]).Locked) throw Refusal(words[0] + " is locked");
+  stage_.Person->Type(Focused<TextBox>(words[0]), words[1]);
+  return "ok";
+}
+
+std::string Console::Focus(const Words& words) {
+  Focused<FocusControl>(words[0]);
+  return "ok";
+}
+
+std::string Console::Click(const Words& words) {
+  auto& control = Usable<Control>(words[0]);
+  if (dynamic_cast<HasClick*>(&control) == nullptr) throw Refusal("not possible with " + words[0]);
+  if (auto* const focusable = dynamic_cast<FocusControl*>(&control)) stage_.Person->Focus(*focusable);
+  stage_.Person->Click(control);
+  return "ok";
+}
+
+std::string Console::DoubleClick(const Words& words) {
+  stage_.Person->DoubleClick(Focused<ListBox>(words[0]));
+  return "ok";
+}
+
+std::string Console::Pick(const Words& words) {
+  const int index = Whole(words[1]);
+  ListBox& list = Usable<ListBox>(words[0]);
+  if (index < 0 || index >= static_cast<int>(list.Items.Get().size())) throw Refusal("no such line");
+  stage_.Person->Pick(Focused<ListBox>(words[0]), index);
+  return "ok";
+}
+
+std::string Console::Caret(const Words& words) {
+  stage_.Person->Select(Usable<TextBox>(words[0]), {Whole(words[1]), 0});
+  return "ok";
+}
+
+std::string Console::Mark(const Words& words) {
+  stage_.Person->Select(Usable<TextBox>(words[0]), {Whole(words[1]), Whole(words[2])});
+  return "ok";
+}
+
+std::string Console::Get(const Words& words) {
+  const std::size_t dot = words[0].rfind('.');
+  if (dot == std::string::npos) throw Refusal("no property named");
+  std::string_view path = std::string_view(words[0]).substr(0, dot);
+  const std::string property = words[0].substr(dot + 1);
+  const Form& form = FormOf(path);
+  if (path.empty())
+    return Known(property == "Caption" ? std::optional(form.Caption.Get()) : std::nullopt, words[0]);
+  return Known(Inspect::ControlProperty(Find(words[0].substr(0, dot)), property), words[0]);
+}
+
+std::string Console::Record(const Words& words) {
+  return Known(Inspect::RecordField(words), words[0]);
+}
+
+std::string Console::Shared(const Words& words) {
+  return Known(Inspect::SharedVariable(words[0]), words[0]);
+}
+
+std::string Console::ClipboardText(const Words& words) {
+  if (words.empty()) return Escaped(services_.clipboard.Text());
+  services_.clipboard.SetText(words[0]);
+  return "ok";
+}
+
+std::string Console::Answer(const Words& words) {
+  static const std::map<std::string, BoxAnswer> answers = {
+      {"Yes", BoxAnswer::Yes}, {"No", BoxAnswer::No}, {"Cancel", BoxAnswer::Cancel}, {"Ok", BoxAnswer::Ok}};
+  const auto answer = answers.find(words[0]);
+  if (answer == answers.end()) throw Refusal("no answer: " + words[0]);
+  services_.messageBox.Answers.push_back(answer->second);
+  return "ok";
+}
+
+std::string Console::Choose(const Words& words) {
+  services_.fileDialog.Choices.push_back(words[0] == "-" ? std::nullopt : std::optional(words[0]));
+  return "ok";
+}
+
+std::string Console::Messages(const Words&) {
+  std::string reply;
+  for (const FakeMessageBox::Shown& box : std::exchange(services_.messageBox.Boxes, {})) {
+    if (!reply.empty()) reply += '\t';
+    const char* const icon = box.Icon == BoxIcon::Exclamation ? "exclamation" : "information";
+    reply += Escaped(box.Title + "|" + icon + "|" + box.Text);
+  }
+  return reply;
+}
+
+std::string Console::FormName(const Words&) {
+  return Top().Name();
+}
+
+std::string Console::Close(const Words&) {
+  stage_.Person->Close(Top());
+  return "ok";
+}
+
+std::string Console::Locale(const Words& words) {
+  locale_ = {words[0], words[1]};
+  return "ok";
+}

@@ -1,0 +1,80 @@
+// See Conversation.h.
+#include "console/Conversation.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+bool IsDigit(char c) {
+  return std::isdigit(static_cast<unsigned char>(c)) != 0;
+}
+
+/// Swaps "." and "," where they stand beside a digit; lists of fixed texts keep theirs.
+std::string Respelled(std::string text) {
+  std::string respelled = text;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool inNumber = (i > 0 && IsDigit(text[i - 1])) || (i + 1 < text.size() && IsDigit(text[i + 1]));
+    if (inNumber && text[i] == '.') respelled[i] = ',';
+    if (inNumber && text[i] == ',') respelled[i] = '.';
+  }
+  return respelled;
+}
+
+}  // namespace
+
+std::vector<Exchange> ReadConversation(const std::string& path) {
+  std::vector<Exchange> conversation;
+  std::ifstream file(path);
+  for (std::string line; std::getline(file, line);) {
+    if (line.empty() || line.starts_with('#')) continue;
+    if (line.starts_with('=')) {
+      conversation.back().Reply = line.size() > 2 ? line.substr(2) : "";
+    } else {
+      conversation.push_back({line, "ok"});
+    }
+  }
+  return conversation;
+}
+
+std::vector<Exchange> WithDecimalComma(const std::vector<Exchange>& conversation) {
+  std::vector<Exchange> respelled = {{"locale , .", "ok"}};
+  for (const Exchange& exchange : conversation) {
+    const bool typed = exchange.Line.starts_with("type tb") || exchange.Line.starts_with("clipboard");
+    const bool read = exchange.Line.starts_with("get tb") || exchange.Line.starts_with("clipboard");
+    respelled.push_back({typed ? Respelled(exchange.Line) : exchange.Line,
+                         read ? Respelled(exchange.Reply) : exchange.Reply});
+  }
+  return respelled;
+}
+
+std::vector<std::string> Differences(const std::vector<Exchange>& conversation,
+                                     const Console::MakeStage& stage) {
+  std::vector<std::string> differences;
+  std::size_t asked = 0;
+  std::size_t answered = 0;
+  const auto read = [&]() -> std::optional<std::string> {
+    if (asked == conversation.size()) return std::nullopt;
+    return conversation[asked++].Line;
+  };
+  const auto write = [&](const std::string& reply) {
+    const Exchange& exchange = conversation[answered++];
+    if (reply != exchange.Reply) {
+      differences.push_back(exchange.Line + ": " + reply + " instead of " + exchange.Reply);
+    }
+  };
+  Console(stage, read, write).Run();
+  if (answered != conversation.size()) differences.push_back("the conversation broke off");
+  return differences;
+}
+
+std::vector<std::string> ConversationFiles(const std::string& folder) {
+  std::vector<std::string> files;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.path().extension() == ".txt") files.push_back(entry.path().string());
+  }
+  std::ranges::sort(files);
+  return files;
+}

@@ -1,0 +1,27 @@
+// A conversation with the program, kept as a file: a line to the console, and behind it the reply expected.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "console/Console.h"
+
+struct Exchange {
+  std::string Line;
+  std::string Reply;
+};
+
+/// Reads a conversation. A line "= reply" tells the reply to the line above, which else is "ok"; "#" starts a
+/// remark.
+std::vector<Exchange> ReadConversation(const std::string& path);
+
+/// The same conversation where the decimal sign is "," and "." groups digits: what is typed into boxes and
+/// read off them is spelled that way.
+std::vector<Exchange> WithDecimalComma(const std::vector<Exchange>& conversation);
+
+/// Holds the conversation and returns what went otherwise, a line each.
+std::vector<std::string> Differences(const std::vector<Exchange>& conversation,
+                                     const Console::MakeStage& stage);
+
+/// All conversations in a folder, by path.
+std::vector<std::string> ConversationFiles(const std::string& folder);

@@ -1,0 +1,129 @@
+// See Inspect.h.
+#include "console/Inspect.h"
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <map>
+
+#include "app/Declarations.h"
+#include "engine/ChannelState.h"
+
+namespace Inspect {
+
+namespace {
+
+std::string Told(bool value) {
+  return value ? "True" : "False";
+}
+std::string Told(int value) {
+  return std::to_string(value);
+}
+std::string Told(const std::string& value) {
+  return value;
+}
+
+std::string Told(const EngineValue& value) {
+  if (value.IsFalse()) return "false";
+  if (value.IsText()) return "t:" + value.Text();
+  std::array<char, 64> buffer{};
+  std::snprintf(buffer.data(), buffer.size(), "%a", value.Number());
+  return "d:" + std::string(buffer.data());
+}
+
+template <class T>
+std::string Told(const Property<T>& property) {
+  return Told(property.Get());
+}
+
+std::optional<std::string> TextBoxProperty(const TextBox& box, std::string_view property) {
+  if (property == "Text") return Told(box.Text);
+  if (property == "Locked") return Told(box.Locked);
+  if (property == "Bold") return Told(box.Bold);
+  if (property == "BackColor") return Told(box.BackColor);
+  if (property == "SelStart") return Told(box.Selection.Get().Start);
+  if (property == "SelLength") return Told(box.Selection.Get().Length);
+  if (property == "SelText") return box.SelectedText();
+  return std::nullopt;
+}
+
+const std::map<std::string, EngineValue ChannelRecord::*, std::less<>> Cells = {
+    {"Flow", &ChannelRecord::Flow},
+    {"Depth", &ChannelRecord::Depth},
+    {"ManningN", &ChannelRecord::ManningN},
+    {"Slope", &ChannelRecord::Slope},
+    {"Diameter", &ChannelRecord::Diameter},
+    {"BaseWidth", &ChannelRecord::BaseWidth},
+    {"SideSlopeRight", &ChannelRecord::SideSlopeRight},
+    {"SideSlopeLeft", &ChannelRecord::SideSlopeLeft},
+    {"Area", &ChannelRecord::Area},
+    {"Velocity", &ChannelRecord::Velocity},
+    {"VelocityHead", &ChannelRecord::VelocityHead},
+    {"WettedPerimeter", &ChannelRecord::WettedPerimeter},
+    {"HydraulicRadius", &ChannelRecord::HydraulicRadius},
+    {"TopWidth", &ChannelRecord::TopWidth},
+    {"Froude", &ChannelRecord::Froude},
+    {"CriticalDepth", &ChannelRecord::CriticalDepth},
+    {"CriticalSlope", &ChannelRecord::CriticalSlope},
+};
+
+std::optional<std::string> PointCell(const PointTable& points, const std::vector<std::string>& words) {
+  if (words.size() != 3) return std::nullopt;
+  std::size_t row = points.size();
+  std::size_t column = 0;
+  std::from_chars(words[1].data(), words[1].data() + words[1].size(), row);
+  std::from_chars(words[2].data(), words[2].data() + words[2].size(), column);
+  if (row >= points.size() || column >= points[row].size()) return std::nullopt;
+  return Told(points[row][column]);
+}
+
+}  // namespace
+
+std::optional<std::string> ControlProperty(const Control& control, std::string_view property) {
+  if (property == "Enabled") return Told(control.Enabled);
+  if (property == "Visible") return Told(control.Visible);
+  if (property == "ToolTip") return Told(control.ToolTip);
+  if (const auto* captioned = dynamic_cast<const HasCaption*>(&control); captioned && property == "Caption") {
+    return Told(captioned->Caption);
+  }
+  if (const auto* item = dynamic_cast<const MenuItem*>(&control); item && property == "Checked") {
+    return Told(item->Checked);
+  }
+  if (const auto* option = dynamic_cast<const OptionButton*>(&control); option && property == "Value") {
+    return Told(option->Value);
+  }
+  if (const auto* list = dynamic_cast<const ListBox*>(&control); list && property == "ListIndex") {
+    return Told(list->ListIndex);
+  }
+  if (const auto* list = dynamic_cast<const ListBox*>(&control); list && property == "Text") {
+    const int index = list->ListIndex;
+    return index < 0 ? "" : list->Items.Get()[static_cast<std::size_t>(index)];
+  }
+  if (const auto* box = dynamic_cast<const TextBox*>(&control)) return TextBoxProperty(*box, property);
+  return std::nullopt;
+}
+
+std::optional<std::string> RecordField(const std::vector<std::string>& words) {
+  const std::string& name = words.front();
+  const ChannelRecord& record = ChannelState;
+  if (name == "points") return PointCell(record.IrregPoints, words);
+  if (name == "enginepoints") return PointCell(record.IrregEnginePoints, words);
+  if (const auto cell = Cells.find(name); cell != Cells.end()) return Told(record.*cell->second);
+  if (name == "ChannelType") return record.ChannelType;
+  if (name == "SolveForFlow") return Told(record.SolveForFlow);
+  if (name == "UnitsEorM") return Told(record.UnitsEorM);
+  if (name == "IrregPointCount") return Told(record.IrregPointCount);
+  return std::nullopt;
+}
+
+std::optional<std::string> SharedVariable(std::string_view name) {
+  if (name == "DataChanged") return Told(Declarations::DataChanged);
+  if (name == "FilePath") return Declarations::FilePath;
+  if (name == "FileTitle") return Declarations::FileTitle;
+  if (name == "UserPath") return Declarations::UserPath;
+  if (name == "SigDigs") return Told(Declarations::SigDigs);
+  if (name == "EngDigs") return Told(Declarations::EngDigs);
+  return std::nullopt;
+}
+
+}  // namespace Inspect

@@ -1,0 +1,18 @@
+// flumewise-console: the whole calculator without a screen, driven by lines of standard input.
+#include <iostream>
+
+#include "console/ConsoleStage.h"
+
+int main() {
+  std::ios::sync_with_stdio(false);
+  const auto read = []() -> std::optional<std::string> {
+    std::string line;
+    if (!std::getline(std::cin, line)) return std::nullopt;
+    if (line.ends_with('\r')) line.pop_back();
+    return line;
+  };
+  Console console(ControllerStage, read, [](const std::string& reply) {
+    std::cout << reply << '\n' << std::flush;
+  });
+  console.Run();
+}
