@@ -53,6 +53,8 @@ class WindowHost {
   void ShowModal(Form& form);
   /// The form that answers the keyboard; null when none is open.
   Form* Top() const;
+  /// From the lowest to the one on top, and forms just unloaded.
+  const std::vector<Form*>& OpenForms() const { return open_; }
 
  protected:
   virtual void Open(Form& form) = 0;
