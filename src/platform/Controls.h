@@ -40,6 +40,11 @@ class FocusControl : public Control {
   std::function<void()> Validate;
   std::function<void()> LostFocus;
   std::function<void()> GotFocus;
+
+  /// False: entering this control leaves an edit in another one as it is.
+  virtual bool CausesValidation() const { return true; }
+
+  std::function<void()> FocusView;  // set by the view: gives the widget the keyboard
 };
 
 /// The part that labels, buttons, option buttons and menu items share.
@@ -98,6 +103,8 @@ class TextBox : public FocusControl {
   Property<bool> Offending{false};
 
   std::function<void()>& Change = Text.Event;
+  /// A key goes down, by its code; true when the key is used up and the box does not see it.
+  std::function<bool(int keyCode)> KeyDown;
 
   /// The selected part of the text.
   std::string SelectedText() const;

@@ -25,9 +25,10 @@ void Form::Unload() {
 void Form::MoveFocus(FocusControl& next) {
   if (active_ == &next) return;
   if (FocusControl* const left = active_) {
-    if (left->Validate) left->Validate();
+    if (left->Validate && next.CausesValidation()) left->Validate();
     if (left->LostFocus) left->LostFocus();
   }
   active_ = &next;
+  if (next.FocusView) next.FocusView();
   if (next.GotFocus) next.GotFocus();
 }
