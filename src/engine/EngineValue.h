@@ -20,6 +20,10 @@ class EngineValue {
   bool IsDouble() const { return std::holds_alternative<double>(value_); }
   bool IsText() const { return std::holds_alternative<std::string>(value_); }
   bool IsFalse() const { return std::holds_alternative<std::monostate>(value_); }
+  bool IsEmptyText() const {
+    const auto* text = std::get_if<std::string>(&value_);
+    return text != nullptr && text->empty();
+  }
   bool IsNumeric() const;  // a double, or a text that is one number in the current locale
 
   // A double itself, the leading number of a text; 0 for a text without one and for false.

@@ -54,13 +54,20 @@ struct Ground {
       const bool wet2 = e[i + 1] < W;
       if (wet1 && wet2) {
         add(dx[i] * ((W - e[i]) + (W - e[i + 1])) / 2, dx[i], [&] { return length[i]; });
-      } else if (wet1 || wet2) {
-        const double shore = x[i] + dx[i] * (e[i] - W) / (e[i] - e[i + 1]);
-        const double width = wet2 ? x[i + 1] - shore : shore - x[i];
-        const double depth = W - (wet2 ? e[i + 1] : e[i]);
-        add(width * depth / 2, width, [&] { return std::sqrt(width * width + depth * depth); });
+      } else if (wet2) {
+        AddClipped(x[i + 1] - Shore(i, W), W - e[i + 1], add);
+      } else if (wet1) {
+        AddClipped(Shore(i, W) - x[i], W - e[i], add);
       }
     }
+  }
+
+  // Station at which the water surface meets the segment i.
+  double Shore(size_t i, double W) const { return x[i] + dx[i] * (e[i] - W) / (e[i] - e[i + 1]); }
+
+  template <typename Add>
+  static void AddClipped(double width, double depth, Add& add) {
+    add(width * depth / 2, width, [&] { return std::sqrt(width * width + depth * depth); });
   }
 
   // All of the water, each quantity checked by its user: a fault belongs to the result it spoils.
@@ -100,7 +107,7 @@ struct Roughness {
   Roughness(const PointTable& points, size_t last) {
     for (size_t i = 1; i < last; ++i) {
       const EngineValue& n = points[i][3];
-      if (n.IsText() && n.Text().empty()) {
+      if (n.IsEmptyText()) {
         if (count == 0) ThrowFault("the first point has no Manning's n");
         subsections[count - 1].to = i + 1;
       } else {
