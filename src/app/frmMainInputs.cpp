@@ -4,6 +4,7 @@
 
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
+#include "app/Loading.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/frmMain.h"
@@ -11,19 +12,6 @@
 #include "platform/Services.h"
 
 namespace {
-
-/// While it lives, boxes are being filled together and nothing is computed from half of them.
-class Loading {
- public:
-  explicit Loading(bool& loading) : loading_(loading), before_(loading) { loading_ = true; }
-  ~Loading() { loading_ = before_; }
-  Loading(const Loading&) = delete;
-  Loading& operator=(const Loading&) = delete;
-
- private:
-  bool& loading_;
-  bool before_;
-};
 
 /// A typed length, flow or diameter in the unit system now in force. What is not a number, or too large for
 /// one afterwards, stays as it is.
@@ -72,10 +60,7 @@ void frmMain::ResetForm() {
          {&tbProjName, &tbFlow, &tbDepth, &tbMann, &tbSlope, &tbDiameter, &tbBaseWidth}) {
       box->Text = "";
     }
-    // Without this a section entered next would take up points and roughness of the one given up.
-    ChannelState.IrregPointCount = 0;
-    ChannelState.IrregPoints = {};
-    for (auto& row : ChannelState.IrregEnginePoints) row[3] = EngineValue();
+    EmptySection();
     WriteHiddenZeros();
   }
   Declarations::DataChanged = false;

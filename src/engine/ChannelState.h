@@ -53,3 +53,7 @@ struct ChannelRecord {
 };
 
 extern ChannelRecord ChannelState;
+
+// Leaves the problem without a surveyed section: a section entered next takes up no point and no roughness of
+// the one given up.
+void EmptySection();
