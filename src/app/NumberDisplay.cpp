@@ -1,6 +1,7 @@
 // See NumberDisplay.h.
 #include "app/NumberDisplay.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -11,67 +12,55 @@
 
 namespace {
 
-/// The digits of |x| as a decimal of 15 significant digits: Digits[0] stands before the decimal point when
-/// Exponent is 0.
-struct Decimal {
-  std::string Digits;
-  int Exponent = 0;
-};
-
-Decimal FifteenDigits(double x) {
-  std::array<char, 32> buffer{};
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(x),
-                                 std::chars_format::scientific, 14)
-                       .ptr;
-  const std::string text(buffer.data(), end);
-  const std::size_t e = text.find('e');
-  Decimal decimal{text.substr(0, 1) + text.substr(2, e - 2), 0};
-  const char* exponent = text.data() + e + 1;
-  if (*exponent == '+') ++exponent;
-  std::from_chars(exponent, text.data() + text.size(), decimal.Exponent);
-  return decimal;
-}
+constexpr int SeenDigits = 15;  // of a double, as a person sees it in decimals
 
 /// The digits of |x| in units of 10^-decimals, halves rounded away from zero, at least one before the point.
 std::string ScaledDigits(double x, int decimals) {
-  const Decimal decimal = FifteenDigits(x);
-  const int kept = decimal.Exponent + 1 + decimals;
-  std::string digits;
-  if (kept >= 0) digits = decimal.Digits.substr(0, static_cast<std::size_t>(kept));
-  if (kept > static_cast<int>(digits.size()))
-    digits.append(static_cast<std::size_t>(kept) - digits.size(), '0');
-  const bool up = kept >= 0 && kept < static_cast<int>(decimal.Digits.size()) &&
-                  decimal.Digits[static_cast<std::size_t>(kept)] >= '5';
-  if (up) {
-    std::size_t place = digits.size();
-    while (place > 0 && digits[place - 1] == '9') digits[--place] = '0';
-    if (place > 0) {
-      ++digits[place - 1];
-    } else {
-      digits.insert(0, 1, '1');
-    }
-  }
-  const auto wanted = static_cast<std::size_t>(decimals) + 1;
-  if (digits.size() < wanted) digits.insert(0, wanted - digits.size(), '0');
-  return digits;
-}
+  std::array<char, 32> text{};  // d.dddddddddddddde+xx
+  const char* const end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(x),
+                                        std::chars_format::scientific, SeenDigits - 1)
+                              .ptr;
+  text[1] = text[0];  // the digits without their point
+  const char* const seen = text.data() + 1;
+  const char* exponentText = seen + SeenDigits + 1;
+  if (*exponentText == '+') ++exponentText;
+  int exponent = 0;
+  std::from_chars(exponentText, end, exponent);
 
-std::string Grouped(const std::string& whole) {
-  std::string grouped;
-  for (std::size_t i = 0; i < whole.size(); ++i) {
-    if (i > 0 && (whole.size() - i) % 3 == 0) grouped += CurrentNumberLocale().GroupSeparator;
-    grouped += whole[i];
+  const int wanted = decimals + 1;
+  const int kept = exponent + 1 + decimals;
+  std::string digits(static_cast<std::size_t>(std::max({kept, wanted, 1}) + 1), '0');
+  const int copied = std::clamp(kept, 0, SeenDigits);
+  std::copy_n(seen, copied, digits.end() - std::max(kept, 0));
+  if (kept >= 0 && kept < SeenDigits && seen[kept] >= '5') {
+    auto place = digits.rbegin();
+    while (*place == '9') *place++ = '0';
+    ++*place;
   }
-  return grouped;
+  // In front stand the zeros that a carry did not use up.
+  const std::size_t spare =
+      std::min(digits.find_first_not_of('0'), digits.size() - static_cast<std::size_t>(wanted));
+  return digits.erase(0, spare);
 }
 
 std::string FixedText(double x, int decimals) {
+  const NumberLocale& locale = CurrentNumberLocale();
   const std::string digits = ScaledDigits(x, decimals);
   const std::size_t point = digits.size() - static_cast<std::size_t>(decimals);
-  std::string text = Grouped(digits.substr(0, point));
-  if (decimals > 0) text += CurrentNumberLocale().DecimalSign + digits.substr(point);
+  std::string text;
   const bool shownAsZero = digits.find_first_not_of('0') == std::string::npos;
-  return x < 0 && !shownAsZero ? "-" + text : text;
+  if (x < 0 && !shownAsZero) text += '-';
+  const std::size_t firstGroup = (point - 1) % 3 + 1;
+  text.append(digits, 0, firstGroup);
+  for (std::size_t group = firstGroup; group < point; group += 3) {
+    text += locale.GroupSeparator;
+    text.append(digits, group, 3);
+  }
+  if (decimals > 0) {
+    text += locale.DecimalSign;
+    text.append(digits, point);
+  }
+  return text;
 }
 
 }  // namespace

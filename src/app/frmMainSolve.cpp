@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
-#include <map>
 #include <span>
+#include <utility>
 
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
@@ -20,35 +20,43 @@ namespace {
 
 using FormStuff::Range;
 
-struct Bound {
-  TextBox frmMain::*Box;
-  Label frmMain::*Name;
-  Range Allowed;
-};
-
 constexpr Range Positive{0.0, false, {}, false};
 constexpr Range NotNegative{0.0, true, {}, false};
 constexpr Range BetweenZeroAndOne{0.0, false, 1.0, false};
 
-constexpr Bound FlowBound{&frmMain::tbFlow, &frmMain::lblFlow, Positive};
-constexpr Bound DepthBound{&frmMain::tbDepth, &frmMain::lblDepth, Positive};
-constexpr Bound SlopeBound{&frmMain::tbSlope, &frmMain::lblSlope, BetweenZeroAndOne};
-constexpr Bound RoughnessBound{&frmMain::tbMann, &frmMain::lblMann, BetweenZeroAndOne};
+enum Shapes : unsigned { Pipe = 1, Prism = 2, Section = 4 };
 
-constexpr Bound CircularBounds[] = {
-    SlopeBound, RoughnessBound, {&frmMain::tbDiameter, &frmMain::lblDiameter, Positive}};
-constexpr Bound PrismaticBounds[] = {SlopeBound,
-                                     RoughnessBound,
-                                     {&frmMain::tbBaseWidth, &frmMain::lblBaseWidth, NotNegative},
-                                     {&frmMain::tbSSL, &frmMain::lblSSL, NotNegative},
-                                     {&frmMain::tbSSR, &frmMain::lblSSR, NotNegative}};
-constexpr Bound IrregularBounds[] = {SlopeBound};
-
-std::span<const Bound> BoundsOf(std::string_view type) {
-  if (type == ChannelTypes::Circular) return CircularBounds;
-  if (type == ChannelTypes::Irregular) return IrregularBounds;
-  return PrismaticBounds;
+Shapes ShapeOf(std::string_view type) {
+  if (type == ChannelTypes::Circular) return Pipe;
+  return type == ChannelTypes::Irregular ? Section : Prism;
 }
+
+enum class Solving { Always, ForDepth, ForFlow };
+
+/// What an input box must hold, for which channels and in which mode.
+struct Bound {
+  TextBox frmMain::*Box;
+  Label frmMain::*Name;
+  Range Allowed;
+  unsigned For;
+  Solving When = Solving::Always;
+
+  bool Applies() const {
+    const Solving mode = ChannelState.SolveForFlow ? Solving::ForFlow : Solving::ForDepth;
+    return (For & ShapeOf(ChannelState.ChannelType)) != 0 && (When == Solving::Always || When == mode);
+  }
+};
+
+constexpr Bound Bounds[] = {
+    {&frmMain::tbFlow, &frmMain::lblFlow, Positive, Pipe | Prism | Section, Solving::ForDepth},
+    {&frmMain::tbDepth, &frmMain::lblDepth, Positive, Pipe | Prism, Solving::ForFlow},
+    {&frmMain::tbSlope, &frmMain::lblSlope, BetweenZeroAndOne, Pipe | Prism | Section},
+    {&frmMain::tbMann, &frmMain::lblMann, BetweenZeroAndOne, Pipe | Prism},
+    {&frmMain::tbDiameter, &frmMain::lblDiameter, Positive, Pipe},
+    {&frmMain::tbBaseWidth, &frmMain::lblBaseWidth, NotNegative, Prism},
+    {&frmMain::tbSSL, &frmMain::lblSSL, NotNegative, Prism},
+    {&frmMain::tbSSR, &frmMain::lblSSR, NotNegative, Prism},
+};
 
 struct Result {
   TextBox frmMain::*Box;
@@ -87,12 +95,9 @@ double Internal(const TextBox& box, int quantity) {
   return EngineValue(box.Text).Number() * FactorOf(quantity);
 }
 
-std::string Offence(const TextBox& box, const Label& name, const Range& allowed) {
-  if (FormStuff::CheckRange(box.Text.Get(), allowed.Min, allowed.MinInclusive, allowed.Max,
-                            allowed.MaxInclusive, false)) {
-    return "";
-  }
-  return name.Caption.Get() + " must be" + FormStuff::RangeText(allowed);
+bool InRange(const TextBox& box, const Range& allowed) {
+  return FormStuff::CheckRange(box.Text.Get(), allowed.Min, allowed.MinInclusive, allowed.Max,
+                               allowed.MaxInclusive, false);
 }
 
 /// The same depth in two units differs in the last bits: a pipe typed full is full.
@@ -125,33 +130,23 @@ void frmMain::CheckInputs() {
 }
 
 std::string frmMain::MarkOffences() {
-  std::map<const TextBox*, std::string> offences;
-  std::string first;
-  const auto add = [&](const TextBox& box, const std::string& offence) {
-    offences[&box] = offence;
-    if (first.empty()) first = offence;
-  };
-  const auto test = [&](const Bound& bound) {
-    add(this->*bound.Box, Offence(this->*bound.Box, this->*bound.Name, bound.Allowed));
-  };
   const std::string_view type = ChannelState.ChannelType;
-  if (type == ChannelTypes::Irregular && ChannelState.IrregPoints[1][1] == EngineValue("")) {
-    first = "Enter the points of the section";
-  }
-  if (type == ChannelTypes::Irregular && ChannelState.SolveForFlow) {
-    add(tbDepth, WaterSurfaceOffence());
-  } else {
-    test(ChannelState.SolveForFlow ? DepthBound : FlowBound);
-  }
-  for (const Bound& bound : BoundsOf(type)) test(bound);
+  const bool section = type == ChannelTypes::Irregular;
+  std::string first;
   if (std::ranges::find(ChannelTypes::All, type) == ChannelTypes::All.end()) first = "Choose a channel type";
-
-  for (TextBox* const box :
-       {&tbFlow, &tbDepth, &tbSlope, &tbMann, &tbBaseWidth, &tbSSL, &tbSSR, &tbDiameter}) {
-    const std::string& offence = offences[box];
-    box->ToolTip = offence;
+  if (section && ChannelState.IrregPoints[1][1] == EngineValue("")) first = "Enter the points of the section";
+  for (const Bound& bound : Bounds) {
+    TextBox& box = this->*bound.Box;
+    std::string offence;
+    if (section && ChannelState.SolveForFlow && &box == &tbDepth) {
+      offence = WaterSurfaceOffence();
+    } else if (bound.Applies() && !InRange(box, bound.Allowed)) {
+      offence = (this->*bound.Name).Caption.Get() + " must be" + FormStuff::RangeText(bound.Allowed);
+    }
     // An empty box is a question, not a mistake.
-    box->Offending = !offence.empty() && !box->Text.Get().empty();
+    box.Offending = !offence.empty() && !box.Text.Get().empty();
+    box.ToolTip = offence;
+    if (first.empty()) first = std::move(offence);
   }
   return first;
 }
