@@ -33,7 +33,8 @@ bool CheckRange(std::string_view value, std::optional<double> min, bool minInclu
                 std::optional<double> max, bool maxInclusive, bool showMessage) {
   if (value.empty()) return false;
   const Range range{min, minInclusive, max, maxInclusive};
-  const bool valid = IsNumeric(value) && Within(LeadingNumber(value), range);
+  const std::optional<double> number = NumericValue(value);
+  const bool valid = number && Within(*number, range);
   if (!valid && showMessage) {
     TheServices().messageBox.Show("Must be" + RangeText(range), "Warning", BoxIcon::Exclamation,
                                   BoxButtons::Ok);
@@ -47,9 +48,9 @@ void SelectAllText(TextBox& box) {
 
 std::string AddLeadingZero(const TextBox& box) {
   const std::string& text = box.Text;
-  if (!text.starts_with(CurrentNumberLocale().DecimalSign) || !IsNumeric(text)) return text;
-  const double x = LeadingNumber(text);
-  return x >= 0 && x < 1 ? "0" + text : text;
+  if (!text.starts_with(CurrentNumberLocale().DecimalSign)) return text;
+  const std::optional<double> number = NumericValue(text);
+  return number && *number >= 0 && *number < 1 ? "0" + text : text;
 }
 
 }  // namespace FormStuff

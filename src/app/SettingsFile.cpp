@@ -40,10 +40,15 @@ Lines ReadLines() {
   return lines;
 }
 
+std::string HeadOf(std::string_view section) {
+  std::string head = "[";
+  head += section;
+  return head += ']';
+}
+
 /// The lines of a section, its head not counted; both ends at the end of the file when there is none.
 std::pair<Line, Line> FindSection(Lines& lines, std::string_view section) {
-  const std::string head = "[" + std::string(section) + "]";
-  const Line found = std::find(lines.begin(), lines.end(), head);
+  const Line found = std::find(lines.begin(), lines.end(), HeadOf(section));
   if (found == lines.end()) return {found, found};
   const Line first = std::next(found);
   return {first,
@@ -98,7 +103,7 @@ std::string Get(std::string_view section, std::string_view key) {
 void Save(std::string_view section, const std::vector<std::pair<std::string, std::string>>& values) {
   if (path_.empty()) return;
   Lines lines = ReadLines();
-  if (FindSection(lines, section).first == lines.end()) lines.push_back("[" + std::string(section) + "]");
+  if (FindSection(lines, section).first == lines.end()) lines.push_back(HeadOf(section));
   for (const auto& [key, value] : values) {
     if (value.find_first_of("\r\n") != std::string::npos) continue;
     const std::string text = key + "=" + value;

@@ -14,6 +14,7 @@
 #include "engine/Constants.h"
 #include "engine/EngineFault.h"
 #include "engine/ManningCircular.h"
+#include "engine/NumberText.h"
 #include "engine/SolveChannel.h"
 
 namespace {

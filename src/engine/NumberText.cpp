@@ -147,10 +147,15 @@ const NumberLocale& CurrentNumberLocale() {
   return Locale();
 }
 
-bool IsNumeric(std::string_view text) {
+std::optional<double> NumericValue(std::string_view text) {
   const ScannedNumber number = Scan(text, Locale());
   const std::string_view rest = text.substr(number.end);
-  return std::all_of(rest.begin(), rest.end(), IsBlank) && Value(number).has_value();
+  if (!std::all_of(rest.begin(), rest.end(), IsBlank)) return std::nullopt;
+  return Value(number);
+}
+
+bool IsNumeric(std::string_view text) {
+  return NumericValue(text).has_value();
 }
 
 double LeadingNumber(std::string_view text) {

@@ -1,6 +1,7 @@
 // Numbers as people write them: reading them from text boxes and spelling them plainly.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,9 @@ const NumberLocale& CurrentNumberLocale();
 // True when the whole text is one number: blanks and TABs around it, one sign in front, plain digits or
 // proper groups of three, the decimal sign, an exponent. False for a value too large for a double.
 bool IsNumeric(std::string_view text);
+
+// Its value where IsNumeric is true, else nothing.
+std::optional<double> NumericValue(std::string_view text);
 
 // The value of the longest leading part of the text that is a number; 0 where there is none or where the
 // value is too large for a double.
