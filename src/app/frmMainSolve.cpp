@@ -93,7 +93,7 @@ std::string Shown(const EngineValue& value, int quantity, bool fixedDecimals) {
 
 /// A typed number in feet and seconds; a text that is not a number counts its leading number.
 double Internal(const TextBox& box, int quantity) {
-  return EngineValue(box.Text).Number() * FactorOf(quantity);
+  return LeadingNumber(box.Text.Get()) * FactorOf(quantity);
 }
 
 bool InRange(const TextBox& box, const Range& allowed) {
