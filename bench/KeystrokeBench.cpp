@@ -1,28 +1,23 @@
 // What one keystroke costs beside the engine: parse and check the inputs, solve for the depth, format ten boxes.
 #include <benchmark/benchmark.h>
 
-#include <chrono>
-#include <cstdio>
-
-#include "app/Declarations.h"
-#include "app/frmMain.h"
 #include "engine/ChannelState.h"
 #include "engine/SolveChannel.h"
+#include "program/Program.h"
+#include "support/FakeServices.h"
 
 namespace {
 
-class NoWindows : public SubWindows {
-  void OpenDigits() override {}
-  void OpenMannParam() override {}
+class NoScreen : public WindowHost {
+  void Open(Form&) override {}
+  void Wait(Form&) override {}
 };
 
 /// The window with the trapezoid b 20 ft, z 2, n 0.025, S 0.0016 typed in.
 struct Window {
-  Window() : Main(None) {
-    Declarations::Reset();
-    ChannelState.ChannelType = ChannelTypes::Trapezoidal;
-    Main.Load();
-    Main.Form_Activate();
+  Window() : All(Fakes.With(Screen)), Main(All.Main) {
+    All.Start();
+    Main.mnuOptionsTrap_Click();
     Main.tbFlow.Text = "400";
     Main.tbSlope.Text = "0.0016";
     Main.tbMann.Text = "0.025";
@@ -30,8 +25,10 @@ struct Window {
     Main.tbSSL.Text = "2";
     Main.tbSSR.Text = "2";
   }
-  NoWindows None;
-  frmMain Main;
+  FakeServices Fakes;
+  NoScreen Screen;
+  Program All;
+  frmMain& Main;
 };
 
 void Keystroke(benchmark::State& state) {
@@ -45,7 +42,7 @@ void Keystroke(benchmark::State& state) {
 BENCHMARK(Keystroke);
 
 void TrapezoidOperation(benchmark::State& state) {
-  const Window window;
+  const Window window;  // leaves the inputs in the record
   bool longer = false;
   for (auto _ : state) {
     longer = !longer;
