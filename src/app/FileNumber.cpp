@@ -1,0 +1,68 @@
+// See FileNumber.h.
+#include "app/FileNumber.h"
+
+#include <utility>
+
+#include "engine/NumberText.h"
+
+namespace FileNumber {
+
+namespace {
+
+const NumberLocale FileLocale{".", ","};
+
+bool IsNumericIn(const NumberLocale& locale, std::string_view text) {
+  NumberLocale user = CurrentNumberLocale();
+  SetNumberLocale(locale);
+  const bool numeric = ::IsNumeric(text);
+  SetNumberLocale(std::move(user));
+  return numeric;
+}
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+/// Length of the group separator, or of the plain blank typed for one, that `rest` begins with: 0 unless a
+/// digit follows, as after a blank at the end of the number.
+size_t SeparatorLength(std::string_view rest, std::string_view separator) {
+  const bool itself = !separator.empty() && rest.starts_with(separator);
+  const size_t length = itself ? separator.size() : size_t{rest.starts_with(' ')};
+  return length < rest.size() && IsDigit(rest[length]) ? length : 0;
+}
+
+std::string Respelled(const std::string& text, const NumberLocale& from, const NumberLocale& to) {
+  if (!IsNumericIn(from, text)) return text;
+  std::string spelled;
+  for (std::string_view rest = text; !rest.empty();) {
+    const bool afterDigit = !spelled.empty() && IsDigit(spelled.back());
+    const size_t separator = afterDigit ? SeparatorLength(rest, from.GroupSeparator) : 0;
+    if (rest.starts_with(from.DecimalSign)) {
+      spelled += to.DecimalSign;
+      rest.remove_prefix(from.DecimalSign.size());
+    } else if (separator > 0) {
+      spelled += to.GroupSeparator;
+      rest.remove_prefix(separator);
+    } else {
+      spelled += rest.front();
+      rest.remove_prefix(1);
+    }
+  }
+  return spelled;
+}
+
+}  // namespace
+
+bool IsNumeric(std::string_view text) {
+  return IsNumericIn(FileLocale, text);
+}
+
+std::string FromUser(const std::string& text) {
+  return Respelled(text, CurrentNumberLocale(), FileLocale);
+}
+
+std::string ToUser(const std::string& text) {
+  return Respelled(text, FileLocale, CurrentNumberLocale());
+}
+
+}  // namespace FileNumber
