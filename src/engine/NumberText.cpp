@@ -148,7 +148,11 @@ const NumberLocale& CurrentNumberLocale() {
 }
 
 std::optional<double> NumericValue(std::string_view text) {
-  const ScannedNumber number = Scan(text, Locale());
+  return NumericValue(text, Locale());
+}
+
+std::optional<double> NumericValue(std::string_view text, const NumberLocale& locale) {
+  const ScannedNumber number = Scan(text, locale);
   const std::string_view rest = text.substr(number.end);
   if (!std::all_of(rest.begin(), rest.end(), IsBlank)) return std::nullopt;
   return Value(number);

@@ -22,6 +22,7 @@ bool IsNumeric(std::string_view text);
 
 // Its value where IsNumeric is true, else nothing.
 std::optional<double> NumericValue(std::string_view text);
+std::optional<double> NumericValue(std::string_view text, const NumberLocale& locale);
 
 // The value of the longest leading part of the text that is a number; 0 where there is none or where the
 // value is too large for a double.

@@ -26,6 +26,10 @@ Control::Control(Form* form, std::string name) : form_(*form), name_(std::move(n
   form_.controls_.push_back(this);
 }
 
+int TextBox::Length() const {
+  return CharacterCount(Text.Get());
+}
+
 std::string TextBox::SelectedText() const {
   const std::string& text = Text;
   const TextRange range = Selection;
@@ -44,5 +48,5 @@ void TextBox::ReplaceSelection(std::string_view with) {
 }
 
 void TextBox::SelectAll() {
-  Selection = {0, CharacterCount(Text.Get())};
+  Selection = {0, Length()};
 }

@@ -106,6 +106,7 @@ class TextBox : public FocusControl {
   /// A key goes down, by its code; true when the key is used up and the box does not see it.
   std::function<bool(int keyCode)> KeyDown;
 
+  int Length() const;  ///< of the text, in characters
   /// The selected part of the text.
   std::string SelectedText() const;
   /// Puts `with` in the place of the selection and the caret behind it.
@@ -124,6 +125,11 @@ struct ListBox : FocusControl {
   Property<int> ListIndex{-1};
   std::function<void()>& Click = ListIndex.Event;
   std::function<void()> DblClick;
+};
+
+/// A list of which only the chosen line is shown until it is dropped down.
+struct ComboBox : ListBox {
+  using ListBox::ListBox;
 };
 
 /// Controls of one name and kind, numbered from `First`: "optSigDigs_1", "optSigDigs_2", ...

@@ -48,6 +48,7 @@ class FlexGrid : public FocusControl {
 
   Property<std::vector<int>> ColWidths;  ///< twips
 
+  std::function<void()> Press;  ///< a mouse button goes down on a cell, before it becomes the current one
   std::function<void()> DblClick;
   std::function<void(int keyCode)> KeyDown;
   std::function<void(char character)> KeyPress;
