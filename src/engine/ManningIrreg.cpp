@@ -35,10 +35,11 @@ struct Water {
 struct Ground {
   Ground(const PointTable& points, int count) : last(RowCount(count, 2)) {
     for (size_t i = 1; i <= last; ++i) {
-      x[i] = Finite(points[i][1].Number());
-      e[i] = Finite(points[i][2].Number());
+      x[i] = points[i][1].Number();
+      e[i] = points[i][2].Number();
     }
     for (size_t i = 1; i < last; ++i) {
+      // A station or elevation that is not finite has no finite distance to the next one either.
       dx[i] = Finite(x[i + 1] - x[i]);
       const double rise = Finite(e[i + 1] - e[i]);
       length[i] = std::sqrt(dx[i] * dx[i] + rise * rise);
@@ -50,13 +51,11 @@ struct Ground {
   template <typename Add>
   void ForEachWetSegment(size_t from, size_t to, double W, Add add) const {
     for (size_t i = from; i < to; ++i) {
-      const bool wet1 = e[i] < W;
-      const bool wet2 = e[i + 1] < W;
-      if (wet1 && wet2) {
+      if (e[i] < W && e[i + 1] < W) {
         add(dx[i] * ((W - e[i]) + (W - e[i + 1])) / 2, dx[i], [&] { return length[i]; });
-      } else if (wet2) {
+      } else if (e[i + 1] < W) {
         AddClipped(x[i + 1] - Shore(i, W), W - e[i + 1], add);
-      } else if (wet1) {
+      } else if (e[i] < W) {
         AddClipped(Shore(i, W) - x[i], W - e[i], add);
       }
     }
@@ -94,7 +93,7 @@ struct Ground {
   double LowPoint() const { return *std::min_element(e.begin() + 1, e.begin() + last + 1); }
 
   size_t last;  // row of the last point
-  std::array<double, Rows> x{}, e{}, dx{}, length{};
+  std::array<double, Rows> x, e, dx, length;
 };
 
 // The subsections of one n each.
@@ -140,7 +139,7 @@ struct Roughness {
   }
 
   size_t count = 0;
-  std::array<Subsection, Rows> subsections{};
+  std::array<Subsection, Rows> subsections;
 };
 
 // The inputs of the record but Depth and Flow; a number that is not finite faults.
