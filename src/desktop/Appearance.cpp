@@ -1,0 +1,59 @@
+// See Appearance.h.
+#include "desktop/Appearance.h"
+
+namespace Appearance {
+
+namespace {
+
+QColor Either(const QPalette& palette, QRgb light, QRgb dark) {
+  return QColor(IsDark(palette) ? dark : light);
+}
+
+}  // namespace
+
+bool IsDark(const QPalette& palette) {
+  return palette.color(QPalette::Active, QPalette::Window).lightness() <
+         palette.color(QPalette::Active, QPalette::WindowText).lightness();
+}
+
+QColor Mixed(const QColor& base, const QColor& tint, double share) {
+  const auto mix = [share](int from, int to) { return static_cast<int>(from + share * (to - from)); };
+  return {mix(base.red(), tint.red()), mix(base.green(), tint.green()), mix(base.blue(), tint.blue())};
+}
+
+QColor ResultGround(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::Active, QPalette::Base), QColor(0xFF, 0xD0, 0x30),
+               IsDark(palette) ? 0.12 : 0.15);
+}
+
+QColor OffendingGround(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::Active, QPalette::Base), QColor(0xF0, 0x30, 0x30),
+               IsDark(palette) ? 0.40 : 0.24);
+}
+
+QColor Good(const QPalette& palette) {
+  return Either(palette, 0x1E7F3C, 0x6FCF8C);
+}
+
+QColor Neutral(const QPalette& palette) {
+  return Either(palette, 0x2A6FB0, 0x7DB8EE);
+}
+
+QColor Bad(const QPalette& palette) {
+  return Either(palette, 0xB3261E, 0xFF9A8F);
+}
+
+QColor Water(const QPalette& palette) {
+  return Either(palette, 0xCFE6F8, 0x1F4A6B);
+}
+
+QColor WaterSurface(const QPalette& palette) {
+  return Either(palette, 0x2A7FC0, 0x69B4EE);
+}
+
+QColor Earth(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::Active, QPalette::Base), QColor(0x96, 0x6E, 0x3C),
+               IsDark(palette) ? 0.22 : 0.16);
+}
+
+}  // namespace Appearance

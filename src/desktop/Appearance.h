@@ -1,0 +1,29 @@
+// The colours that the palette of a desktop has no role for, derived from it so that they suit light and
+// dark.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+namespace Appearance {
+
+bool IsDark(const QPalette& palette);
+
+/// `share` (0 to 1) of `tint` over `base`.
+QColor Mixed(const QColor& base, const QColor& tint, double share);
+
+/// Grounds of a text box: an answer, and a text that cannot be used.
+QColor ResultGround(const QPalette& palette);
+QColor OffendingGround(const QPalette& palette);
+
+/// Signs of the status line: solved, something is missing, something is wrong.
+QColor Good(const QPalette& palette);
+QColor Neutral(const QPalette& palette);
+QColor Bad(const QPalette& palette);
+
+/// The drawing of a channel.
+QColor Water(const QPalette& palette);
+QColor WaterSurface(const QPalette& palette);
+QColor Earth(const QPalette& palette);
+
+}  // namespace Appearance

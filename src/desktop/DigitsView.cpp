@@ -1,0 +1,42 @@
+// See DigitsView.h.
+#include "desktop/DigitsView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+#include "desktop/Bind.h"
+
+namespace {
+
+/// A question above the row of its answers.
+template <class Options>
+QWidget* Row(Label& question, Options& options, QWidget* parent) {
+  auto* const group = new QWidget(parent);  // buttons of one parent exclude each other
+  auto* const column = new QVBoxLayout(group);
+  column->setContentsMargins(0, 0, 0, 0);
+  QLabel* const label = Bind::Caption(question, group);
+  column->addWidget(label);
+  auto* const row = new QHBoxLayout;
+  row->setContentsMargins(label->fontMetrics().averageCharWidth() * 2, 0, 0, 0);
+  row->setSpacing(label->fontMetrics().averageCharWidth() * 4);
+  for (int index = Options::Lower; index <= Options::Upper; ++index) {
+    QRadioButton* const button = Bind::Option(options[index], group);
+    button->setAccessibleDescription(label->text());
+    row->addWidget(button);
+    if (options[index].Value && index == Options::Lower) button->setFocus();
+  }
+  row->addStretch();
+  column->addLayout(row);
+  return group;
+}
+
+}  // namespace
+
+DigitsView::DigitsView(frmDigits& form, QWidget* parent) : FormDialog(parent) {
+  auto* const column = new QVBoxLayout(this);
+  column->setSpacing(fontMetrics().height());
+  column->addWidget(Row(form.lblSigDigs, form.optSigDigs, this));
+  column->addWidget(Row(form.lblEngDigs, form.optEngDigs, this));
+  AddButtons(column, Bind::Push(form.cmdOK, this), Bind::Push(form.cmdCancel, this));
+}

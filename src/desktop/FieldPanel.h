@@ -1,0 +1,38 @@
+// A column of the main window: a heading and rows of label, symbol, box and unit.
+#pragma once
+
+#include <QWidget>
+
+#include "platform/Controls.h"
+
+class BoxEdit;
+class QGridLayout;
+class QLabel;
+
+class FieldPanel : public QWidget {
+ public:
+  FieldPanel(QLabel* heading, QWidget* parent);
+
+  struct Field {
+    Label& Caption;
+    TextBox& Box;
+    Label* Unit;               ///< null: the unit is `FixedUnit`
+    const char* FixedUnit;     ///< in the place of a unit, for example ":1"
+    const char* Symbol;        ///< rich text; a text behind "|" is the symbol of a water-surface elevation
+    std::string_view Letters;  ///< candidates for the mnemonic
+  };
+  BoxEdit* AddField(const Field& field);
+  /// A row of its own under the boxes.
+  void AddUnderBox(QWidget* widget);
+
+  /// Gives the captions, hidden ones too, and any of these units their room, so that the columns stay as they
+  /// are when others are shown.
+  void KeepRoom(const QStringList& units);
+
+  /// More room between the rows, in pixels.
+  void SetAiriness(int spacing);
+
+ private:
+  int Row() const;
+  QGridLayout* grid_;
+};

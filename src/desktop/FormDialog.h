@@ -1,0 +1,21 @@
+// A dialog of the calculator: window-modal, Escape is its Cancel button.
+#pragma once
+
+#include <QDialog>
+#include <QPushButton>
+
+class QVBoxLayout;
+
+class FormDialog : public QDialog {
+ public:
+  explicit FormDialog(QWidget* parent);
+
+  void reject() override { cancel_->click(); }
+
+ protected:
+  /// Puts the buttons into a row at the end of the layout; Enter is `ok` unless another button has the focus.
+  void AddButtons(QVBoxLayout* layout, QPushButton* ok, QPushButton* cancel);
+
+ private:
+  QPushButton* cancel_ = nullptr;
+};

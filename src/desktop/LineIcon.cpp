@@ -1,0 +1,65 @@
+// See LineIcon.h.
+#include "desktop/LineIcon.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QImageReader>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+
+namespace {
+
+class LineIconEngine : public QIconEngine {
+ public:
+  LineIconEngine(QString file, const QColor& colour) : file_(std::move(file)), colour_(colour) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+    const qreal ratio = painter->device()->devicePixelRatio();
+    QPixmap drawn = pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state);
+    drawn.setDevicePixelRatio(ratio);
+    painter->drawPixmap(rect.topLeft(), drawn);
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+    const QString colour = Colour(mode).name();
+    const QString key = QStringLiteral("%1 %2 %3x%4").arg(file_, colour).arg(size.width()).arg(size.height());
+    QPixmap drawn;
+    if (!QPixmapCache::find(key, &drawn)) {
+      drawn = Drawn(size, colour);
+      QPixmapCache::insert(key, drawn);
+    }
+    return drawn;
+  }
+
+  QIconEngine* clone() const override { return new LineIconEngine(file_, colour_); }
+
+ private:
+  QColor Colour(QIcon::Mode mode) const {
+    if (colour_.isValid()) return colour_;
+    const bool disabled = mode == QIcon::Disabled;
+    return QGuiApplication::palette().color(disabled ? QPalette::Disabled : QPalette::Active,
+                                            QPalette::WindowText);
+  }
+
+  QPixmap Drawn(const QSize& size, const QString& colour) const {
+    QFile file(file_);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QByteArray drawing = file.readAll().replace("currentColor", colour.toLatin1());
+    QBuffer buffer(&drawing);
+    QImageReader reader(&buffer, "svg");
+    reader.setScaledSize(size);
+    return QPixmap::fromImage(reader.read());
+  }
+
+  QString file_;
+  QColor colour_;
+};
+
+}  // namespace
+
+QIcon LineIcon(const char* name, const QColor& colour) {
+  return QIcon(new LineIconEngine(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)), colour));
+}

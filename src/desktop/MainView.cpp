@@ -1,0 +1,165 @@
+// See MainView.h; its menus and tools are in MainViewCommands.cpp.
+#include "desktop/MainView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "app/Declarations.h"
+#include "app/Units.h"
+#include "desktop/Appearance.h"
+#include "desktop/Bind.h"
+#include "desktop/FieldPanel.h"
+#include "desktop/LineIcon.h"
+#include "desktop/ReflowArea.h"
+#include "desktop/ShapeWidget.h"
+#include "desktop/Text.h"
+
+namespace {
+
+struct FieldRow {
+  Label frmMain::*Caption;
+  TextBox frmMain::*Box;
+  Label frmMain::*Unit;
+  const char* FixedUnit;
+  const char* Symbol;
+  const char* Letters;  // unique in the window, the menu titles (F, E, S, O, H) included
+};
+
+constexpr FieldRow FlowRows[] = {
+    {&frmMain::lblFlow, &frmMain::tbFlow, &frmMain::lblFlowUnits, nullptr, "Q", "w"},
+    {&frmMain::lblDepth, &frmMain::tbDepth, &frmMain::lblDepthUnits, nullptr, "y|W", "dv"},
+    {&frmMain::lblSlope, &frmMain::tbSlope, &frmMain::lblSlopeUnits, nullptr, "S", "p"},
+    {&frmMain::lblMann, &frmMain::tbMann, nullptr, nullptr, "n", "m"},
+};
+
+constexpr FieldRow ShapeRows[] = {
+    {&frmMain::lblDiameter, &frmMain::tbDiameter, &frmMain::lblDiameterUnits, nullptr, "D", "a"},
+    {&frmMain::lblBaseWidth, &frmMain::tbBaseWidth, &frmMain::lblBaseWidthUnits, nullptr, "b", "b"},
+    {&frmMain::lblSSL, &frmMain::tbSSL, nullptr, ":1", "z<sub>L</sub>", "l"},
+    {&frmMain::lblSSR, &frmMain::tbSSR, nullptr, ":1", "z<sub>R</sub>", "r"},
+};
+
+constexpr FieldRow ResultRows[] = {
+    {&frmMain::lblVelocity, &frmMain::tbVelocity, &frmMain::lblVelocityUnits, nullptr, "V", ""},
+    {&frmMain::lblVelHead, &frmMain::tbVelHead, &frmMain::lblVelHeadUnits, nullptr, "h<sub>v</sub>", ""},
+    {&frmMain::lblArea, &frmMain::tbArea, &frmMain::lblFlowAreaUnits, nullptr, "A", ""},
+    {&frmMain::lblWP, &frmMain::tbWP, &frmMain::lblWPunits, nullptr, "P", ""},
+    {&frmMain::lblHRad, &frmMain::tbHRad, &frmMain::lblHRadUnits, nullptr, "R", ""},
+    {&frmMain::lblTopW, &frmMain::tbTopW, &frmMain::lblTopWUnits, nullptr, "T", ""},
+    {&frmMain::lblFroude, &frmMain::tbFroude, nullptr, nullptr, "Fr", ""},
+    {&frmMain::lblCritD, &frmMain::tbCritD, &frmMain::lblCritdUnits, nullptr, "y<sub>c</sub>|W<sub>c</sub>",
+     ""},
+    {&frmMain::lblCritS, &frmMain::tbCritS, &frmMain::lblCritSUnits, nullptr, "S<sub>c</sub>", ""},
+};
+
+template <std::size_t Count>
+void AddRows(FieldPanel& panel, frmMain& form, const FieldRow (&rows)[Count]) {
+  for (const FieldRow& row : rows) {
+    panel.AddField({form.*row.Caption, form.*row.Box, row.Unit == nullptr ? nullptr : &(form.*row.Unit),
+                    row.FixedUnit, row.Symbol, row.Letters});
+  }
+}
+
+/// Every unit caption there is.
+QStringList AllUnits() {
+  QStringList units;
+  for (const int system : {Units::English, Units::Metric}) {
+    for (int quantity = Units::Length; quantity <= Units::Dimensionless; ++quantity) {
+      units << ToQt(UnitLabel(system, quantity));
+    }
+  }
+  return units;
+}
+
+/// Solved, still to be filled in, or something cannot be used.
+QIcon StatusIcon(const frmMain& form, const QPalette& palette) {
+  if (!form.tbArea.Text.Get().empty()) return LineIcon("solved", Appearance::Good(palette));
+  bool missing = false;
+  bool wrong = false;
+  for (const TextBox* const box : {&form.tbFlow, &form.tbDepth, &form.tbSlope, &form.tbMann, &form.tbDiameter,
+                                   &form.tbBaseWidth, &form.tbSSL, &form.tbSSR}) {
+    if (box->Locked || !box->Visible) continue;
+    missing = missing || box->Text.Get().empty();
+    wrong = wrong || box->Offending;
+  }
+  return missing && !wrong ? LineIcon("missing", Appearance::Neutral(palette))
+                           : LineIcon("wrong", Appearance::Bad(palette));
+}
+
+}  // namespace
+
+MainView::MainView(frmMain& form, QWidget* parent) : QMainWindow(parent), form_(form) {
+  AddMenus();
+  AddTools();
+  auto* const central = new QWidget(this);
+  auto* const page = new QWidget(central);
+  auto* const top = ProjectRow(page);
+  auto* const inputs = Inputs(page);
+  auto* const drawing = new ShapeWidget(form, page);
+  auto* const results = Results(page);
+  auto* const column = new QVBoxLayout(central);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(new ReflowArea(page, {top, inputs, drawing, results}, central), 1);
+  column->addWidget(StatusLine());
+  setCentralWidget(central);
+  Bind::Join(Declarations::DataChanged, this,
+             [](MainView& view, bool changed) { view.setWindowModified(changed); });
+  findChild<QWidget*>(ToQt((form.tbFlow.Locked ? form.tbDepth : form.tbFlow).Name()))->setFocus();
+  PlaceOnScreen();
+}
+
+QWidget* MainView::ProjectRow(QWidget* parent) {
+  auto* const row = new QWidget(parent);
+  auto* const layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  QLabel* const caption = Bind::Caption(form_.lblProjName, row, "j");
+  BoxEdit* const box = Bind::Box(form_.tbProjName, row);
+  caption->setBuddy(box);
+  layout->addWidget(caption);
+  layout->addWidget(box);
+  return row;
+}
+
+FieldPanel* MainView::Inputs(QWidget* parent) {
+  auto* const panel = new FieldPanel(Bind::Caption(form_.lblChanType, parent), parent);
+  AddRows(*panel, form_, FlowRows);
+  panel->AddUnderBox(Bind::Push(form_.cmdMannParams, panel, "t"));
+  AddRows(*panel, form_, ShapeRows);
+  panel->AddUnderBox(Bind::Push(form_.cmdIrreg, panel, "i"));
+  panel->KeepRoom(AllUnits());
+  return panel;
+}
+
+FieldPanel* MainView::Results(QWidget* parent) {
+  auto* const panel = new FieldPanel(new QLabel(QStringLiteral("Results"), parent), parent);
+  AddRows(*panel, form_, ResultRows);
+  panel->KeepRoom(AllUnits());
+  return panel;
+}
+
+QWidget* MainView::StatusLine() {
+  auto* const line = new QFrame(this);
+  line->setBackgroundRole(QPalette::Midlight);
+  auto* const layout = new QHBoxLayout(line);
+  const int em = fontMetrics().height();
+  layout->setContentsMargins(em * 3 / 4, em / 4, em * 3 / 4, em / 4);
+  auto* const sign = new QLabel(line);
+  QLabel* const text = Bind::Caption(form_.lblStatus, line);
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  layout->addWidget(sign);
+  layout->addWidget(text, 1);
+  Bind::Follow(form_.lblStatus.Caption, sign,
+               [this, sign, em] { sign->setPixmap(StatusIcon(form_, palette()).pixmap(em * 5 / 4)); });
+  return line;
+}
+
+void MainView::PlaceOnScreen() {
+  const int em = fontMetrics().height();
+  const QSize room = screen()->availableSize() - QSize(em / 2, 2 * em);
+  resize(QSize(76 * em, 46 * em).boundedTo(room));
+}

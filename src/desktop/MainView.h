@@ -1,0 +1,25 @@
+// The window of frmMain.
+#pragma once
+
+#include <QMainWindow>
+
+#include "app/frmMain.h"
+
+class FieldPanel;
+class QHBoxLayout;
+
+class MainView : public QMainWindow {
+ public:
+  MainView(frmMain& form, QWidget* parent);
+
+ private:
+  void AddMenus();
+  void AddTools();
+  QWidget* ProjectRow(QWidget* parent);
+  FieldPanel* Inputs(QWidget* parent);
+  FieldPanel* Results(QWidget* parent);
+  QWidget* StatusLine();
+  void PlaceOnScreen();
+
+  frmMain& form_;
+};

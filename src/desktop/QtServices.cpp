@@ -1,0 +1,80 @@
+// See QtServices.h.
+#include "desktop/QtServices.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "desktop/Text.h"
+
+void QtClipboard::Clear() {
+  QGuiApplication::clipboard()->clear();
+}
+
+std::string QtClipboard::Text() {
+  return FromQt(QGuiApplication::clipboard()->text());
+}
+
+void QtClipboard::SetText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(ToQt(text));
+}
+
+BoxAnswer QtMessageBox::Show(const std::string& text, const std::string& title, BoxIcon icon,
+                             BoxButtons buttons) {
+  const bool asks = buttons == BoxButtons::YesNoCancel;
+  QMessageBox box(icon == BoxIcon::Exclamation ? QMessageBox::Warning : QMessageBox::Information, ToQt(title),
+                  ToQt(text),
+                  asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel : QMessageBox::Ok,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowModality(Qt::WindowModal);
+  switch (box.exec()) {
+    case QMessageBox::Yes:
+      return BoxAnswer::Yes;
+    case QMessageBox::No:
+      return BoxAnswer::No;
+    default:
+      return asks ? BoxAnswer::Cancel : BoxAnswer::Ok;
+  }
+}
+
+namespace {
+
+/// "Text (*.txt)|*.txt|All Files (*.*)|*.*" as Qt spells it; "*.*" is every file, also one without a suffix.
+QStringList NameFilters(const std::string& filter) {
+  QStringList filters;
+  const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString patterns = parts[i + 1];
+    patterns.replace(QLatin1Char(';'), QLatin1Char(' ')).replace(QLatin1String("*.*"), QLatin1String("*"));
+    filters << parts[i].section(QLatin1String(" ("), 0, 0) + QLatin1String(" (") + patterns +
+                   QLatin1Char(')');
+  }
+  return filters;
+}
+
+/// The suffix of the first pattern of the filter.
+QString DefaultSuffix(const std::string& filter) {
+  return ToQt(filter)
+      .section(QLatin1Char('|'), 1, 1)
+      .section(QLatin1Char(';'), 0, 0)
+      .section(QLatin1Char('.'), -1);
+}
+
+}  // namespace
+
+std::optional<std::string> QtFileDialog::Choose(const FileDialogRequest& request) {
+  const QString folder = ToQt(request.Folder);
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(request.Title),
+                     !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath());
+  dialog.setWindowModality(Qt::WindowModal);
+  dialog.setNameFilters(NameFilters(request.Filter));
+  dialog.setAcceptMode(request.Saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(request.Saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  if (request.Saving) dialog.setDefaultSuffix(DefaultSuffix(request.Filter));
+  if (!request.FileName.empty()) dialog.selectFile(ToQt(request.FileName));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return FromQt(dialog.selectedFiles().first());
+}

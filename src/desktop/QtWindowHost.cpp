@@ -1,0 +1,90 @@
+// See QtWindowHost.h.
+#include "desktop/QtWindowHost.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QEventLoop>
+
+#include "desktop/Bind.h"
+#include "desktop/DigitsView.h"
+#include "desktop/MainView.h"
+#include "desktop/MannParamView.h"
+#include "desktop/Text.h"
+
+namespace {
+
+template <class FormType, class View>
+QWidget* Make(Form& form, QWidget* parent) {
+  auto* const shown = dynamic_cast<FormType*>(&form);
+  return shown == nullptr ? nullptr : new View(*shown, parent);
+}
+
+constexpr QWidget* (*Makers[])(Form&, QWidget*) = {Make<frmMain, MainView>, Make<frmDigits, DigitsView>,
+                                                   Make<frmMannParam, MannParamView>};
+
+QWidget* MakeView(Form& form, QWidget* parent) {
+  for (const auto make : Makers) {
+    if (QWidget* const view = make(form, parent)) return view;
+  }
+  qFatal("No view for %s", form.Name().c_str());
+}
+
+/// The title-bar box asks the form, which may refuse.
+class CloseAsksForm : public QObject {
+ public:
+  CloseAsksForm(Form& form, QObject* window) : QObject(window), form_(form) {}
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::Close) return false;
+    form_.Unload();
+    event->setAccepted(!form_.IsLoaded());
+    return true;
+  }
+
+ private:
+  Form& form_;
+};
+
+}  // namespace
+
+QtWindowHost::QtWindowHost() {
+  // The application losing the keyboard (no new widget) is not leaving a control.
+  QObject::connect(qApp, &QApplication::focusChanged, &connections_, [](QWidget*, QWidget* now) {
+    FocusControl* const control = Bind::ControlOf(now);
+    if (control != nullptr && control->Owner().IsLoaded()) control->Owner().MoveFocus(*control);
+  });
+}
+
+QWidget* QtWindowHost::WindowOf(const Form& form) const {
+  const auto found = windows_.find(&form);
+  return found == windows_.end() ? nullptr : found->second.data();
+}
+
+void QtWindowHost::Open(Form& form) {
+  if (!form.IsLoaded()) return;
+  QWidget* const window = MakeView(form, QApplication::activeWindow());
+  windows_[&form] = window;
+  Bind::Join(form.Caption, window, [](QWidget& w, const std::string& caption) {
+    // "[*]" is where Qt marks a changed document; one in the caption itself is doubled to stay as it is.
+    const QString mark = QStringLiteral("[*]");
+    w.setWindowTitle(ToQt(caption).replace(mark, mark + mark) + mark);
+  });
+  window->installEventFilter(new CloseAsksForm(form, window));
+  form.UnloadView = [window] {
+    window->hide();
+    window->deleteLater();
+  };
+  window->show();
+}
+
+void QtWindowHost::Wait(Form& form) {
+  WaitUntilUnloaded(form);
+  // At once: a dialog's form may not outlive this call, and its widgets speak to it.
+  delete WindowOf(form);
+  windows_.erase(&form);
+}
+
+void QtWindowHost::WaitUntilUnloaded(Form& form) {
+  QEventLoop loop;
+  QObject::connect(WindowOf(form), &QObject::destroyed, &loop, &QEventLoop::quit);
+  loop.exec();
+}

@@ -1,0 +1,42 @@
+// The program with its window: the calculator on the services of the desktop.
+#include <QApplication>
+#include <QIcon>
+#include <QLocale>
+#include <QSessionManager>
+
+#include "app/Declarations.h"
+#include "app/SettingsFile.h"
+#include "desktop/QtServices.h"
+#include "desktop/QtWindowHost.h"
+#include "desktop/Text.h"
+#include "engine/NumberText.h"
+#include "program/Program.h"
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QString::fromLatin1(Declarations::AppTitle));
+  QApplication::setDesktopFileName(QStringLiteral("flumewise"));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/flumewise.svg")));
+  // The main window alone ends the program; a message box that closes beside it does not.
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  const QLocale locale = QLocale::system();
+  SetNumberLocale({FromQt(locale.decimalPoint()), FromQt(locale.groupSeparator())});
+  SettingsFile::Use(SettingsFile::DefaultPath());
+
+  QtClipboard clipboard;
+  QtMessageBox messageBox;
+  QtFileDialog fileDialog;
+  QtWindowHost windows;
+  Program program({clipboard, messageBox, fileDialog, windows});
+  program.Start();
+  QObject::connect(windows.WindowOf(program.Main), &QObject::destroyed, &application,
+                   [] { QApplication::exit(); });
+  QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
+                   [&program](QSessionManager& session) {
+                     if (!session.allowsInteraction()) return;
+                     if (!program.Main.ChecknSave()) session.cancel();
+                     session.release();
+                   });
+  return QApplication::exec();
+}
