@@ -7,6 +7,7 @@ namespace Declarations {
 
 void Reset() {
   ChannelState = ChannelRecord{};
+  RatingRange = RatingRangeRecord{};
   DataChanged = false;
   FilePath = FileTitle = Untitled;
   UserPath.clear();

@@ -4,7 +4,19 @@
 #include <string>
 
 #include "app/Version.h"
+#include "engine/EngineValue.h"
 #include "platform/Property.h"
+
+/// The rating curve in work: which input is varied, over which range, and what is plotted against it. The
+/// range is in feet and seconds.
+struct RatingRangeRecord {
+  int VaryCode = 0;      ///< the varied input, by its row of the unit table (Units::Quantity)
+  int GraphYColumn = 0;  ///< the rating column on the vertical axis of the graph
+  EngineValue RangeMin, RangeMax, RangeStep;
+  /// How a settings dialog was last left: true by Cancel, false by OK. Its title-bar box leaves it alone.
+  bool RatingCancelled = false;
+};
+inline RatingRangeRecord RatingRange;
 
 namespace Declarations {
 

@@ -7,6 +7,9 @@
 #include <cmath>
 #include <string>
 
+#include "app/Declarations.h"
+#include "app/Units.h"
+#include "engine/ChannelState.h"
 #include "engine/EngineFault.h"
 #include "engine/NumberText.h"
 
@@ -78,4 +81,11 @@ EngineValue SigFormat(const EngineValue& value, double factor, int sigDigits) {
 EngineValue FixedFormat(const EngineValue& value, double factor, int decimals) {
   if (!value.IsNumeric()) return value;
   return FixedText(Finite(factor * value.Number()), decimals);
+}
+
+std::string ShownNumber(const EngineValue& value, int quantity, bool fixedDecimals) {
+  const double factor = 1 / UnitFactor(ChannelState.UnitsEorM, quantity);
+  return (fixedDecimals ? FixedFormat(value, factor, Declarations::EngDigs)
+                        : SigFormat(value, factor, Declarations::SigDigs))
+      .Text();
 }

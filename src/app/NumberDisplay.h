@@ -1,6 +1,8 @@
 // How computed numbers are shown: with significant digits, or with fixed decimals.
 #pragma once
 
+#include <string>
+
 #include "engine/EngineValue.h"
 
 /// `value` x `factor` with `sigDigits` (1 to 5) significant digits, in the locale's spelling with grouping; a
@@ -12,3 +14,7 @@ EngineValue SigFormat(const EngineValue& value, double factor, int sigDigits);
 /// `value` x `factor` with exactly `decimals` decimals, likewise. Rounds the 15-digit decimal of the product,
 /// halves away from zero; a number shown as zero carries no sign.
 EngineValue FixedFormat(const EngineValue& value, double factor, int decimals);
+
+/// A value of the problem record in the unit system and with the digits in force: decimals for depths and
+/// elevations, significant digits for everything else. `quantity` is its row of the unit table.
+std::string ShownNumber(const EngineValue& value, int quantity, bool fixedDecimals);

@@ -5,6 +5,9 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
+
+#include "app/SafeReplace.h"
 
 namespace fs = std::filesystem;
 
@@ -63,18 +66,14 @@ Line FindKey(std::pair<Line, Line> section, std::string_view key) {
 
 void WriteLines(const Lines& lines) {
   std::error_code error;
-  const fs::path target(path_);
-  const fs::path fresh(path_ + ".new");
-  fs::create_directories(target.parent_path(), error);
-  {
-    std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
-    for (const std::string& line : lines) file << line << '\n';
-    if (!file.flush()) {
-      fs::remove(fresh, error);
-      return;
-    }
+  fs::create_directories(fs::path(path_).parent_path(), error);
+  try {
+    SafeReplace file(path_);
+    for (const std::string& line : lines) file.Append(line + '\n');
+    file.Commit();
+  } catch (const std::runtime_error&) {
+    // The settings before stay.
   }
-  fs::rename(fresh, target, error);
 }
 
 }  // namespace

@@ -6,4 +6,6 @@ class SubWindows {
   virtual ~SubWindows() = default;
   virtual void OpenDigits() = 0;
   virtual void OpenMannParam() = 0;
+  virtual void OpenGraph() {}
+  virtual void OpenTable() {}
 };

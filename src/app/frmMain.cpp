@@ -98,6 +98,11 @@ void frmMain::JoinCommands() {
   for (const Command& each :
        std::initializer_list<Command>{{mnuFileNew, &frmMain::mnuFileNew_Click},
                                       {Toolbar1.New, &frmMain::mnuFileNew_Click},
+                                      {mnuFileOpen, &frmMain::mnuFileOpen_Click},
+                                      {Toolbar1.Open, &frmMain::mnuFileOpen_Click},
+                                      {mnuFileSave, &frmMain::mnuFileSave_Click},
+                                      {Toolbar1.Save, &frmMain::mnuFileSave_Click},
+                                      {mnuFileSaveAs, &frmMain::mnuFileSaveAs_Click},
                                       {mnuFileExit, &frmMain::mnuFileExit_Click},
                                       {mnuEditCut, &frmMain::mnuEditCut_Click},
                                       {mnuEditCopy, &frmMain::mnuEditCopy_Click},
@@ -105,6 +110,10 @@ void frmMain::JoinCommands() {
                                       {mnuEditDelete, &frmMain::mnuEditDelete_Click},
                                       {mnuSolveForFlow, &frmMain::mnuSolveForFlow_Click},
                                       {mnuSolveForDepth, &frmMain::mnuSolveForDepth_Click},
+                                      {mnuSolveGraph, &frmMain::mnuSolveGraph_Click},
+                                      {Toolbar1.Graph, &frmMain::mnuSolveGraph_Click},
+                                      {mnuSolveTable, &frmMain::mnuSolveTable_Click},
+                                      {Toolbar1.Table, &frmMain::mnuSolveTable_Click},
                                       {mnuOptionsRect, &frmMain::mnuOptionsRect_Click},
                                       {mnuOptionsTriangular, &frmMain::mnuOptionsTriangular_Click},
                                       {mnuOptionsTrap, &frmMain::mnuOptionsTrap_Click},
@@ -117,10 +126,9 @@ void frmMain::JoinCommands() {
     each.Of.Click = [this, run = each.Run] { (this->*run)(); };
   }
   // Commands whose windows are still to come.
-  for (Control* const control : std::initializer_list<Control*>{
-           &mnuFileOpen, &mnuFileSave, &mnuFileSaveAs, &mnuFilePrint, &mnuSolveGraph, &mnuSolveTable,
-           &mnuSolveSection, &mnuHelpContents, &mnuHelpIndex, &mnuHelpAbout, &Toolbar1.Open, &Toolbar1.Save,
-           &Toolbar1.Print, &Toolbar1.Graph, &Toolbar1.Table, &Toolbar1.Section}) {
+  for (Control* const control :
+       std::initializer_list<Control*>{&mnuFilePrint, &mnuSolveSection, &mnuHelpContents, &mnuHelpIndex,
+                                       &mnuHelpAbout, &Toolbar1.Print, &Toolbar1.Section}) {
     control->Visible = false;
   }
 }

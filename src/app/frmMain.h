@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/ProjectFile.h"
 #include "app/SubWindows.h"
 #include "platform/Controls.h"
 
@@ -69,6 +70,8 @@ class frmMain : public Form {
   void CheckInputs();
   /// Copies the input boxes into the problem record, in feet and seconds.
   void InputToGlobal();
+  /// A pipe typed full is full: the same length typed as depth and as diameter differs in its last bits.
+  static void FillPipe();
   /// Runs the engine and fills the result boxes; EngineFault when the inputs have no solution.
   void ComputeResults();
   void ClearResults();
@@ -90,9 +93,23 @@ class frmMain : public Form {
   // Project (frmMainFile.cpp).
   /// True when the project in work may be let go: unchanged, saved, or given up by the person.
   bool ChecknSave();
+  /// True when the project was written to its file.
+  bool FileSave();
+  /// Asks for a name and saves. False when the person cancels or the file cannot be written: then everything
+  /// is as before.
+  bool SaveAsDialog();
+  /// Fills the boxes from a project file. False, with a message and nothing changed, when it is no whole
+  /// project.
+  bool FileOpen(const std::string& path);
+  /// Opens a file as the project in work, in place of the one before.
+  void OpenProject(const std::string& path);
+  ProjectFile::Project CurrentProject() const;
 
   // Commands: a menu item and the tool button of the same role run the same one.
   void mnuFileNew_Click();
+  void mnuFileOpen_Click();
+  void mnuFileSave_Click();
+  void mnuFileSaveAs_Click();
   void mnuFileExit_Click();
   void mnuEditCut_Click();
   void mnuEditCopy_Click();
@@ -108,6 +125,8 @@ class frmMain : public Form {
   void mnuOptionsDigits_Click();
   void mnuSolveForFlow_Click();
   void mnuSolveForDepth_Click();
+  void mnuSolveGraph_Click();
+  void mnuSolveTable_Click();
   void cmdMannParams_Click();
 
   void Form_Activate() override;
@@ -122,6 +141,8 @@ class frmMain : public Form {
   void JoinCommands();
   void Input_Change();
   void Input_Validate();
+  bool SaveProject();
+  void ShowTitle();
   void SelectChannelType(std::string_view type);
   void SelectSolveForFlow(bool solveForFlow);
   void SelectUnits(int units);

@@ -53,7 +53,7 @@ void frmMain::WriteHiddenZeros() {
 
 void frmMain::ResetForm() {
   Declarations::FileTitle = Declarations::FilePath = Declarations::Untitled;
-  Caption = std::string(Declarations::AppTitle) + " - " + Declarations::FileTitle;
+  ShowTitle();
   {
     const Loading loading(loading_);
     for (TextBox* const box :

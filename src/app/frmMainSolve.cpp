@@ -84,13 +84,6 @@ double FactorOf(int quantity) {
   return UnitFactor(ChannelState.UnitsEorM, quantity);
 }
 
-std::string Shown(const EngineValue& value, int quantity, bool fixedDecimals) {
-  const double factor = 1 / FactorOf(quantity);
-  return (fixedDecimals ? FixedFormat(value, factor, Declarations::EngDigs)
-                        : SigFormat(value, factor, Declarations::SigDigs))
-      .Text();
-}
-
 /// A typed number in feet and seconds; a text that is not a number counts its leading number.
 double Internal(const TextBox& box, int quantity) {
   return LeadingNumber(box.Text.Get()) * FactorOf(quantity);
@@ -99,11 +92,6 @@ double Internal(const TextBox& box, int quantity) {
 bool InRange(const TextBox& box, const Range& allowed) {
   return FormStuff::CheckRange(box.Text.Get(), allowed.Min, allowed.MinInclusive, allowed.Max,
                                allowed.MaxInclusive, false);
-}
-
-/// The same depth in two units differs in the last bits: a pipe typed full is full.
-bool SameLength(double a, double b) {
-  return std::abs(a - b) <= 1e-12 * std::abs(b);
 }
 
 }  // namespace
@@ -174,10 +162,7 @@ void frmMain::InputToGlobal() {
   record.SideSlopeRight = tbSSR.Text.Get();
   record.Diameter = Internal(tbDiameter, Units::Diameter);
   record.BaseWidth = Internal(tbBaseWidth, Units::Length);
-  if (record.ChannelType == ChannelTypes::Circular &&
-      SameLength(record.Depth.Number(), record.Diameter.Number())) {
-    record.Depth = record.Diameter;
-  }
+  FillPipe();
   for (std::size_t row = 1; row <= static_cast<std::size_t>(record.IrregPointCount); ++row) {
     const auto& typed = record.IrregPoints[row];
     auto& point = record.IrregEnginePoints[row];
@@ -187,18 +172,25 @@ void frmMain::InputToGlobal() {
   }
 }
 
+void frmMain::FillPipe() {
+  if (ChannelState.ChannelType != ChannelTypes::Circular) return;
+  const double depth = ChannelState.Depth.Number();
+  const double diameter = ChannelState.Diameter.Number();
+  if (std::abs(depth - diameter) <= 1e-12 * std::abs(diameter)) ChannelState.Depth = ChannelState.Diameter;
+}
+
 void frmMain::ComputeResults() {
   InputToGlobal();
   SolveChannel();
   const auto show = [this](const Result& result) {
-    (this->*result.Box).Text = Shown(ChannelState.*result.Value, result.Quantity, result.FixedDecimals);
+    (this->*result.Box).Text = ShownNumber(ChannelState.*result.Value, result.Quantity, result.FixedDecimals);
   };
   show(ChannelState.SolveForFlow ? FlowResult : DepthResult);
   for (const Result& result : Results) show(result);
   const bool metricSlope = ChannelState.UnitsEorM == Units::Metric && ChannelState.CriticalSlope.IsNumeric();
   tbCritS.ToolTip = metricSlope
-                        ? "Critical slope: " + Shown(ChannelState.CriticalSlope, Units::Slope, false) + " " +
-                              UnitLabel(Units::Metric, Units::Slope)
+                        ? "Critical slope: " + ShownNumber(ChannelState.CriticalSlope, Units::Slope, false) +
+                              " " + UnitLabel(Units::Metric, Units::Slope)
                         : "";
   EnablePrint(true);
 }
@@ -222,7 +214,7 @@ std::string frmMain::Outcome() const {
   if (ChannelState.ChannelType == ChannelTypes::Circular) {
     const double greatest = ManningCircular::CircMaxFlow(
         ChannelState.Diameter.Number(), ChannelState.Slope.Number(), ChannelState.ManningN.Number());
-    return "Overflow: the pipe carries at most " + Shown(greatest, Units::Flow, false) + " " +
+    return "Overflow: the pipe carries at most " + ShownNumber(greatest, Units::Flow, false) + " " +
            lblFlowUnits.Caption.Get() + ", at 0.938 of its diameter";
   }
   return "Overflow: the channel does not carry this flow within " +

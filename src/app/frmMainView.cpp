@@ -138,6 +138,12 @@ void frmMain::mnuSolveForFlow_Click() {
 void frmMain::mnuSolveForDepth_Click() {
   SelectSolveForFlow(false);
 }
+void frmMain::mnuSolveGraph_Click() {
+  windows_.OpenGraph();
+}
+void frmMain::mnuSolveTable_Click() {
+  windows_.OpenTable();
+}
 void frmMain::cmdMannParams_Click() {
   windows_.OpenMannParam();
 }

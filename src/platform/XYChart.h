@@ -9,6 +9,13 @@
 
 #include "platform/Controls.h"
 
+/// Neighbouring rows of a chart, by index; both ends belong to it.
+struct ChartStretch {
+  int First = 0;
+  int Last = 0;
+  bool operator==(const ChartStretch&) const = default;
+};
+
 class XYChart : public Control {
  public:
   using Control::Control;
@@ -26,8 +33,15 @@ class XYChart : public Control {
 
   Property<std::string> XTitle, YTitle;
   Property<bool> UniformAxis{false};  ///< one scale for both axes: a circle is drawn round
+  /// Parts of the lines that are drawn so that they stand out.
+  Property<std::vector<ChartStretch>> Marked;
 
-  std::function<void()> LoadView;  // set by the view
+  // Set by the view.
+  std::function<void()> LoadView;
+  std::function<void()> CopyView;  ///< puts the picture of the chart on the clipboard
+  /// The picture as a file's content, by the file's extension: "png", "svg" or "pdf"; empty when it cannot be
+  /// made.
+  std::function<std::string(const std::string& extension)> PictureView;
 
  private:
   std::vector<Row> rows_;

@@ -3,10 +3,31 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 namespace {
+
+/// An empty folder to work in while it lives, so that a conversation can save and open "./name.fwd".
+class WorkingFolder {
+ public:
+  WorkingFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "conversation-XXXXXX").string();
+    folder_ = mkdtemp(pattern.data());
+    std::filesystem::current_path(folder_);
+  }
+  ~WorkingFolder() {
+    std::filesystem::current_path(before_);
+    std::filesystem::remove_all(folder_);
+  }
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+ private:
+  std::filesystem::path before_ = std::filesystem::current_path();
+  std::filesystem::path folder_;
+};
 
 bool IsDigit(char c) {
   return std::isdigit(static_cast<unsigned char>(c)) != 0;
@@ -53,6 +74,7 @@ std::vector<Exchange> WithDecimalComma(const std::vector<Exchange>& conversation
 
 std::vector<std::string> Differences(const std::vector<Exchange>& conversation,
                                      const Console::MakeStage& stage) {
+  const WorkingFolder folder;
   std::vector<std::string> differences;
   std::size_t asked = 0;
   std::size_t answered = 0;
