@@ -5,6 +5,7 @@
 #include "app/InitialFile.h"
 #include "app/frmDigits.h"
 #include "app/frmMannParam.h"
+#include "rating/OpenRating.h"
 
 namespace {
 
@@ -31,4 +32,10 @@ void Program::OpenDigits() {
 }
 void Program::OpenMannParam() {
   ShowModal<frmMannParam>(Main);
+}
+void Program::OpenGraph() {
+  OpenRatingGraph(Main);
+}
+void Program::OpenTable() {
+  OpenRatingTable(Main);
 }

@@ -20,4 +20,6 @@ class Program : private SubWindows {
  private:
   void OpenDigits() override;
   void OpenMannParam() override;
+  void OpenGraph() override;
+  void OpenTable() override;
 };

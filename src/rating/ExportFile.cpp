@@ -1,0 +1,44 @@
+// See ExportFile.h.
+#include "rating/ExportFile.h"
+
+#include <algorithm>
+#include <exception>
+#include <filesystem>
+#include <stdexcept>
+
+#include "app/Declarations.h"
+#include "app/SafeReplace.h"
+#include "platform/Services.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string ExtensionOf(const std::string& path) {
+  std::string extension = fs::path(path).extension().string();
+  if (!extension.empty()) extension.erase(0, 1);
+  std::ranges::transform(extension, extension.begin(),
+                         [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return extension;
+}
+
+}  // namespace
+
+void ExportFile(const ExportKind& kind,
+                const std::function<std::string(const std::string& extension)>& content) {
+  const std::string proposed = fs::path(Declarations::FileTitle).stem().string() + "." + kind.Extension;
+  const Services& services = TheServices();
+  const auto path =
+      services.fileDialog.Choose({true, kind.Title, Declarations::UserPath, kind.Filter, proposed});
+  if (!path) return;
+  try {
+    const std::string bytes = content(ExtensionOf(*path));
+    if (bytes.empty()) throw std::runtime_error("no file of this kind can be made");
+    SafeReplace file(*path);
+    file.Append(bytes);
+    file.Commit();
+  } catch (const std::exception& failure) {
+    services.messageBox.Show("Cannot write " + *path + ": " + failure.what(), Declarations::AppTitle,
+                             BoxIcon::Exclamation, BoxButtons::Ok);
+  }
+}

@@ -1,0 +1,8 @@
+// Opening a rating window from the main window: a first range for the problem in work, the settings dialog,
+// and the window unless the dialog was cancelled.
+#pragma once
+
+#include "app/frmMain.h"
+
+void OpenRatingGraph(const frmMain& main);
+void OpenRatingTable(const frmMain& main);

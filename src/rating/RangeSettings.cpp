@@ -1,0 +1,122 @@
+// See RangeSettings.h.
+#include "rating/RangeSettings.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "app/Declarations.h"
+#include "app/NumberDisplay.h"
+#include "app/Units.h"
+#include "engine/ManningIrreg.h"
+#include "engine/NumberText.h"
+#include "rating/RatingSeries.h"
+
+namespace {
+
+/// The inputs that the channel type lets vary; the quantity solved for is none of them.
+std::vector<int> VariableInputs() {
+  const std::string_view type = ChannelState.ChannelType;
+  std::vector<int> codes = {ChannelState.SolveForFlow ? Units::Length : Units::Flow, Units::Slope};
+  if (type != ChannelTypes::Irregular) codes.push_back(Units::Dimensionless);
+  if (type == ChannelTypes::Rectangular || type == ChannelTypes::Trapezoidal) {
+    codes.push_back(Units::BaseWidth);
+  }
+  if (type == ChannelTypes::Circular) codes.push_back(Units::Diameter);
+  return codes;
+}
+
+bool IsNumber(const TextBox& box) {
+  return IsNumeric(box.Text.Get());
+}
+
+std::string TwoDecimals(double x) {
+  return FixedFormat(x, 1, 2).Text();
+}
+
+}  // namespace
+
+RangeSettings::RangeSettings(std::string name) : Form(std::move(name)) {
+  Frame1.Caption = "Range";
+  Label1.Caption = "First";
+  Label2.Caption = "Last";
+  cmdOK.Caption = "OK";
+  cmdCancel.Caption = "Cancel";
+  cbxVary.Click = [this] { cbxVary_Click(); };
+  tbMin.Change = tbMax.Change = [this] { EnableOK(); };
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
+}
+
+void RangeSettings::Form_Load() {
+  lblSolveFor.Caption = ChannelState.SolveForFlow ? "Solve for Flow" : "Solve for Depth";
+  codes_ = VariableInputs();
+  std::vector<std::string> names;
+  for (const int code : codes_) names.emplace_back(FindVariedInput(code)->Name);
+  cbxVary.Items = names;
+  const auto current = std::ranges::find(codes_, RatingRange.VaryCode);
+  if (current != codes_.end()) {
+    cbxVary.ListIndex = static_cast<int>(current - codes_.begin());
+    tbMin.Text = Shown(RatingRange.RangeMin);
+    tbMax.Text = Shown(RatingRange.RangeMax);
+  }
+  EnableOK();
+}
+
+void RangeSettings::cbxVary_Click() {
+  const int code = codes_[static_cast<std::size_t>(cbxVary.ListIndex)];
+  RatingRange.VaryCode = code;
+  const bool roughness = code == Units::Dimensionless;
+  const bool elevation = code == Units::Length && ChannelState.ChannelType == ChannelTypes::Irregular;
+  tbMin.Text =
+      roughness ? TwoDecimals(0.01)
+      : elevation
+          ? Shown(ManningIrreg::IrregLowPoint(ChannelState.IrregEnginePoints, ChannelState.IrregPointCount))
+          : "0";
+  tbMax.Text = roughness              ? TwoDecimals(0.05)
+               : code == Units::Slope ? TwoDecimals(0.20)
+                                      : Shown(ChannelState.*FindVariedInput(code)->Field);
+  for (const int which : {0, 1}) lblunits[which].Caption = UnitLabel(ChannelState.UnitsEorM, code);
+  EnableOK();
+}
+
+bool RangeSettings::Mark(TextBox& box, const std::string& offence) {
+  box.ToolTip = offence;
+  // An empty box is a question, not a mistake.
+  box.Offending = !offence.empty() && !box.Text.Get().empty();
+  return offence.empty();
+}
+
+std::string RangeSettings::LastOffence() const {
+  if (!IsNumber(tbMax)) return "Last must be a number";
+  const bool greater = !IsNumber(tbMin) || LeadingNumber(tbMax.Text.Get()) > LeadingNumber(tbMin.Text.Get());
+  return greater ? "" : "Last must be greater than first";
+}
+
+void RangeSettings::EnableOK() {
+  const bool first = Mark(tbMin, IsNumber(tbMin) ? "" : "First must be a number");
+  const bool last = Mark(tbMax, LastOffence());
+  const bool step = MarkStep();
+  cmdOK.Enabled = first && last && step;
+}
+
+void RangeSettings::cmdOK_Click() {
+  RatingRange.RatingCancelled = false;
+  RatingRange.RangeMin = Internal(tbMin);
+  RatingRange.RangeMax = Internal(tbMax);
+  Unload();
+}
+
+void RangeSettings::cmdCancel_Click() {
+  RatingRange.RatingCancelled = true;
+  Unload();
+}
+
+double RangeSettings::Internal(const TextBox& box) {
+  return LeadingNumber(box.Text.Get()) * UnitFactor(ChannelState.UnitsEorM, RatingRange.VaryCode);
+}
+
+std::string RangeSettings::Shown(const EngineValue& value) {
+  // Rounding up might leave the numbers that there are.
+  if (!std::isfinite(2 * value.Number())) return value.Text();
+  return ShownNumber(value, RatingRange.VaryCode, RatingRange.VaryCode == Units::Length);
+}

@@ -1,0 +1,38 @@
+// The series behind rating graph and rating table: one input of the problem is stepped over a range, and the
+// problem is solved at every step.
+#pragma once
+
+#include <functional>
+
+#include "app/Declarations.h"
+#include "app/frmMain.h"
+#include "engine/ChannelState.h"
+
+/// An input that a series can vary.
+struct VariedInput {
+  int VaryCode;  ///< its row of the unit table
+  const char* Name;
+  EngineValue ChannelRecord::*Field;
+  int Column;  ///< where the rating columns show it
+};
+
+/// The input of this code; null for a code of none.
+const VariedInput* FindVariedInput(int varyCode);
+
+/// What becomes of a last value that the added-up steps miss by a rounding.
+enum class LastValue { AsStepped, Snapped };
+
+/// Steps the varied input of the problem record from range.RangeMin to range.RangeMax and solves each valid
+/// point in the record itself. Where that gives a flow and a depth, `store` is called with the number of the
+/// row, from 1, to take what it needs from the record. A point whose operation or whose `store` raises an
+/// EngineFault counts no row. Afterwards, also on any other exception of `store`, the inputs are as typed in
+/// the main window; the results stay those of the last point.
+void RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastValue lastValue,
+                     const std::function<void(int row)>& store);
+
+/// True when the problem record can be solved at the present value of the varied input. EngineFault for an
+/// irregular section without points.
+bool IsRatingPointValid(int varyCode);
+
+/// Sets the inputs of the problem record that the main window's boxes give as numbers, in feet and seconds.
+void RestoreInputsFromMain(const frmMain& main);

@@ -1,0 +1,104 @@
+// See frmGraph.h.
+#include "rating/frmGraph.h"
+
+#include "app/Declarations.h"
+#include "platform/Services.h"
+#include "rating/ExportFile.h"
+#include "rating/RatingColumn.h"
+#include "rating/RatingSeries.h"
+#include "rating/frmGraphSettings.h"
+
+namespace {
+
+/// A range of a few hundred neighbouring doubles has steps rounded down, and more points than intended.
+constexpr int MostRows = 250;
+
+/// The stretches of a series in which the flow falls as the level rises, or the reverse.
+class FallingFlow {
+ public:
+  /// Takes in the record's level and flow as the row `index`; the rows come in order.
+  void Add(int index) {
+    const double level = ChannelState.Depth.Number();
+    const double flow = ChannelState.Flow.Number();
+    const bool falls = index > 0 && ((level > level_ && flow < flow_) || (level < level_ && flow > flow_));
+    if (falls && !stretches_.empty() && stretches_.back().Last == index - 1) {
+      stretches_.back().Last = index;
+    } else if (falls) {
+      stretches_.push_back({index - 1, index});
+    }
+    level_ = level;
+    flow_ = flow;
+  }
+  const std::vector<ChartStretch>& Stretches() const { return stretches_; }
+
+ private:
+  std::vector<ChartStretch> stretches_;
+  double level_ = 0, flow_ = 0;
+};
+
+}  // namespace
+
+frmGraph::frmGraph(const frmMain& main) : Form("frmGraph"), main_(main) {
+  lblMarked.Caption = "Marked: the flow falls as the level rises";
+  mnuPrint.Caption = "Print...";
+  mnuFileExport.Caption = "Export...";
+  mnuFileExit.Caption = "Exit";
+  mnuEditCopy.Caption = "Copy";
+  mnuEditSettings.Caption = "Settings...";
+  mnuFileExport.Click = [this] { mnuFileExport_Click(); };
+  mnuFileExit.Click = [this] { mnuFileExit_Click(); };
+  mnuEditCopy.Click = [this] { mnuEditCopy_Click(); };
+  mnuEditSettings.Click = [this] { mnuEditSettings_Click(); };
+  mnuPrint.Visible = false;  // printing is still to come
+}
+
+void frmGraph::Form_Load() {
+  Caption = std::string(Declarations::AppTitle) + " - " + ChannelState.ChannelType;
+  LoadGraph();
+}
+
+void frmGraph::LoadGraph() {
+  const RatingColumns columns = CurrentRatingColumns();
+  const VariedInput* const varied = FindVariedInput(RatingRange.VaryCode);
+  const RatingColumn& x = columns.at(static_cast<std::size_t>(varied->Column));
+  const RatingColumn& y = columns.at(static_cast<std::size_t>(RatingRange.GraphYColumn));
+  std::vector<XYChart::Row> rows;
+  FallingFlow falling;
+  RunRatingSeries(main_, RatingRange, LastValue::AsStepped, [&](int row) {
+    if (row > MostRows) return;
+    const auto across = x.Number();
+    const auto up = y.Number();
+    rows.push_back(across && up ? XYChart::Row{across, up} : XYChart::Row{std::nullopt, std::nullopt});
+    falling.Add(row - 1);
+  });
+  MSChart1.XTitle = x.Header();
+  MSChart1.YTitle = y.Header();
+  MSChart1.UniformAxis = false;
+  MSChart1.Marked = falling.Stretches();
+  MSChart1.Load(std::move(rows), 2);
+  lblMarked.Visible = !falling.Stretches().empty();
+}
+
+void frmGraph::mnuEditCopy_Click() {
+  TheServices().clipboard.Clear();
+  if (MSChart1.CopyView) MSChart1.CopyView();
+}
+
+void frmGraph::mnuEditSettings_Click() {
+  frmGraphSettings settings;
+  TheServices().windows.ShowModal(settings);
+  if (!RatingRange.RatingCancelled) LoadGraph();
+}
+
+void frmGraph::mnuFileExport_Click() {
+  ExportFile(
+      {"Export Graph",
+       "Picture (*.png)|*.png|Drawing (*.svg)|*.svg|Document (*.pdf)|*.pdf|All Files (*.*)|*.*", "png"},
+      [this](const std::string& extension) {
+        return MSChart1.PictureView ? MSChart1.PictureView(extension) : "";
+      });
+}
+
+void frmGraph::mnuFileExit_Click() {
+  Unload();
+}

@@ -1,0 +1,82 @@
+// See frmTable.h.
+#include "rating/frmTable.h"
+
+#include "platform/Services.h"
+#include "rating/ExportFile.h"
+#include "rating/RatingColumn.h"
+#include "rating/RatingSeries.h"
+#include "rating/TableText.h"
+#include "rating/frmTableSettings.h"
+
+namespace {
+
+constexpr int LeadingWidth = 200;  // twips
+constexpr int ColumnWidth = 1200;
+
+template <class Text>
+std::vector<std::string> Row(const RatingColumns& columns, Text text) {
+  std::vector<std::string> row(columns.size());
+  for (std::size_t i = 1; i < columns.size(); ++i) row[i] = text(columns[i]);
+  return row;
+}
+
+}  // namespace
+
+frmTable::frmTable(const frmMain& main) : Form("frmTable"), main_(main) {
+  mnuPrint.Caption = "Print...";
+  mnuFileExport.Caption = "Export...";
+  mnuFileExit.Caption = "Exit";
+  mnuEditCopy.Caption = "Copy";
+  mnuEditSettings.Caption = "Settings...";
+  mnuFileExport.Click = [this] { mnuFileExport_Click(); };
+  mnuFileExit.Click = [this] { mnuFileExit_Click(); };
+  mnuEditCopy.Click = [this] { mnuEditCopy_Click(); };
+  mnuEditSettings.Click = [this] { mnuEditSettings_Click(); };
+  mnuPrint.Visible = false;  // printing is still to come
+}
+
+void frmTable::Form_Load() {
+  Caption = std::string(Declarations::AppTitle) + " - " + ChannelState.ChannelType;
+  LoadTable();
+}
+
+void frmTable::LoadTable() {
+  shown_ = RatingRange;
+  const RatingColumns columns = CurrentRatingColumns();
+  std::vector<int> widths(columns.size(), ColumnWidth);
+  widths[0] = LeadingWidth;
+  MSFlexGrid1.ColWidths = widths;
+  std::vector<std::vector<std::string>> rows;
+  rows.push_back(Row(columns, [](const RatingColumn& column) { return column.Header(); }));
+  RunRatingSeries(main_, shown_, LastValue::Snapped, [&](int) {
+    rows.push_back(Row(columns, [](const RatingColumn& column) { return column.Text(); }));
+  });
+  MSFlexGrid1.Load(std::move(rows), static_cast<int>(columns.size()));
+}
+
+void frmTable::mnuEditCopy_Click() {
+  const GridBlock& block = MSFlexGrid1.Selection;
+  std::string text;
+  for (int column = block.Left(); column <= block.Right(); ++column) {
+    if (column > block.Left()) text += '\t';
+    text += MSFlexGrid1.Text(0, column);
+  }
+  Clipboard& clipboard = TheServices().clipboard;
+  clipboard.Clear();
+  clipboard.SetText(text + '\r' + MSFlexGrid1.Clip());
+}
+
+void frmTable::mnuEditSettings_Click() {
+  frmTableSettings settings;
+  TheServices().windows.ShowModal(settings);
+  if (!RatingRange.RatingCancelled) LoadTable();
+}
+
+void frmTable::mnuFileExport_Click() {
+  ExportFile({"Export Table", "Comma-Separated Values (*.csv)|*.csv|All Files (*.*)|*.*", "csv"},
+             [this](const std::string&) { return RatingTableAsCsv(main_, shown_); });
+}
+
+void frmTable::mnuFileExit_Click() {
+  Unload();
+}

@@ -1,0 +1,54 @@
+// See frmTableSettings.h.
+#include "rating/frmTableSettings.h"
+
+#include "app/Declarations.h"
+#include "app/NumberDisplay.h"
+#include "app/Units.h"
+#include "engine/NumberText.h"
+
+namespace {
+
+constexpr int DefaultSteps = 20;
+constexpr int MostSteps = 10000;
+
+double NumberIn(const TextBox& box) {
+  return LeadingNumber(box.Text.Get());
+}
+
+}  // namespace
+
+frmTableSettings::frmTableSettings() : RangeSettings("frmTableSettings") {
+  Caption = "Rating Table Settings";
+  Label3.Caption = "Step";
+  Label4.Caption = "Vary";
+  tbIncrement.Change = [this] { EnableOK(); };
+}
+
+void frmTableSettings::Form_Load() {
+  RangeSettings::Form_Load();
+  if (cbxVary.ListIndex >= 0) tbIncrement.Text = Shown(RatingRange.RangeStep);
+}
+
+void frmTableSettings::cbxVary_Click() {
+  RangeSettings::cbxVary_Click();
+  const double step = (NumberIn(tbMax) - NumberIn(tbMin)) / DefaultSteps;  // already in the unit on display
+  tbIncrement.Text = ShownNumber(step, Units::Dimensionless, RatingRange.VaryCode == Units::Length);
+}
+
+bool frmTableSettings::MarkStep() {
+  return Mark(tbIncrement, StepOffence());
+}
+
+std::string frmTableSettings::StepOffence() const {
+  if (!IsNumeric(tbIncrement.Text.Get())) return "Step must be a number";
+  const double step = NumberIn(tbIncrement);
+  if (step <= 0) return "Step must be greater than 0";
+  // Also when the range is too wide for a number of steps.
+  const bool tooMany = !((NumberIn(tbMax) - NumberIn(tbMin)) / step <= MostSteps);
+  return tooMany ? "Step must be greater: the range has more than 10000 steps" : "";
+}
+
+void frmTableSettings::cmdOK_Click() {
+  RatingRange.RangeStep = Internal(tbIncrement);
+  RangeSettings::cmdOK_Click();
+}
