@@ -17,7 +17,7 @@ class EngineFault : public std::runtime_error {
 // True when none of the numbers is infinite or NaN: x - x is 0 for every other number.
 template <typename... Numbers>
 bool AllFinite(Numbers... x) {
-  return ((x - x) + ...) == 0.0;
+  return ((x - x) + ...) == 0.0;  // NOLINT(misc-redundant-expression)
 }
 
 // x itself; a number that is infinite or NaN faults.
