@@ -99,6 +99,7 @@ void FieldPanel::KeepRoom(const QStringList& units) {
   }
   grid_->setColumnMinimumWidth(CaptionColumn, captionWidth);
   grid_->setColumnMinimumWidth(UnitColumn, unitWidth + 1);
+  grid_->setColumnMinimumWidth(BoxColumn, fontMetrics().horizontalAdvance(QStringLiteral("12,345,678.901")));
 }
 
 void FieldPanel::SetAiriness(int spacing) {

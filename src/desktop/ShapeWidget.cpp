@@ -1,6 +1,189 @@
+// See ShapeWidget.h.
 #include "desktop/ShapeWidget.h"
-ShapeWidget::ShapeWidget(frmMain& form, QWidget* parent) : QWidget(parent), form_(form) {}
+
+#include <QEvent>
+#include <QPainter>
+
+#include "app/Units.h"
+#include "desktop/Appearance.h"
+#include "desktop/Bind.h"
+#include "desktop/Text.h"
+#include "engine/ChannelState.h"
+#include "engine/NumberText.h"
+
+namespace {
+
+/// The number in a box that is shown; absent when there is none.
+std::optional<double> NumberIn(const TextBox& box) {
+  if (!IsNumeric(box.Text.Get())) return std::nullopt;
+  return LeadingNumber(box.Text.Get());
+}
+
+/// The symbol with the text of its box and its unit, when that is a number; nothing for a box that is hidden.
+ShapeLabel LabelOf(const char* symbol, const TextBox& box, const Label* unit) {
+  if (!box.Visible) return {};
+  ShapeLabel label{QLatin1String(symbol), {}};
+  if (!IsNumeric(box.Text.Get()) || box.Text.Get().size() > 14) return label;
+  label.Value = QLatin1String(" = ") + ToQt(box.Text.Get()).trimmed();
+  if (unit != nullptr) label.Value += QLatin1Char(' ') + ToQt(unit->Caption.Get());
+  return label;
+}
+
+std::vector<QPointF> Points() {
+  std::vector<QPointF> points;
+  for (std::size_t row = 1; row <= static_cast<std::size_t>(ChannelState.IrregPointCount); ++row) {
+    const auto& point = ChannelState.IrregPoints[row];
+    points.emplace_back(point[1].Number(), point[2].Number());
+  }
+  return points;
+}
+
+ShapeInputs InputsOf(const frmMain& form) {
+  const int units = ChannelState.UnitsEorM;
+  ShapeInputs inputs{ChannelState.ChannelType,
+                     NumberIn(form.tbDepth),
+                     NumberIn(form.tbBaseWidth),
+                     NumberIn(form.tbSSL),
+                     NumberIn(form.tbSSR),
+                     NumberIn(form.tbDiameter),
+                     Points()};
+  if (inputs.Diameter)
+    *inputs.Diameter *= UnitFactor(units, Units::Diameter) / UnitFactor(units, Units::Length);
+  return inputs;
+}
+
+ShapeLabels LabelsOf(const frmMain& form) {
+  const bool irregular = ChannelState.ChannelType == ChannelTypes::Irregular;
+  return {LabelOf(irregular ? "W" : "y", form.tbDepth, &form.lblDepthUnits),
+          LabelOf("b", form.tbBaseWidth, &form.lblBaseWidthUnits),
+          LabelOf("zL", form.tbSSL, nullptr),
+          LabelOf("zR", form.tbSSR, nullptr),
+          LabelOf("D", form.tbDiameter, &form.lblDiameterUnits),
+          irregular ? ShapeLabel{QStringLiteral("n"), {}} : LabelOf("n", form.tbMann, nullptr)};
+}
+
+void DrawArrow(QPainter& painter, const QLineF& line, double em) {
+  painter.drawLine(line);
+  const double head = std::min(0.45 * em, line.length() / 3);
+  for (const QLineF& end : {line, QLineF(line.p2(), line.p1())}) {
+    QLineF barb(end);
+    barb.setLength(head);
+    for (const double angle : {-20.0, 20.0}) {
+      barb.setAngle(end.angle() + angle);
+      painter.drawLine(barb);
+    }
+  }
+}
+
+/// The symbol in italics, its second letter as an index, and the value behind it.
+void DrawLabel(QPainter& painter, const ShapeLabel& label) {
+  const QFont plain = painter.font();
+  QPointF pen(label.Place.left() + 1, label.Place.top() + painter.fontMetrics().ascent());
+  const auto write = [&](const QFont& font, const QString& text, double drop) {
+    painter.setFont(font);
+    painter.drawText(pen + QPointF(0, drop), text);
+    pen.rx() += QFontMetricsF(font).horizontalAdvance(text);
+  };
+  QFont symbol = plain;
+  symbol.setItalic(!label.Symbol[0].isDigit());
+  QFont index = symbol;
+  index.setPointSizeF(plain.pointSizeF() * 0.75);
+  write(symbol, label.Symbol.left(1), 0);
+  write(index, label.Symbol.mid(1), 0.2 * label.Place.height());
+  write(plain, label.Value, 0);
+  painter.setFont(plain);
+}
+
+/// The triangle and the short lines that mean a free water surface.
+void DrawSurfaceMark(QPainter& painter, const QLineF& surface, double em) {
+  const double x = surface.x1() + 0.3 * surface.dx();
+  const double y = surface.y1();
+  const double half = 0.3 * em;
+  painter.drawPolygon(
+      QPolygonF({{x, y - 1}, {x - half, y - 1.6 * half - 1}, {x + half, y - 1.6 * half - 1}}));
+  if (surface.length() < 4 * em) return;
+  painter.drawLine(QPointF(x - 0.8 * half, y + 3), QPointF(x + 0.8 * half, y + 3));
+  painter.drawLine(QPointF(x - 0.4 * half, y + 6), QPointF(x + 0.4 * half, y + 6));
+}
+
+}  // namespace
+
+ShapeWidget::ShapeWidget(frmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
+  setAccessibleName(QStringLiteral("Cross-section"));
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  const auto refresh = [this] { Refresh(); };
+  for (TextBox* const box :
+       {&form.tbDepth, &form.tbMann, &form.tbBaseWidth, &form.tbSSL, &form.tbSSR, &form.tbDiameter}) {
+    Bind::Follow(box->Text, this, refresh);
+  }
+  Bind::Follow(form.lblChanType.Caption, this, refresh);
+  // The unit system shows in both.
+  Bind::Follow(form.lblDepthUnits.Caption, this, refresh);
+  Bind::Follow(form.lblDiameterUnits.Caption, this, refresh);
+  for (TextBox* const box : {&form.tbMann, &form.tbBaseWidth, &form.tbSSL, &form.tbSSR, &form.tbDiameter}) {
+    Bind::Follow(box->Visible, this, refresh);
+  }
+}
+
 QSize ShapeWidget::minimumSizeHint() const {
   const int em = fontMetrics().height();
-  return {16 * em, 11 * em};
+  return {18 * em, 13 * em};
+}
+
+bool ShapeWidget::event(QEvent* event) {
+  // The points of a section change in another window.
+  if (event->type() == QEvent::WindowActivate) Refresh();
+  return QWidget::event(event);
+}
+
+void ShapeWidget::Refresh() {
+  inputs_ = InputsOf(form_);
+  labels_ = LabelsOf(form_);
+  Describe();
+  update();
+}
+
+void ShapeWidget::Describe() {
+  QStringList parts{ToQt(inputs_.Type)};
+  for (const ShapeLabel* const label : {&labels_.Depth, &labels_.BaseWidth, &labels_.LeftSlope,
+                                        &labels_.RightSlope, &labels_.Diameter, &labels_.Roughness}) {
+    if (!label->Value.isEmpty()) parts << label->Plain();
+  }
+  setAccessibleDescription(parts.join(QLatin1String(", ")));
+}
+
+void ShapeWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QPalette& colours = palette();
+  const double em = fontMetrics().height();
+  const QRectF canvas = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.setPen(
+      QPen(Appearance::Mixed(colours.color(QPalette::Window), colours.color(QPalette::WindowText), 0.25), 1));
+  painter.setBrush(colours.base());
+  painter.drawRoundedRect(canvas, 4, 4);
+
+  const ShapeGeometry shape = ShapeOf(inputs_);
+  const ShapeLayout layout = LayOutShape(shape, labels_, canvas, QFontMetricsF(font()));
+  const QColor ink = colours.color(QPalette::Text);
+  const QColor thin = Appearance::Mixed(colours.color(QPalette::Base), ink, 0.6);
+
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Appearance::Earth(colours));
+  painter.drawPolygon(layout.Earth);
+  painter.setBrush(Appearance::Water(colours));
+  for (const QPolygonF& pool : layout.Water) painter.drawPolygon(pool);
+  painter.setPen(QPen(Appearance::WaterSurface(colours), 1.5));
+  for (const QPolygonF& pool : layout.Water) painter.drawLine(pool.first(), pool.last());
+  painter.setBrush(Qt::NoBrush);
+  if (!layout.SurfaceMark.isNull()) DrawSurfaceMark(painter, layout.SurfaceMark, em);
+  painter.setPen(QPen(ink, shape.Pipe ? 0.22 * em : 0.14 * em, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(layout.Ground);
+  painter.setPen(QPen(thin, 1));
+  painter.drawLines(layout.Extensions);
+  painter.setPen(QPen(ink, 1.2));
+  for (const QLineF& arrow : layout.Arrows) DrawArrow(painter, arrow, em);
+  for (const ShapeLabel& label : layout.Labels) DrawLabel(painter, label);
+  painter.setPen(thin);
+  painter.drawText(layout.NotePlace, Qt::TextDontClip, layout.Note);
 }

@@ -1,13 +1,16 @@
 // The program with its window: the calculator on the services of the desktop.
 #include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLocale>
 #include <QSessionManager>
+#include <QTimer>
 
 #include "app/Declarations.h"
 #include "app/SettingsFile.h"
 #include "desktop/QtServices.h"
 #include "desktop/QtWindowHost.h"
+#include "desktop/Recovery.h"
 #include "desktop/Text.h"
 #include "engine/NumberText.h"
 #include "program/Program.h"
@@ -30,6 +33,7 @@ int main(int argc, char* argv[]) {
   QtWindowHost windows;
   Program program({clipboard, messageBox, fileDialog, windows});
   program.Start();
+  Recovery recovery(program.Main);
   QObject::connect(windows.WindowOf(program.Main), &QObject::destroyed, &application,
                    [] { QApplication::exit(); });
   QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
@@ -38,5 +42,11 @@ int main(int argc, char* argv[]) {
                      if (!program.Main.ChecknSave()) session.cancel();
                      session.release();
                    });
+  // Once the window is there: both may have something to ask.
+  QTimer::singleShot(0, &application, [&program, &recovery] {
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() > 1) program.Main.OpenInstead(FromQt(QFileInfo(arguments[1]).absoluteFilePath()));
+    recovery.OfferLeftCopies();
+  });
   return QApplication::exec();
 }
