@@ -77,6 +77,16 @@ std::optional<std::string> PointCell(const PointTable& points, const std::vector
   return Told(points[row][column]);
 }
 
+std::optional<std::string> RatingRangeField(std::string_view name) {
+  if (name == "VaryCode") return Told(RatingRange.VaryCode);
+  if (name == "GraphYColumn") return Told(RatingRange.GraphYColumn);
+  if (name == "RangeMin") return Told(RatingRange.RangeMin);
+  if (name == "RangeMax") return Told(RatingRange.RangeMax);
+  if (name == "RangeStep") return Told(RatingRange.RangeStep);
+  if (name == "RatingCancelled") return Told(RatingRange.RatingCancelled);
+  return std::nullopt;
+}
+
 }  // namespace
 
 std::optional<std::string> ControlProperty(const Control& control, std::string_view property) {
@@ -117,6 +127,8 @@ std::optional<std::string> RecordField(const std::vector<std::string>& words) {
 }
 
 std::optional<std::string> SharedVariable(std::string_view name) {
+  constexpr std::string_view record = "RatingRange.";
+  if (name.starts_with(record)) return RatingRangeField(name.substr(record.size()));
   if (name == "DataChanged") return Told(Declarations::DataChanged);
   if (name == "FilePath") return Declarations::FilePath;
   if (name == "FileTitle") return Declarations::FileTitle;
