@@ -103,6 +103,10 @@ class frmMain : public Form {
   bool FileOpen(const std::string& path);
   /// Opens a file as the project in work, in place of the one before.
   void OpenProject(const std::string& path);
+  /// Likewise, when the project before may be let go: a file dropped on the window.
+  void OpenInstead(const std::string& path);
+  /// Takes up a kept copy of unsaved work, which still has no file of its own.
+  void RecoverProject(const std::string& path);
   ProjectFile::Project CurrentProject() const;
 
   // Commands: a menu item and the tool button of the same role run the same one.
@@ -142,6 +146,7 @@ class frmMain : public Form {
   void Input_Change();
   void Input_Validate();
   bool SaveProject();
+  void ShowProject();
   void ShowTitle();
   void SelectChannelType(std::string_view type);
   void SelectSolveForFlow(bool solveForFlow);

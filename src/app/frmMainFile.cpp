@@ -133,12 +133,27 @@ bool frmMain::FileOpen(const std::string& path) {
 void frmMain::OpenProject(const std::string& path) {
   if (!FileOpen(path)) return;
   TakePath(path);
+  ShowProject();
+}
+
+void frmMain::RecoverProject(const std::string& path) {
+  if (!FileOpen(path)) return;
+  Declarations::FilePath = Declarations::FileTitle = Declarations::Untitled;
+  ShowProject();
+  Declarations::DataChanged = true;
+}
+
+void frmMain::ShowProject() {
   ShowTitle();
   ToggleControls();
   SetUnitsEorM();
   CheckInputs();
   FormatInputs();
   Declarations::DataChanged = false;  // tidied texts are no edit
+}
+
+void frmMain::OpenInstead(const std::string& path) {
+  if (ChecknSave()) OpenProject(path);
 }
 
 void frmMain::mnuFileNew_Click() {
