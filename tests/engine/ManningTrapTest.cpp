@@ -1,0 +1,168 @@
+// Trapezoids, rectangles and triangles against hand values, closed forms and a second method.
+#include "engine/ManningTrap.h"
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "Problem.h"
+#include "engine/Bisection.h"
+
+namespace {
+
+using ManningTrapTest = EngineTest;
+
+TEST(Bisection, ReportsTheLastMidpointTried) {
+  int tried = 0;
+  const double top = LastMidpoint(0, 999, 1, [&](double) { return ++tried, 0; });
+  EXPECT_EQ(tried, 30);
+  EXPECT_DOUBLE_EQ(top, 999 - std::ldexp(999, -30));
+  EXPECT_DOUBLE_EQ(LastMidpoint(0, 999, 0, [](double) { return 0; }), std::ldexp(999, -30));
+}
+
+TEST(Bisection, EndsWhereDoublesAreCoarserThanTheTolerance) {
+  const double lo = 1e12;
+  const double found = LastMidpoint(lo, lo + 999, lo + 500, [](double y) { return y; });
+  EXPECT_NEAR(found, lo + 500, 2e-4);
+  EXPECT_LE(LastMidpoint(1e18, 1e18 + 999, 0, [](double y) { return y; }), 1e18 + 128);
+  EXPECT_THROW(LastMidpoint(1e20, 1e20 + 999, 0, [](double y) { return y; }), EngineFault);
+  EXPECT_THROW(LastMidpoint(0, 1e-6, 0, [](double y) { return y; }), EngineFault);
+}
+
+TEST_F(ManningTrapTest, RectangleByHand) {
+  SetTrapezoid(10, 0, 0, 0.013, 0.001);
+  ChannelState.Depth = 2;
+  ManningTrap::PrismaticFlowFromDepth();
+  EXPECT_EQ(ChannelState.Area, 20);
+  EXPECT_EQ(ChannelState.WettedPerimeter, 14);
+  EXPECT_DOUBLE_EQ(ChannelState.HydraulicRadius.Number(), 20.0 / 14);
+  const double Q = ChannelState.Flow.Number();
+  EXPECT_NEAR(Q, 91.696, 5e-4);
+  EXPECT_DOUBLE_EQ(ChannelState.Velocity.Number(), Q / 20);
+  EXPECT_DOUBLE_EQ(ChannelState.VelocityHead.Number(), Q * Q / 400 / 64.3481);
+  EXPECT_EQ(ChannelState.TopWidth, 10);
+  EXPECT_DOUBLE_EQ(ChannelState.Froude.Number(), Q / 20 / std::sqrt(32.17405 * 2));
+  const double yc = ChannelState.CriticalDepth.Number();
+  EXPECT_NEAR(yc, std::cbrt(Q * Q / 100 / 32.17405), 1e-6);
+  // At its critical slope the channel carries the flow at critical depth.
+  SetTrapezoid(10, 0, 0, 0.013, ChannelState.CriticalSlope.Number());
+  ManningTrap::PrismaticDepthFromFlow();
+  EXPECT_NEAR(ChannelState.Depth.Number(), yc, 2e-6);
+  EXPECT_NEAR(ChannelState.Froude.Number(), 1, 1e-5);
+}
+
+TEST_F(ManningTrapTest, WorkedExample) {
+  SetTrapezoid(20, 2, 2, 0.025, 0.0016);
+  ChannelState.Flow = 400;
+  ManningTrap::PrismaticDepthFromFlow();
+  EXPECT_NEAR(ChannelState.Depth.Number(), 3.361, 5e-4);
+  EXPECT_NEAR(ChannelState.Velocity.Number(), 4.454, 5e-4);
+  EXPECT_NEAR(ChannelState.CriticalDepth.Number(), 2.148, 5e-4);
+  EXPECT_EQ(ChannelState.Flow, 400);
+}
+
+TEST_F(ManningTrapTest, CriticalDepthOfRectangleAndTriangleInClosedForm) {
+  for (const double Q : {0.01, 3.0, 250.0, 4e5}) {
+    EXPECT_NEAR(ManningTrap::TrapCriticalDepth(7, 0, 0, Q).Number(), std::cbrt(Q / 7 * Q / 7 / 32.17405),
+                1e-6);
+    EXPECT_NEAR(ManningTrap::TrapCriticalDepth(0, 1.5, 1.5, Q).Number(),
+                std::pow(2 * Q * Q / (32.17405 * 1.5 * 1.5), 0.2), 1e-6);
+  }
+}
+
+TEST_F(ManningTrapTest, RandomChannelsByASecondMethod) {
+  std::mt19937_64 random(1);
+  const auto uniform = [&](double from, double to) {
+    return std::uniform_real_distribution(from, to)(random);
+  };
+  for (int i = 0; i < 300; ++i) {
+    const double b = uniform(0, 50), zL = uniform(0.1, 5), zR = uniform(0, 5), n = uniform(0.01, 0.1);
+    const double S = std::pow(10, uniform(-4, -1)), Q = std::pow(10, uniform(-1, 5));
+    // The area as the mean of base and top width, the sides by Pythagoras.
+    const auto area = [&](long double y) { return (b + y * (zL + zR) / 2) * y; };
+    const auto perimeter = [&](long double y) { return b + std::hypot(y, y * zL) + std::hypot(y, y * zR); };
+    const double yn = Root(0, 999, [&](long double y) {
+      return 1.485919L / n * std::pow(area(y), 5 / 3.0L) / std::pow(perimeter(y), 2 / 3.0L) * std::sqrt(S) -
+             Q;
+    });
+    const double yc = Root(0, 999, [&](long double y) {
+      return 32.17405L * std::pow(area(y), 3.0L) - static_cast<long double>(Q) * Q * (b + y * (zL + zR));
+    });
+    SetTrapezoid(b, zL, zR, n, S);
+    ChannelState.Flow = Q;
+    ManningTrap::PrismaticDepthFromFlow();
+    ASSERT_NEAR(ChannelState.Depth.Number(), yn, 1e-6);
+    ASSERT_NEAR(ChannelState.CriticalDepth.Number(), yc, 1e-6);
+    ManningTrap::PrismaticFlowFromDepth();
+    ASSERT_NEAR(ChannelState.Flow.Number() / Q, 1, 1e-4);
+  }
+}
+
+TEST_F(ManningTrapTest, SideSlopesAddUpRightFirst) {
+  EXPECT_EQ(ManningTrap::TrapWettedPerimeter(0.1, 0.3, 2, 3),
+            (0.3 + 0.1 * std::sqrt(10.0)) + 0.1 * std::sqrt(5.0));
+  EXPECT_EQ(ManningTrap::TrapTopWidth(2, 10, 1, 3), 18);
+  EXPECT_EQ(ManningTrap::TrapArea(2, 10, 1, 3), 28);
+}
+
+TEST_F(ManningTrapTest, DepthsOutOfRangeOverflow) {
+  SetTrapezoid(10, 0, 0, 0.013, 0.001);
+  ChannelState.Flow = 1e9;
+  ManningTrap::PrismaticDepthFromFlow();
+  ExpectOverflow(ChannelState.Depth);
+  EXPECT_EQ(ChannelState.Flow, 1e9);
+
+  SetTrapezoid(10, 0, 0, 0.013, 0);
+  ChannelState.Flow = 1;
+  ManningTrap::PrismaticDepthFromFlow();
+  ExpectOverflow(ChannelState.Depth);
+
+  // Steep enough to carry at a normal depth in range what is critical only beyond it.
+  SetTrapezoid(1, 0, 0, 0.001, 0.9);
+  ChannelState.Depth = 990;
+  ManningTrap::PrismaticFlowFromDepth();
+  EXPECT_TRUE(ChannelState.CriticalDepth.IsFalse());
+  EXPECT_TRUE(ChannelState.CriticalSlope.IsEmptyText());
+}
+
+TEST_F(ManningTrapTest, ADepthWithoutFlowIsTheLowestMidpoint) {
+  SetTrapezoid(10, 1, 1, 0.013, 0.001);
+  ChannelState.Flow = 0;
+  EXPECT_THROW(ManningTrap::PrismaticDepthFromFlow(), EngineFault);  // no critical slope without flow
+  EXPECT_DOUBLE_EQ(ChannelState.Depth.Number(), std::ldexp(999, -30));
+  EXPECT_EQ(ChannelState.Velocity, 0);
+}
+
+TEST_F(ManningTrapTest, AFaultKeepsTheResultsBeforeIt) {
+  SetTrapezoid(0, 1, 1, 0.013, 0.001);
+  ChannelState.Depth = 0;
+  ChannelState.Area = ChannelState.WettedPerimeter = ChannelState.HydraulicRadius = "before";
+  EXPECT_THROW(ManningTrap::PrismaticFlowFromDepth(), EngineFault);
+  EXPECT_EQ(ChannelState.Area, 0);
+  EXPECT_EQ(ChannelState.WettedPerimeter, 0);
+  EXPECT_EQ(ChannelState.HydraulicRadius, "before");
+}
+
+TEST_F(ManningTrapTest, Faults) {
+  const double tooLarge = 1e308, infinite = std::numeric_limits<double>::infinity();
+  struct Case {
+    double y, b, z, n, S;
+  };
+  for (const Case& c :
+       {Case{1, 0, 0, 0.01, 0.001}, Case{0, 0, 1, 0.01, 0.001}, Case{1, 5, 1, 0, 0.001},
+        Case{1, 5, 1, 0.01, -0.001}, Case{tooLarge, 5, 1, 0.01, 0.001}, Case{1, 5, tooLarge, 0.01, 0.001},
+        Case{1, 5, 1e160, 0.01, 0.001}, Case{1, 5, 1, infinite, 0.001}, Case{1, infinite, 1, 0.01, 0.001}}) {
+    SetTrapezoid(c.b, c.z, c.z, c.n, c.S);
+    ChannelState.Depth = c.y;
+    EXPECT_THROW(ManningTrap::PrismaticFlowFromDepth(), EngineFault) << c.y << ' ' << c.b << ' ' << c.z;
+  }
+  SetTrapezoid(5, 1, 1, 0.01, -0.001);
+  ChannelState.Flow = 10;
+  EXPECT_THROW(ManningTrap::PrismaticDepthFromFlow(), EngineFault);
+  // Sides so flat that their length overflows would make R, and so the flow, a silent 0.
+  SetTrapezoid(5, 1e160, 1e160, 0.01, 0.001);
+  EXPECT_THROW(ManningTrap::PrismaticDepthFromFlow(), EngineFault);
+  EXPECT_THROW(ManningTrap::TrapFroude(1, 0, 1), EngineFault);
+}
+
+}  // namespace
