@@ -2,8 +2,10 @@
 #include "desktop/BoxEdit.h"
 
 #include <QApplication>
+#include <QDragEnterEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 
 #include "desktop/Appearance.h"
 #include "desktop/Bind.h"
@@ -79,6 +81,15 @@ void BoxEdit::ShowLook() {
 void BoxEdit::changeEvent(QEvent* event) {
   QLineEdit::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) ShowLook();
+}
+
+// A dragged text is dropped into the box, a dragged file on the window.
+void BoxEdit::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) {
+    event->ignore();
+  } else {
+    QLineEdit::dragEnterEvent(event);
+  }
 }
 
 void BoxEdit::focusInEvent(QFocusEvent* event) {

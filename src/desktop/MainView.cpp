@@ -1,10 +1,14 @@
 // See MainView.h; its menus and tools are in MainViewCommands.cpp.
 #include "desktop/MainView.h"
 
+#include <QDragEnterEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include "app/Declarations.h"
@@ -89,6 +93,14 @@ QIcon StatusIcon(const frmMain& form, const QPalette& palette) {
                            : LineIcon("wrong", Appearance::Bad(palette));
 }
 
+/// The project file that is being dragged; empty when it is anything else.
+QString DraggedProject(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  if (urls.size() != 1) return {};
+  const QString path = urls.first().toLocalFile();
+  return path.endsWith(QLatin1String(".fwd"), Qt::CaseInsensitive) ? path : QString();
+}
+
 }  // namespace
 
 MainView::MainView(frmMain& form, QWidget* parent) : QMainWindow(parent), form_(form) {
@@ -108,8 +120,20 @@ MainView::MainView(frmMain& form, QWidget* parent) : QMainWindow(parent), form_(
   setCentralWidget(central);
   Bind::Join(Declarations::DataChanged, this,
              [](MainView& view, bool changed) { view.setWindowModified(changed); });
+  setAcceptDrops(true);
   findChild<QWidget*>(ToQt((form.tbFlow.Locked ? form.tbDepth : form.tbFlow).Name()))->setFocus();
   PlaceOnScreen();
+}
+
+void MainView::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DraggedProject(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainView::dropEvent(QDropEvent* event) {
+  const QString path = DraggedProject(*event->mimeData());
+  event->acceptProposedAction();
+  // Afterwards: opening may ask something, and the program dragged from waits for the drop to end.
+  QTimer::singleShot(0, this, [this, path] { form_.OpenInstead(FromQt(path)); });
 }
 
 QWidget* MainView::ProjectRow(QWidget* parent) {

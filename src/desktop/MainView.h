@@ -12,6 +12,10 @@ class MainView : public QMainWindow {
  public:
   MainView(frmMain& form, QWidget* parent);
 
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
  private:
   void AddMenus();
   void AddTools();
