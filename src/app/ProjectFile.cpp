@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
-#include <filesystem>
-#include <fstream>
 #include <set>
 #include <span>
 #include <stdexcept>
@@ -13,10 +11,10 @@
 #include "app/Declarations.h"
 #include "app/FileNumber.h"
 #include "app/ProjectItems.h"
-#include "app/SafeReplace.h"
 #include "app/TextEncoding.h"
 #include "app/Units.h"
 #include "app/Version.h"
+#include "app/WholeFile.h"
 #include "engine/ChannelState.h"
 #include "engine/NumberText.h"
 
@@ -29,7 +27,6 @@ using ProjectItems::Item;
 constexpr const char* CompanyName = "Flumewise";
 constexpr std::string_view True = "#TRUE#";
 constexpr std::string_view False = "#FALSE#";
-constexpr size_t MaxFileSize = size_t{4} << 20;
 constexpr int MaxPoints = 101;
 constexpr int DefaultDigits = 3;
 
@@ -173,18 +170,6 @@ class ItemList {
   std::set<size_t> asTyped_;
 };
 
-std::string ReadBytes(const std::string& path) {
-  // Opening a pipe would wait, and opening a device can set it going: ask first.
-  if (!std::filesystem::is_regular_file(path)) throw std::runtime_error("no regular file");
-  const auto size = std::filesystem::file_size(path);
-  if (size > MaxFileSize) throw std::runtime_error("too large for a project");
-  std::string bytes(size, '\0');
-  std::ifstream file(path, std::ios::binary);
-  if (!file.read(bytes.data(), static_cast<std::streamsize>(size)))
-    throw std::runtime_error("not read to its end");
-  return bytes;
-}
-
 }  // namespace
 
 std::string Format(const Project& project) {
@@ -210,7 +195,7 @@ std::string Format(const Project& project) {
 }
 
 Project Parse(std::string_view bytes) {
-  if (bytes.size() > MaxFileSize) throw std::runtime_error("too large for a project");
+  if (bytes.size() > WholeFile::MaxSize) throw std::runtime_error("too large for a project");
   const ItemList items(bytes);
   Project project;
   for (size_t i = 0; i < Inputs.size(); ++i) project.*Inputs[i] = items.Typed(FirstInput + i);
@@ -230,14 +215,11 @@ Project Parse(std::string_view bytes) {
 void Write(const std::string& path, const Project& project) {
   const std::string bytes = Format(project);
   Parse(bytes);  // what does not open must not replace what does
-  SafeReplace file(path);
-  file.Append(bytes);
-  if (file.ReadBack() != bytes) throw std::runtime_error("not read back as written");
-  file.Commit();
+  WholeFile::Write(path, bytes);
 }
 
 Project Read(const std::string& path) {
-  return Parse(ReadBytes(path));
+  return Parse(WholeFile::Read(path));
 }
 
 }  // namespace ProjectFile

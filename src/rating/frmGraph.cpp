@@ -1,9 +1,9 @@
 // See frmGraph.h.
 #include "rating/frmGraph.h"
 
+#include "app/ChartPicture.h"
 #include "app/Declarations.h"
 #include "platform/Services.h"
-#include "rating/ExportFile.h"
 #include "rating/RatingColumn.h"
 #include "rating/RatingSeries.h"
 #include "rating/frmGraphSettings.h"
@@ -80,8 +80,7 @@ void frmGraph::LoadGraph() {
 }
 
 void frmGraph::mnuEditCopy_Click() {
-  TheServices().clipboard.Clear();
-  if (MSChart1.CopyView) MSChart1.CopyView();
+  ChartPicture::Copy(MSChart1);
 }
 
 void frmGraph::mnuEditSettings_Click() {
@@ -91,12 +90,7 @@ void frmGraph::mnuEditSettings_Click() {
 }
 
 void frmGraph::mnuFileExport_Click() {
-  ExportFile(
-      {"Export Graph",
-       "Picture (*.png)|*.png|Drawing (*.svg)|*.svg|Document (*.pdf)|*.pdf|All Files (*.*)|*.*", "png"},
-      [this](const std::string& extension) {
-        return MSChart1.PictureView ? MSChart1.PictureView(extension) : "";
-      });
+  ChartPicture::Export(MSChart1, "Export Graph");
 }
 
 void frmGraph::mnuFileExit_Click() {

@@ -1,8 +1,8 @@
 // See frmTable.h.
 #include "rating/frmTable.h"
 
+#include "app/ExportFile.h"
 #include "platform/Services.h"
-#include "rating/ExportFile.h"
 #include "rating/RatingColumn.h"
 #include "rating/RatingSeries.h"
 #include "rating/TableText.h"

@@ -1,5 +1,5 @@
 // See ExportFile.h.
-#include "rating/ExportFile.h"
+#include "app/ExportFile.h"
 
 #include <algorithm>
 #include <exception>
@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 #include "app/Declarations.h"
-#include "app/SafeReplace.h"
+#include "app/WholeFile.h"
 #include "platform/Services.h"
 
 namespace fs = std::filesystem;
@@ -34,9 +34,7 @@ void ExportFile(const ExportKind& kind,
   try {
     const std::string bytes = content(ExtensionOf(*path));
     if (bytes.empty()) throw std::runtime_error("no file of this kind can be made");
-    SafeReplace file(*path);
-    file.Append(bytes);
-    file.Commit();
+    WholeFile::Write(*path, bytes);
   } catch (const std::exception& failure) {
     services.messageBox.Show("Cannot write " + *path + ": " + failure.what(), Declarations::AppTitle,
                              BoxIcon::Exclamation, BoxButtons::Ok);
