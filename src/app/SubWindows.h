@@ -6,6 +6,8 @@ class SubWindows {
   virtual ~SubWindows() = default;
   virtual void OpenDigits() = 0;
   virtual void OpenMannParam() = 0;
-  virtual void OpenGraph() {}
-  virtual void OpenTable() {}
+  virtual void OpenIrreg() = 0;
+  virtual void OpenSection() = 0;
+  virtual void OpenGraph() = 0;
+  virtual void OpenTable() = 0;
 };

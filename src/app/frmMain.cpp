@@ -110,6 +110,8 @@ void frmMain::JoinCommands() {
                                       {mnuEditDelete, &frmMain::mnuEditDelete_Click},
                                       {mnuSolveForFlow, &frmMain::mnuSolveForFlow_Click},
                                       {mnuSolveForDepth, &frmMain::mnuSolveForDepth_Click},
+                                      {mnuSolveSection, &frmMain::mnuSolveSection_Click},
+                                      {Toolbar1.Section, &frmMain::mnuSolveSection_Click},
                                       {mnuSolveGraph, &frmMain::mnuSolveGraph_Click},
                                       {Toolbar1.Graph, &frmMain::mnuSolveGraph_Click},
                                       {mnuSolveTable, &frmMain::mnuSolveTable_Click},
@@ -122,13 +124,13 @@ void frmMain::JoinCommands() {
                                       {mnuOptionsUnitsEnglish, &frmMain::mnuOptionsUnitsEnglish_Click},
                                       {mnuOptionsUnitsMetric, &frmMain::mnuOptionsUnitsMetric_Click},
                                       {mnuOptionsDigits, &frmMain::mnuOptionsDigits_Click},
+                                      {cmdIrreg, &frmMain::cmdIrreg_Click},
                                       {cmdMannParams, &frmMain::cmdMannParams_Click}}) {
     each.Of.Click = [this, run = each.Run] { (this->*run)(); };
   }
   // Commands whose windows are still to come.
-  for (Control* const control :
-       std::initializer_list<Control*>{&mnuFilePrint, &mnuSolveSection, &mnuHelpContents, &mnuHelpIndex,
-                                       &mnuHelpAbout, &Toolbar1.Print, &Toolbar1.Section}) {
+  for (Control* const control : std::initializer_list<Control*>{
+           &mnuFilePrint, &mnuHelpContents, &mnuHelpIndex, &mnuHelpAbout, &Toolbar1.Print}) {
     control->Visible = false;
   }
 }

@@ -131,7 +131,9 @@ class frmMain : public Form {
   void mnuSolveForDepth_Click();
   void mnuSolveGraph_Click();
   void mnuSolveTable_Click();
+  void mnuSolveSection_Click();
   void cmdMannParams_Click();
+  void cmdIrreg_Click();
 
   void Form_Activate() override;
 

@@ -144,6 +144,12 @@ void frmMain::mnuSolveGraph_Click() {
 void frmMain::mnuSolveTable_Click() {
   windows_.OpenTable();
 }
+void frmMain::mnuSolveSection_Click() {
+  windows_.OpenSection();
+}
+void frmMain::cmdIrreg_Click() {
+  windows_.OpenIrreg();
+}
 void frmMain::cmdMannParams_Click() {
   windows_.OpenMannParam();
 }

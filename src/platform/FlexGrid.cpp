@@ -1,6 +1,8 @@
 // See FlexGrid.h.
 #include "platform/FlexGrid.h"
 
+#include <algorithm>
+
 namespace {
 
 /// The part of `text` up to the first `separator`, which is cut off with it.
@@ -54,4 +56,15 @@ void FlexGrid::SetClip(std::string_view text) {
     }
     if (last) return;
   }
+}
+
+ClipShape ShapeOfClip(std::string_view text) {
+  ClipShape shape{0, 1};
+  while (!text.empty()) {
+    const std::string_view line = TakePart(text, '\r');
+    ++shape.Rows;
+    shape.Cols = std::max(shape.Cols, 1 + static_cast<int>(std::ranges::count(line, '\t')));
+  }
+  shape.Rows = std::max(shape.Rows, 1);
+  return shape;
 }

@@ -20,6 +20,12 @@ struct GridBlock {
   int Right() const { return Col < ColSel ? ColSel : Col; }
 };
 
+/// Rows and columns of a text of TABs and CRs, without the empty last row.
+struct ClipShape {
+  int Rows = 1, Cols = 1;
+};
+ClipShape ShapeOfClip(std::string_view text);
+
 /// Row 0 and column 0 are heads: fixed on the screen and never current. Entering the grid asks no other
 /// control for its Validate.
 class FlexGrid : public FocusControl {

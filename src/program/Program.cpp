@@ -6,6 +6,8 @@
 #include "app/frmDigits.h"
 #include "app/frmMannParam.h"
 #include "rating/OpenRating.h"
+#include "section/frmIrreg.h"
+#include "section/frmSection.h"
 
 namespace {
 
@@ -32,6 +34,12 @@ void Program::OpenDigits() {
 }
 void Program::OpenMannParam() {
   ShowModal<frmMannParam>(Main);
+}
+void Program::OpenIrreg() {
+  ShowModal<frmIrreg>();
+}
+void Program::OpenSection() {
+  ShowModal<frmSection>(Main);
 }
 void Program::OpenGraph() {
   OpenRatingGraph(Main);

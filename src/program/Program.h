@@ -20,6 +20,8 @@ class Program : private SubWindows {
  private:
   void OpenDigits() override;
   void OpenMannParam() override;
+  void OpenIrreg() override;
+  void OpenSection() override;
   void OpenGraph() override;
   void OpenTable() override;
 };

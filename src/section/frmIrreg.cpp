@@ -1,0 +1,373 @@
+// See frmIrreg.h.
+#include "section/frmIrreg.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <stdexcept>
+
+#include "app/Declarations.h"
+#include "app/ExportFile.h"
+#include "app/Units.h"
+#include "app/WholeFile.h"
+#include "engine/ChannelState.h"
+#include "engine/NumberText.h"
+#include "platform/Keys.h"
+#include "platform/Services.h"
+#include "section/PointsCsv.h"
+
+namespace {
+
+using IrregTable::Elevation;
+using IrregTable::ManningN;
+using IrregTable::Station;
+
+constexpr const char* Filter = "Point Lists (*.csv;*.txt)|*.csv;*.txt|All Files (*.*)|*.*";
+
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
+
+void Complain(const std::string& text) {
+  TheServices().messageBox.Show(text, Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);
+}
+
+/// The clipboard's text with rows that end in a carriage return alone, as the grid reads them.
+std::string ClipboardRows() {
+  std::string text = TheServices().clipboard.Text();
+  std::erase(text, '\n');
+  return text;
+}
+
+/// How far a key moves the current cell when it ends an edit.
+struct Step {
+  int Rows = 0, Columns = 0;
+};
+
+Step StepOf(int keyCode) {
+  switch (keyCode) {
+    case Keys::Up:
+      return {-1, 0};
+    case Keys::Down:
+      return {1, 0};
+    case Keys::PageUp:
+      return {-10, 0};
+    case Keys::PageDown:
+      return {10, 0};
+    case Keys::Left:
+      return {0, -1};
+    case Keys::Right:
+      return {0, 1};
+    default:
+      return {};
+  }
+}
+
+/// A step is made in full or not at all, and Page Down never reaches the last row.
+bool CanStep(const FlexGrid& grid, int keyCode, Step step) {
+  const GridBlock& at = grid.Selection;
+  const int lastRow = grid.Rows() - (keyCode == Keys::PageDown ? 2 : 1);
+  const int row = at.Row + step.Rows;
+  const int col = at.Col + step.Columns;
+  return row >= 1 && row <= lastRow && col >= 1 && col < grid.Cols();
+}
+
+}  // namespace
+
+frmIrreg::frmIrreg() : Form("frmIrreg") {
+  Caption = "Irregular Section";
+  mnuFileImport.Caption = "Import points...";
+  mnuFileExport.Caption = "Export points...";
+  mnuEditUndo.Caption = "Undo";
+  mnuEditRedo.Caption = "Redo";
+  Label1.Caption = "One point in each row, stations ascending. An n holds up to the next row that has one.";
+  cmdCopy.Caption = "Copy";
+  cmdPaste.Caption = "Paste";
+  cmdIns.Caption = "Insert Row";
+  cmdDel.Caption = "Delete Row";
+  cmdOK.Caption = "OK";
+  cmdCancel.Caption = "Cancel";
+  tbSel.Visible = false;
+
+  mnuFileImport.Click = [this] { mnuFileImport_Click(); };
+  mnuFileExport.Click = [this] { mnuFileExport_Click(); };
+  mnuEditUndo.Click = [this] { mnuEditUndo_Click(); };
+  mnuEditRedo.Click = [this] { mnuEditRedo_Click(); };
+  MSFlexGrid1.Press = [this] { CommitEdit(); };
+  MSFlexGrid1.DblClick = [this] { StartCellEdit(); };
+  MSFlexGrid1.KeyPress = [this](char character) { MSFlexGrid1_KeyPress(character); };
+  MSFlexGrid1.KeyDown = [this](int keyCode) { MSFlexGrid1_KeyDown(keyCode); };
+  tbSel.KeyDown = [this](int keyCode) { return tbSel_KeyDown(keyCode); };
+  tbSel.Validate = [this] { tbSel_Validate(); };
+  tbSel.LostFocus = [this] { tbSel_LostFocus(); };
+  cmdCopy.Click = [this] { cmdCopy_Click(); };
+  cmdPaste.Click = [this] { cmdPaste_Click(); };
+  cmdIns.Click = [this] { cmdIns_Click(); };
+  cmdDel.Click = [this] { cmdDel_Click(); };
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
+}
+
+void frmIrreg::Form_Load() {
+  const std::string unit = UnitLabel(ChannelState.UnitsEorM, Units::Length);
+  std::vector<std::vector<std::string>> rows = {{"#", "Sta, " + unit, "Elev, " + unit, "n"}};
+  for (int row = 1; row <= IrregTable::Rows; ++row) {
+    const auto& point = ChannelState.IrregPoints[Index(row)];
+    rows.push_back(
+        {std::to_string(row), point[Station].Text(), point[Elevation].Text(), point[ManningN].Text()});
+  }
+  MSFlexGrid1.ColWidths = {500, 900, 900, 600};
+  MSFlexGrid1.Load(std::move(rows), 4);
+  MSChart1.XTitle = MSFlexGrid1.Text(0, Station);
+  MSChart1.YTitle = MSFlexGrid1.Text(0, Elevation);
+  EnableTravel();
+  LoadChart();
+}
+
+void frmIrreg::LoadChart() {
+  const IrregTable::Table table = Cells();
+  std::vector<XYChart::Row> points;
+  for (int row = 1; row <= IrregTable::PointCount(table); ++row) {
+    const auto& texts = table[Index(row)];
+    points.push_back({LeadingNumber(texts[Station]), LeadingNumber(texts[Elevation])});
+  }
+  MSChart1.Load(std::move(points), 2);
+}
+
+// Editing a cell.
+
+void frmIrreg::StartCellEdit() {
+  const GridBlock& at = MSFlexGrid1.Selection;
+  tbSel.Text = MSFlexGrid1.Text(at.Row, at.Col);
+  tbSel.Visible = true;
+  MoveFocus(tbSel);
+  tbSel.Selection = {tbSel.Length(), 0};
+}
+
+void frmIrreg::CommitEdit() {
+  if (!tbSel.Visible) return;
+  tbSel_Validate();
+  MoveFocus(MSFlexGrid1);
+}
+
+void frmIrreg::MSFlexGrid1_KeyPress(char character) {
+  if (character < 32 || character > 126) return;
+  StartCellEdit();
+  tbSel.Text = std::string(1, character);
+  tbSel.Selection = {1, 0};
+}
+
+void frmIrreg::MSFlexGrid1_KeyDown(int keyCode) {
+  if (keyCode != Keys::Delete) return;
+  const GridBlock& at = MSFlexGrid1.Selection;
+  Recorded([&] { MSFlexGrid1.SetText(at.Row, at.Col, ""); });
+}
+
+bool frmIrreg::tbSel_KeyDown(int keyCode) {
+  const Step step = StepOf(keyCode);
+  const TextRange caret = tbSel.Selection;
+  // Inside the text the caret moves first.
+  if (keyCode == Keys::Right && (caret.Length > 0 || caret.Start < tbSel.Length())) return false;
+  if (keyCode == Keys::Left && (caret.Length > 0 || caret.Start > 0)) return false;
+  const bool enter = keyCode == Keys::Enter || keyCode == Keys::KeypadEnter;
+  if (enter || step.Rows != 0 || step.Columns != 0) {
+    tbSel_Validate();
+  } else if (keyCode != Keys::Escape) {
+    return false;
+  }
+  if (CanStep(MSFlexGrid1, keyCode, step)) {
+    const GridBlock& at = MSFlexGrid1.Selection;
+    MSFlexGrid1.SelectCell(at.Row + step.Rows, at.Col + step.Columns);
+  }
+  MoveFocus(MSFlexGrid1);
+  return true;
+}
+
+void frmIrreg::tbSel_Validate() {
+  const GridBlock& at = MSFlexGrid1.Selection;
+  Recorded([&] { MSFlexGrid1.SetText(at.Row, at.Col, tbSel.Text); });
+}
+
+void frmIrreg::tbSel_LostFocus() {
+  tbSel.Visible = false;
+  LoadChart();
+}
+
+// Blocks and rows.
+
+void frmIrreg::cmdCopy_Click() {
+  TheServices().clipboard.Clear();
+  TheServices().clipboard.SetText(MSFlexGrid1.Clip());
+}
+
+void frmIrreg::cmdPaste_Click() {
+  Recorded([&] { MSFlexGrid1.SetClip(ClipboardRows()); });
+  LoadChart();
+}
+
+void frmIrreg::PasteWidened() {
+  const GridBlock at = MSFlexGrid1.Selection;
+  if (at.Row == at.RowSel && at.Col == at.ColSel) {
+    const ClipShape shape = ShapeOfClip(ClipboardRows());
+    MSFlexGrid1.Selection = {at.Row, at.Col, std::min(at.Row + shape.Rows, MSFlexGrid1.Rows()) - 1,
+                             std::min(at.Col + shape.Cols, MSFlexGrid1.Cols()) - 1};
+  }
+  cmdPaste_Click();
+}
+
+void frmIrreg::ClearBlock() {
+  const GridBlock& block = MSFlexGrid1.Selection;
+  Recorded([&] {
+    for (int row = block.Top(); row <= block.Bottom(); ++row) {
+      for (int col = block.Left(); col <= block.Right(); ++col) MSFlexGrid1.SetText(row, col, "");
+    }
+  });
+  LoadChart();
+}
+
+void frmIrreg::CutBlock() {
+  cmdCopy_Click();
+  ClearBlock();
+}
+
+void frmIrreg::cmdIns_Click() {
+  tbSel.Text = "";
+  Recorded([&] {
+    IrregTable::Table table = Cells();
+    IrregTable::InsertRow(table, MSFlexGrid1.Selection.Get().Row);
+    ShowCells(table);
+  });
+  MoveFocus(MSFlexGrid1);
+  LoadChart();
+}
+
+void frmIrreg::cmdDel_Click() {
+  Recorded([&] {
+    IrregTable::Table table = Cells();
+    IrregTable::DeleteRow(table, MSFlexGrid1.Selection.Get().Row);
+    ShowCells(table);
+  });
+  MoveFocus(MSFlexGrid1);
+  LoadChart();
+}
+
+// Undo and redo.
+
+IrregTable::Table frmIrreg::Cells() const {
+  IrregTable::Table table;
+  for (int row = 1; row <= IrregTable::Rows; ++row) {
+    for (const int col : {Station, Elevation, ManningN})
+      table[Index(row)][Index(col)] = MSFlexGrid1.Text(row, col);
+  }
+  return table;
+}
+
+void frmIrreg::ShowCells(const IrregTable::Table& table) {
+  for (int row = 1; row <= IrregTable::Rows; ++row) {
+    for (const int col : {Station, Elevation, ManningN})
+      MSFlexGrid1.SetText(row, col, table[Index(row)][Index(col)]);
+  }
+}
+
+template <class Edit>
+void frmIrreg::Recorded(Edit edit) {
+  const IrregTable::Table before = Cells();
+  edit();
+  GridChange change;
+  for (int row = 1; row <= IrregTable::Rows; ++row) {
+    for (const int col : {Station, Elevation, ManningN}) {
+      const std::string& was = before[Index(row)][Index(col)];
+      const std::string& is = MSFlexGrid1.Text(row, col);
+      if (was != is) change.push_back({row, col, was, is});
+    }
+  }
+  if (change.empty()) return;
+  done_.push_back(std::move(change));
+  undone_.clear();
+  EnableTravel();
+}
+
+void frmIrreg::Travel(std::vector<GridChange>& from, std::vector<GridChange>& to,
+                      std::string CellChange::*text) {
+  CommitEdit();
+  if (from.empty()) return;
+  to.push_back(std::move(from.back()));
+  from.pop_back();
+  for (const CellChange& each : to.back()) MSFlexGrid1.SetText(each.Row, each.Column, each.*text);
+  MSFlexGrid1.SelectCell(to.back().front().Row, to.back().front().Column);
+  EnableTravel();
+  LoadChart();
+}
+
+void frmIrreg::EnableTravel() {
+  mnuEditUndo.Enabled = !done_.empty();
+  mnuEditRedo.Enabled = !undone_.empty();
+}
+
+void frmIrreg::mnuEditUndo_Click() {
+  Travel(done_, undone_, &CellChange::Before);
+}
+void frmIrreg::mnuEditRedo_Click() {
+  Travel(undone_, done_, &CellChange::After);
+}
+
+// The table as a whole.
+
+bool frmIrreg::CheckTable() {
+  const auto failure = IrregTable::CheckTable(Cells());
+  if (!failure) return true;
+  TheServices().messageBox.Show(std::string(IrregTable::MessageOf(failure->Code)), "Warning",
+                                BoxIcon::Information, BoxButtons::Ok);
+  MSFlexGrid1.SelectCell(failure->Row, failure->Column);
+  MoveFocus(MSFlexGrid1);
+  return false;
+}
+
+void frmIrreg::LoadArray() {
+  EmptySection();  // a point or an n taken out must not come back
+  const IrregTable::Table table = Cells();
+  ChannelState.IrregPointCount = IrregTable::PointCount(table);
+  for (int row = 1; row <= ChannelState.IrregPointCount; ++row) {
+    for (const int col : {Station, Elevation, ManningN})
+      ChannelState.IrregPoints[Index(row)][Index(col)] = table[Index(row)][Index(col)];
+  }
+}
+
+void frmIrreg::cmdOK_Click() {
+  if (!CheckTable()) return;
+  LoadArray();
+  Unload();
+  Declarations::DataChanged = true;
+}
+
+void frmIrreg::cmdCancel_Click() {
+  Unload();
+}
+
+void frmIrreg::mnuFileImport_Click() {
+  CommitEdit();
+  const auto path =
+      TheServices().fileDialog.Choose({false, "Import Points", Declarations::UserPath, Filter, ""});
+  if (!path) return;
+  std::string bytes;
+  try {
+    bytes = WholeFile::Read(*path);
+  } catch (const std::runtime_error&) {
+    return Complain("The file cannot be read.");
+  }
+  try {
+    const IrregTable::Table points = PointsCsv::Parse(bytes);
+    Recorded([&] { ShowCells(points); });
+  } catch (const std::runtime_error& refusal) {
+    return Complain(refusal.what());
+  }
+  MSFlexGrid1.SelectCell(1, Station);
+  LoadChart();
+}
+
+void frmIrreg::mnuFileExport_Click() {
+  CommitEdit();
+  if (CheckTable()) {
+    ExportFile({"Export Points", Filter, "csv"},
+               [this](const std::string&) { return PointsCsv::Format(Cells()); });
+  }
+}

@@ -1,0 +1,83 @@
+// The dialog in which the points of a surveyed section are typed, pasted and edited.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Controls.h"
+#include "platform/FlexGrid.h"
+#include "platform/XYChart.h"
+#include "section/IrregTable.h"
+
+class frmIrreg : public Form {
+ public:
+  frmIrreg();
+
+  MenuItem mnuFileImport{this, "mnuFileImport"}, mnuFileExport{this, "mnuFileExport"};
+  MenuItem mnuEditUndo{this, "mnuEditUndo"}, mnuEditRedo{this, "mnuEditRedo"};
+  Label Label1{this, "Label1"};
+  FlexGrid MSFlexGrid1{this, "MSFlexGrid1"};
+  /// Floats over the current cell while that is being edited. (x, y) from the cell's left top corner and what
+  /// its size lacks of the cell's, in twips:
+  TextBox tbSel{this, "tbSel"};
+  static constexpr int EditLeft = 90, EditTop = 60, EditNarrower = 60, EditLower = 30;
+  XYChart MSChart1{this, "MSChart1"};
+  Button cmdCopy{this, "cmdCopy"}, cmdPaste{this, "cmdPaste"}, cmdIns{this, "cmdIns"}, cmdDel{this, "cmdDel"},
+      cmdOK{this, "cmdOK"}, cmdCancel{this, "cmdCancel"};
+
+  /// Opens the edit box on the current cell, with the caret behind its text.
+  void StartCellEdit();
+  /// Ends an edit as Enter does; without one it does nothing.
+  void CommitEdit();
+
+  void MSFlexGrid1_KeyPress(char character);
+  void MSFlexGrid1_KeyDown(int keyCode);
+  bool tbSel_KeyDown(int keyCode);
+  void tbSel_Validate();
+  void tbSel_LostFocus();
+  void cmdCopy_Click();
+  void cmdPaste_Click();
+  void cmdIns_Click();
+  void cmdDel_Click();
+  void cmdOK_Click();
+  void cmdCancel_Click();
+  void mnuFileImport_Click();
+  void mnuFileExport_Click();
+  void mnuEditUndo_Click();
+  void mnuEditRedo_Click();
+
+  // What the keys of a desktop do beyond the buttons.
+  /// Empties the selected block.
+  void ClearBlock();
+  /// Copies the selected block and empties it.
+  void CutBlock();
+  /// Pastes; where one cell is selected, the block first widens to what the clipboard holds.
+  void PasteWidened();
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  struct CellChange {
+    int Row, Column;
+    std::string Before, After;
+  };
+  using GridChange = std::vector<CellChange>;
+
+  IrregTable::Table Cells() const;
+  void ShowCells(const IrregTable::Table& table);
+  /// Makes a change of the grid that can be undone.
+  template <class Edit>
+  void Recorded(Edit edit);
+  /// Takes the last change of `from` back, or makes it again, and moves it to `to`.
+  void Travel(std::vector<GridChange>& from, std::vector<GridChange>& to, std::string CellChange::*text);
+  void EnableTravel();
+
+  /// True when the table is accepted; else says why and goes to the failing cell.
+  bool CheckTable();
+  /// Makes the table the section of the problem.
+  void LoadArray();
+  void LoadChart();
+
+  std::vector<GridChange> done_, undone_;
+};
