@@ -87,14 +87,21 @@ INSTANTIATE_LOCALES(Helpers);
 class Preferences : public testing::Test {
  protected:
   Preferences() {
-    std::filesystem::remove_all(folder_);
     Declarations::Reset();
     SettingsFile::Use(path_);
   }
-  ~Preferences() override { SettingsFile::Use(""); }
+  ~Preferences() override {
+    SettingsFile::Use("");
+    std::filesystem::remove_all(top_);
+  }
+
+  static std::filesystem::path NewFolder() {
+    std::string pattern = testing::TempDir() + "preferences-XXXXXX";
+    return mkdtemp(pattern.data());
+  }
 
   void Write(const std::string& text) {
-    std::filesystem::create_directories(folder_);
+    std::filesystem::create_directories(top_ / "deep");
     std::ofstream(path_, std::ios::binary) << text;
   }
   std::string Written() {
@@ -110,12 +117,11 @@ class Preferences : public testing::Test {
     EXPECT_EQ(Declarations::UserPath, "c:\\");
   }
 
-  std::filesystem::path folder_ = std::filesystem::path(testing::TempDir()) / "flumewise-preferences";
-  std::string path_ = (folder_ / "deep" / "settings.ini").string();
+  std::filesystem::path top_ = NewFolder();
+  std::string path_ = (top_ / "deep" / "settings.ini").string();
 };
 
 TEST_F(Preferences, DefaultsWhereNothingUsableIsStored) {
-  folder_ /= "deep";
   InitialFile::LoadPreferences();
   ExpectDefaults();
   for (const char* const text :
@@ -136,7 +142,6 @@ TEST_F(Preferences, DefaultsWhereNothingUsableIsStored) {
 }
 
 TEST_F(Preferences, EachAcceptedValueIsTaken) {
-  folder_ /= "deep";
   Write(
       "\xEF\xBB\xBF[Startup]\r\nChanType=Irregular "
       "Section\r\nSolveForFlow=True\r\nUnitsEorM=1\r\nSigDigs=1\r\n"
@@ -160,7 +165,6 @@ TEST_F(Preferences, SavedInOrderBesideTheLinesOfOthers) {
       "[Startup]\nChanType=Trapezoidal Channel\nSolveForFlow=True\nUnitsEorM=0\nSigDigs=4\nEngDigs=3\n"
       "UserPath=/data/\n";
   EXPECT_EQ(Written(), startup);
-  folder_ /= "deep";
   Write("[Window]\nWidth=5\n" + startup + "[Last]\nSigDigs=2\n");
   Declarations::SigDigs = 1;
   InitialFile::SavePreferences();
