@@ -1,4 +1,5 @@
-// What one keystroke costs beside the engine: parse and check the inputs, solve for the depth, format ten boxes.
+// What one keystroke costs beside the engine: parse and check the inputs, solve for the depth, format ten
+// boxes.
 #include <benchmark/benchmark.h>
 
 #include "engine/ChannelState.h"
