@@ -1,60 +1,14 @@
 // See Console.h.
 #include "console/Console.h"
 
-#include <charconv>
 #include <map>
-#include <stdexcept>
 
 #include "app/Declarations.h"
 #include "app/SettingsFile.h"
 #include "console/Inspect.h"
+#include "console/Words.h"
 
 namespace {
-
-/// A line that cannot be obeyed; the reply says why.
-class Refusal : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
-using Words = std::vector<std::string>;
-
-const std::map<char, char> Escapes = {{'t', '\t'}, {'r', '\r'}, {'n', '\n'}, {'\\', '\\'}};
-
-std::string Unescaped(std::string_view text) {
-  std::string plain;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto escape = text[i] == '\\' && i + 1 < text.size() ? Escapes.find(text[i + 1]) : Escapes.end();
-    plain += escape == Escapes.end() ? text[i] : escape->second;
-    if (escape != Escapes.end()) ++i;
-  }
-  return plain;
-}
-
-std::string Escaped(std::string_view text) {
-  std::string escaped;
-  for (const char c : text) {
-    const char* const name = c == '\t'   ? "\\t"
-                             : c == '\r' ? "\\r"
-                             : c == '\n' ? "\\n"
-                             : c == '\\' ? "\\\\"
-                                         : nullptr;
-    if (name != nullptr) {
-      escaped += name;
-    } else {
-      escaped += c;
-    }
-  }
-  return escaped;
-}
-
-int Whole(const std::string& word) {
-  int number = 0;
-  const auto read = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (read.ec != std::errc() || read.ptr != word.data() + word.size())
-    throw Refusal("no whole number: " + word);
-  return number;
-}
 
 std::string Known(const std::optional<std::string>& value, const std::string& name) {
   if (!value) throw Refusal("unknown: " + name);
@@ -82,12 +36,18 @@ const std::vector<Console::Command>& Console::Commands() {
       {"form", 0, 0, &Console::FormName},
       {"type", 2, 2, &Console::Type},
       {"focus", 1, 1, &Console::Focus},
+      {"key", 2, 2, &Console::Key},
+      {"char", 2, 2, &Console::Char},
       {"click", 1, 1, &Console::Click},
       {"dblclick", 1, 1, &Console::DoubleClick},
       {"pick", 2, 2, &Console::Pick},
       {"caret", 2, 2, &Console::Caret},
       {"mark", 3, 3, &Console::Mark},
+      {"select", 5, 5, &Console::SelectBlock},
       {"get", 1, 1, &Console::Get},
+      {"cell", 3, 3, &Console::Cell},
+      {"size", 1, 1, &Console::Size},
+      {"chart", 1, 1, &Console::Chart},
       {"record", 1, 3, &Console::Record},
       {"shared", 1, 1, &Console::Shared},
       {"clipboard", 0, 1, &Console::ClipboardText},
@@ -247,8 +207,23 @@ std::string Console::Click(const Words& words) {
   return "ok";
 }
 
+std::string Console::Key(const Words& words) {
+  stage_.Person->Key(Focused<FocusControl>(words[0]), Whole(words[1]));
+  return "ok";
+}
+
+std::string Console::Char(const Words& words) {
+  if (words[1].empty()) throw Refusal("no character");
+  stage_.Person->Char(Focused<FocusControl>(words[0]), words[1]);
+  return "ok";
+}
+
 std::string Console::DoubleClick(const Words& words) {
-  stage_.Person->DoubleClick(Focused<ListBox>(words[0]));
+  if (dynamic_cast<FlexGrid*>(&Find(words[0])) != nullptr) {
+    stage_.Person->DoubleClick(Usable<FlexGrid>(words[0]));
+  } else {
+    stage_.Person->DoubleClick(Focused<ListBox>(words[0]));
+  }
   return "ok";
 }
 
@@ -268,6 +243,42 @@ std::string Console::Caret(const Words& words) {
 std::string Console::Mark(const Words& words) {
   stage_.Person->Select(Usable<TextBox>(words[0]), {Whole(words[1]), Whole(words[2])});
   return "ok";
+}
+
+const FlexGrid& Console::Grid(const std::string& name) const {
+  const auto* const grid = dynamic_cast<const FlexGrid*>(&Find(name));
+  if (grid == nullptr) throw Refusal("not possible with " + name);
+  return *grid;
+}
+
+std::string Console::SelectBlock(const Words& words) {
+  const GridBlock block{Whole(words[1]), Whole(words[2]), Whole(words[3]), Whole(words[4])};
+  const FlexGrid& grid = Grid(words[0]);
+  if (block.Top() < 1 || block.Left() < 1 || block.Bottom() >= grid.Rows() || block.Right() >= grid.Cols())
+    throw Refusal("no such cells");
+  stage_.Person->SelectBlock(Usable<FlexGrid>(words[0]), block);
+  return "ok";
+}
+
+std::string Console::Cell(const Words& words) {
+  const FlexGrid& grid = Grid(words[0]);
+  const int row = Whole(words[1]);
+  const int col = Whole(words[2]);
+  if (row < 0 || row >= grid.Rows() || col < 0 || col >= grid.Cols()) throw Refusal("no such cell");
+  return Escaped(grid.Text(row, col));
+}
+
+std::string Console::Size(const Words& words) {
+  const FlexGrid& grid = Grid(words[0]);
+  return std::to_string(grid.Rows()) + " " + std::to_string(grid.Cols());
+}
+
+std::string Console::Chart(const Words& words) {
+  const auto* const chart = dynamic_cast<const XYChart*>(&Find(words[0]));
+  if (chart == nullptr) throw Refusal("not possible with " + words[0]);
+  std::string reply = std::to_string(chart->Rows().size()) + " " + std::to_string(chart->Cols());
+  for (const std::string& value : Inspect::ChartValues(*chart)) reply += "\t" + Escaped(value);
+  return reply;
 }
 
 std::string Console::Get(const Words& words) {

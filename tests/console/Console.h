@@ -53,14 +53,21 @@ class Console {
   Kind& Usable(const std::string& name) const;
   template <class Kind>
   Kind& Focused(const std::string& name);
+  const FlexGrid& Grid(const std::string& name) const;
 
   std::string Type(const std::vector<std::string>& words);
   std::string Focus(const std::vector<std::string>& words);
   std::string Click(const std::vector<std::string>& words);
+  std::string Key(const std::vector<std::string>& words);
+  std::string Char(const std::vector<std::string>& words);
   std::string DoubleClick(const std::vector<std::string>& words);
   std::string Pick(const std::vector<std::string>& words);
   std::string Caret(const std::vector<std::string>& words);
   std::string Mark(const std::vector<std::string>& words);
+  std::string SelectBlock(const std::vector<std::string>& words);
+  std::string Cell(const std::vector<std::string>& words);
+  std::string Size(const std::vector<std::string>& words);
+  std::string Chart(const std::vector<std::string>& words);
   std::string Get(const std::vector<std::string>& words);
   std::string Record(const std::vector<std::string>& words);
   std::string Shared(const std::vector<std::string>& words);

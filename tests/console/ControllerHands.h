@@ -11,5 +11,9 @@ class ControllerHands : public Hands {
   void Click(Control& control) override;
   void Pick(ListBox& list, int index) override;
   void DoubleClick(ListBox& list) override;
+  void DoubleClick(FlexGrid& grid) override;
+  void SelectBlock(FlexGrid& grid, GridBlock block) override;
+  void Key(FocusControl& control, int keyCode) override;
+  void Char(FocusControl& control, const std::string& character) override;
   void Close(Form& form) override;
 };

@@ -65,6 +65,8 @@ std::vector<Exchange> WithDecimalComma(const std::vector<Exchange>& conversation
   for (const Exchange& exchange : conversation) {
     const bool typed = exchange.Line.starts_with("type tb") || exchange.Line.starts_with("clipboard");
     const bool read = exchange.Line.starts_with("get tb") || exchange.Line.starts_with("get frmMain.tb") ||
+                      exchange.Line.starts_with("cell ") ||
+                      (exchange.Line.starts_with("record points") && exchange.Reply.starts_with("t:")) ||
                       exchange.Line.starts_with("clipboard");
     respelled.push_back({typed ? Respelled(exchange.Line) : exchange.Line,
                          read ? Respelled(exchange.Reply) : exchange.Reply});

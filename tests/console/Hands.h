@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/Controls.h"
+#include "platform/FlexGrid.h"
 
 class Hands {
  public:
@@ -19,6 +20,14 @@ class Hands {
   /// Chooses a line of a focused list; the line already chosen is clicked again.
   virtual void Pick(ListBox& list, int index) = 0;
   virtual void DoubleClick(ListBox& list) = 0;
+  /// On the current cell.
+  virtual void DoubleClick(FlexGrid& grid) = 0;
+  /// Selects the block with the mouse, beginning at the cell that becomes the current one.
+  virtual void SelectBlock(FlexGrid& grid, GridBlock block) = 0;
+  /// Presses a key of this code on a focused box or grid.
+  virtual void Key(FocusControl& control, int keyCode) = 0;
+  /// Types a character into a focused box or grid.
+  virtual void Char(FocusControl& control, const std::string& character) = 0;
   /// The close box in the title bar.
   virtual void Close(Form& form) = 0;
 };

@@ -8,6 +8,8 @@
 
 #include "app/Declarations.h"
 #include "engine/ChannelState.h"
+#include "engine/NumberText.h"
+#include "platform/FlexGrid.h"
 
 namespace Inspect {
 
@@ -109,8 +111,22 @@ std::optional<std::string> ControlProperty(const Control& control, std::string_v
     const int index = list->ListIndex;
     return index < 0 ? "" : list->Items.Get()[static_cast<std::size_t>(index)];
   }
+  if (const auto* grid = dynamic_cast<const FlexGrid*>(&control); grid && property == "Row") {
+    return Told(grid->Selection.Get().Row);
+  }
+  if (const auto* grid = dynamic_cast<const FlexGrid*>(&control); grid && property == "Col") {
+    return Told(grid->Selection.Get().Col);
+  }
   if (const auto* box = dynamic_cast<const TextBox*>(&control)) return TextBoxProperty(*box, property);
   return std::nullopt;
+}
+
+std::vector<std::string> ChartValues(const XYChart& chart) {
+  std::vector<std::string> values = {chart.XTitle, chart.YTitle};
+  for (const XYChart::Row& row : chart.Rows()) {
+    for (const std::optional<double>& value : row) values.push_back(value ? PlainNumber(*value) : "");
+  }
+  return values;
 }
 
 std::optional<std::string> RecordField(const std::vector<std::string>& words) {
