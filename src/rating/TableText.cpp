@@ -2,6 +2,7 @@
 #include "rating/TableText.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "engine/NumberText.h"
@@ -14,7 +15,7 @@ constexpr const char* LineEnd = "\r\n";
 std::string Joined(const std::vector<std::string>& fields, char separator) {
   std::string line;
   for (const std::string& field : fields) {
-    if (!line.empty()) line += separator;
+    if (&field != &fields.front()) line += separator;
     const bool quoted = field.find(separator) != std::string::npos;
     line += quoted ? '"' + field + '"' : field;
   }
@@ -29,8 +30,8 @@ std::string RatingTableAsCsv(const frmMain& main, const RatingRangeRecord& range
   std::ranges::copy_if(CurrentRatingColumns(), std::back_inserter(columns),
                        [](const RatingColumn& column) { return column.Cell != nullptr; });
   const auto line = [&](const auto& field) {
-    std::vector<std::string> fields;
-    for (const RatingColumn& column : columns) fields.push_back(field(column));
+    std::vector<std::string> fields(columns.size());
+    std::ranges::transform(columns, fields.begin(), field);
     return Joined(fields, separator);
   };
   std::string csv = line([](const RatingColumn& column) { return column.Header(); });
