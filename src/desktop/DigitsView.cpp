@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "desktop/Bind.h"
+#include "desktop/Text.h"
 
 namespace {
 
@@ -24,19 +25,26 @@ QWidget* Row(Label& question, Options& options, QWidget* parent) {
     QRadioButton* const button = Bind::Option(options[index], group);
     button->setAccessibleDescription(label->text());
     row->addWidget(button);
-    if (options[index].Value && index == Options::Lower) button->setFocus();
   }
   row->addStretch();
   column->addLayout(row);
   return group;
 }
 
+template <class Options>
+OptionButton& Chosen(Options& options) {
+  int index = Options::Lower;
+  while (index < Options::Upper && !options[index].Value) ++index;
+  return options[index];
+}
+
 }  // namespace
 
-DigitsView::DigitsView(frmDigits& form, QWidget* parent) : FormDialog(parent) {
+DigitsView::DigitsView(frmDigits& form, QWidget* parent) : FormDialog(form, parent) {
   auto* const column = new QVBoxLayout(this);
   column->setSpacing(fontMetrics().height());
   column->addWidget(Row(form.lblSigDigs, form.optSigDigs, this));
   column->addWidget(Row(form.lblEngDigs, form.optEngDigs, this));
+  findChild<QWidget*>(ToQt(Chosen(form.optSigDigs).Name()))->setFocus();
   AddButtons(column, Bind::Push(form.cmdOK, this), Bind::Push(form.cmdCancel, this));
 }

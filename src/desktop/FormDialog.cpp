@@ -4,8 +4,13 @@
 #include <QDialogButtonBox>
 #include <QVBoxLayout>
 
-FormDialog::FormDialog(QWidget* parent) : QDialog(parent) {
+#include "desktop/Text.h"
+
+FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent) {
   setWindowModality(Qt::WindowModal);
+  // The title is read whole, with the buttons of the title bar beside it.
+  setMinimumWidth(fontMetrics().horizontalAdvance(ToQt(form.Caption.Get())) * 5 / 4 +
+                  9 * fontMetrics().height());
 }
 
 void FormDialog::AddButtons(QVBoxLayout* layout, QPushButton* ok, QPushButton* cancel) {

@@ -4,11 +4,13 @@
 #include <QDialog>
 #include <QPushButton>
 
+#include "platform/Form.h"
+
 class QVBoxLayout;
 
 class FormDialog : public QDialog {
  public:
-  explicit FormDialog(QWidget* parent);
+  FormDialog(Form& form, QWidget* parent);
 
   void reject() override { cancel_->click(); }
 

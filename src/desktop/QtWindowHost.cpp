@@ -54,6 +54,10 @@ QtWindowHost::QtWindowHost() {
   });
 }
 
+QtWindowHost::~QtWindowHost() {
+  for (const auto& [form, window] : windows_) delete window;
+}
+
 QWidget* QtWindowHost::WindowOf(const Form& form) const {
   const auto found = windows_.find(&form);
   return found == windows_.end() ? nullptr : found->second.data();

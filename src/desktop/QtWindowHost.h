@@ -11,6 +11,9 @@
 class QtWindowHost : public WindowHost {
  public:
   QtWindowHost();
+  ~QtWindowHost() override;
+  QtWindowHost(const QtWindowHost&) = delete;
+  QtWindowHost& operator=(const QtWindowHost&) = delete;
 
   /// The window of an open form; null when it has none.
   QWidget* WindowOf(const Form& form) const;

@@ -77,7 +77,7 @@ void ReflowArea::Arrange() {
   const int spare =
       room.height() - std::max(parts_.Inputs->sizeHint().height(), parts_.Results->sizeHint().height());
   for (FieldPanel* const panel : {parts_.Inputs, parts_.Results}) {
-    panel->SetAiriness(std::clamp(rowGap + spare / 10, rowGap, em));
+    panel->SetAiriness(std::clamp(rowGap + spare / 10, rowGap, em * 5 / 4));
   }
 }
 

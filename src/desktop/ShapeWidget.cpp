@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QPainterPath>
 
 #include "app/Units.h"
 #include "desktop/Appearance.h"
@@ -158,10 +159,10 @@ void ShapeWidget::paintEvent(QPaintEvent*) {
   const QPalette& colours = palette();
   const double em = fontMetrics().height();
   const QRectF canvas = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-  painter.setPen(
-      QPen(Appearance::Mixed(colours.color(QPalette::Window), colours.color(QPalette::WindowText), 0.25), 1));
-  painter.setBrush(colours.base());
-  painter.drawRoundedRect(canvas, 4, 4);
+  QPainterPath frame;
+  frame.addRoundedRect(canvas, 4, 4);
+  painter.fillPath(frame, colours.base());
+  painter.setClipPath(frame);
 
   const ShapeGeometry shape = ShapeOf(inputs_);
   const ShapeLayout layout = LayOutShape(shape, labels_, canvas, QFontMetricsF(font()));
@@ -186,4 +187,7 @@ void ShapeWidget::paintEvent(QPaintEvent*) {
   for (const ShapeLabel& label : layout.Labels) DrawLabel(painter, label);
   painter.setPen(thin);
   painter.drawText(layout.NotePlace, Qt::TextDontClip, layout.Note);
+  painter.setClipping(false);
+  const QColor around = colours.color(QPalette::WindowText);
+  painter.strokePath(frame, QPen(Appearance::Mixed(colours.color(QPalette::Window), around, 0.25), 1));
 }
