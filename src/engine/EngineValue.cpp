@@ -3,6 +3,8 @@
 
 #include "engine/NumberText.h"
 
+bool EngineValue::operator==(const EngineValue& other) const = default;
+
 EngineValue EngineValue::False() {
   EngineValue value;
   value.value_ = std::monostate{};

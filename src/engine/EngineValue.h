@@ -6,14 +6,21 @@
 #include <utility>
 #include <variant>
 
+template <typename N>
+concept CellNumber = std::is_arithmetic_v<N> && !std::is_same_v<N, bool>;
+
 class EngineValue {
  public:
   EngineValue() = default;  // the empty text
-  template <typename N>
-  requires(std::is_arithmetic_v<N> && !std::is_same_v<N, bool>) EngineValue(N number)
-      : value_(static_cast<double>(number)) {}
+  EngineValue(CellNumber auto number) : value_(static_cast<double>(number)) {}
   EngineValue(std::string text) : value_(std::move(text)) {}
   EngineValue(const char* text) : value_(std::string(text)) {}
+
+  // Without a cell in between: the operations assign little else.
+  EngineValue& operator=(CellNumber auto number) {
+    value_ = static_cast<double>(number);
+    return *this;
+  }
 
   static EngineValue False();
 
@@ -32,7 +39,7 @@ class EngineValue {
   // A text itself, a number plainly in the current locale, false blank.
   std::string Text() const;
 
-  friend bool operator==(const EngineValue&, const EngineValue&) = default;
+  bool operator==(const EngineValue& other) const;
 
  private:
   double TextNumber() const;

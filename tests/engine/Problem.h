@@ -46,7 +46,9 @@ class EngineTest : public testing::Test {
   static PointTable Table(const std::vector<Point>& points) {
     PointTable table;
     for (size_t i = 0; i < points.size(); ++i) {
-      table[i + 1] = {EngineValue(), points[i].x, points[i].e, points[i].n};
+      table[i + 1][1] = points[i].x;
+      table[i + 1][2] = points[i].e;
+      table[i + 1][3] = points[i].n;
     }
     return table;
   }
