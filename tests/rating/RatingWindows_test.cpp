@@ -1,4 +1,4 @@
-// The settings dialogs and both windows: what they show, take over, copy and export.
+// The windows of table and graph where no conversation reaches: long series, marks, pictures and files.
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -13,11 +13,8 @@
 
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-const std::vector<TypedPoint> Vee = {{"0", "110", "0.03"}, {"10", "100", ""}, {"20", "110", ""}};
 
 class RatingWindows : public RatingStage {
  protected:
@@ -38,121 +35,36 @@ class RatingWindows : public RatingStage {
     Then<frmGraph>(act);
     Main.mnuSolveGraph_Click();
   }
-  static std::string Boxes(const frmTableSettings& settings) {
-    return Text(settings.tbMin) + "|" + Text(settings.tbMax) + "|" + Text(settings.tbIncrement);
-  }
 };
 
-TEST_P(RatingWindows, TheTableOfTheTextbookRectangle) {
-  TypeRectangle();
-  OpenTable([this](frmTable& table) {
-    FlexGrid& grid = table.MSFlexGrid1;
-    EXPECT_EQ(table.Caption.Get(), "Flumewise - Rectangular Channel");
-    EXPECT_EQ(grid.Rows(), 21);
-    EXPECT_EQ(grid.Cols(), 15);
-    EXPECT_THAT(grid.ColWidths.Get(), testing::Each(testing::AnyOf(200, 1200)));
-    EXPECT_EQ(grid.ColWidths.Get()[0], 200);
-    // R = 20/14, V = 4.5848, V^2/2g = 0.32667, yc = (Q^2 / g b^2)^(1/3) = 1.3775, F = V / sqrt(2 g) = 0.5715;
-    // Sc: A = 13.775, P = 12.755, V = 6.6567, so (0.013 V / 1.485919 R^(2/3))^2 = 0.003061.
-    const char* const last[] = {"",     "91.7", "2.000", "0.00100", "0.0130", "10.0",  "4.58",   "0.327",
-                                "20.0", "14.0", "1.43",  "10.0",    "0.572",  "1.377", "0.00306"};
-    for (int column = 0; column < 15; ++column) EXPECT_EQ(grid.Text(20, column), Spelled(last[column]));
-    EXPECT_EQ(grid.Text(1, 2), Spelled("0.100")) << "no row for the depth 0";
-
-    table.mnuEditCopy_Click();
-    EXPECT_EQ(Fakes.clipboard.Text(), "Flow, cfs\r" + grid.Text(1, 1)) << "one cell is selected at first";
-    grid.Selection = {20, 3, 19, 2};
-    table.mnuEditCopy_Click();
-    EXPECT_EQ(Fakes.clipboard.Text(),
-              "Depth, ft\tSlope, ft/ft\r" + Spelled("1.900\t0.00100\r2.000\t0.00100"));
-
-    Then<frmTableSettings>([](frmTableSettings& settings) {
-      EXPECT_EQ(Boxes(settings), Spelled("0.000|2.000|0.100"));
-      Type(settings.tbMin, "1.5");
-      Type(settings.tbIncrement, "0.25");
-      settings.cmdOK_Click();
-    });
-    table.mnuEditSettings_Click();
-    EXPECT_EQ(grid.Rows(), 4);
-    Then<frmTableSettings>([](frmTableSettings& settings) {
-      EXPECT_EQ(Boxes(settings), Spelled("1.500|2.000|0.250"));
-      settings.cbxVary.ListIndex = 1;
-      settings.cmdCancel_Click();
-    });
-    table.mnuEditSettings_Click();
-    EXPECT_EQ(grid.Text(3, 1), Spelled("91.7"));
-    table.mnuFileExit_Click();
-    EXPECT_FALSE(table.IsLoaded());
-  });
-}
-
-TEST_P(RatingWindows, TheTableOfASectionHasDashes) {
-  TypeSection(Vee, "105");
-  OpenTable([](frmTable& table) {
-    FlexGrid& grid = table.MSFlexGrid1;
-    EXPECT_EQ(grid.Rows(), 21);
-    EXPECT_EQ(grid.Text(0, 2) + grid.Text(0, 5) + grid.Text(0, 14), "WSEL, ftIrr.Geom.");
-    EXPECT_EQ(grid.Text(1, 2) + grid.Text(1, 5) + grid.Text(1, 14), Spelled("100.250") + "--");
-  });
-}
-
-TEST_P(RatingWindows, TheGraphPlotsNumbersUnderTheHeaders) {
+TEST_P(RatingWindows, TheGraphPlotsTwoHundredStepsOnTheWay) {
   TypeRectangle();
   OpenGraph([this](frmGraph& graph) {
     const XYChart& chart = graph.MSChart1;
-    EXPECT_EQ(graph.Caption.Get(), "Flumewise - Rectangular Channel");
-    EXPECT_EQ(chart.XTitle.Get(), "Depth, ft");
-    EXPECT_EQ(chart.YTitle.Get(), "Flow, cfs");
+    EXPECT_EQ(chart.XTitle.Get() + "|" + chart.YTitle.Get(), "Depth, ft|Flow, cfs");
     EXPECT_EQ(chart.Rows().size(), 199U) << "0.01 two hundred times is beyond 2";
     EXPECT_EQ(chart.Rows()[0][0], 0.01);
-    EXPECT_FALSE(graph.lblMarked.Visible);
-    Fakes.clipboard.SetText("before");
-    bool copied = false;
-    graph.MSChart1.CopyView = [&] { copied = Fakes.clipboard.Text().empty(); };
-    graph.mnuEditCopy_Click();
-    EXPECT_TRUE(copied);
+    EXPECT_THAT(chart.Marked.Get(), IsEmpty());
+    // Steps of 1.25 units in the last place are rounded down to 1: 251 points up to the end.
     Then<frmGraphSettings>([](frmGraphSettings& settings) {
-      EXPECT_THAT(settings.cbxY.Items.Get(),
-                  ElementsAre("Flow", "Velocity", "Velocity Head", "Area", "Wetted Perimeter",
-                              "Hydraulic Radius", "Top Width", "Froude No.", "Critical Depth"));
-      EXPECT_EQ(settings.cbxY.ListIndex, 0);
-      settings.cbxY.ListIndex = 8;
-      settings.cbxVary.ListIndex = 2;
+      Type(settings.tbMin, "1");
+      Type(settings.tbMax, PlainNumber(1 + 250 * 0x1p-52));
       settings.cmdOK_Click();
     });
     graph.mnuEditSettings_Click();
-    EXPECT_EQ(chart.XTitle.Get(), "n");
-    EXPECT_EQ(chart.YTitle.Get(), "Crit.D., ft");
-    EXPECT_THAT(RatingRange.RangeStep.Number(), testing::DoubleEq(0.04 / 200));
-    Then<frmGraphSettings>([](frmGraphSettings& settings) {
-      EXPECT_EQ(settings.cbxY.ListIndex, 8);
-      EXPECT_EQ(settings.cbxVary.ListIndex, 2);
-      Type(settings.tbMin, "2");
-      Type(settings.tbMax, "3");
-      settings.cmdOK_Click();
-    });
-    graph.mnuEditSettings_Click();
-    EXPECT_THAT(chart.Rows(), IsEmpty()) << "no n above 1";
-    EXPECT_EQ(chart.YTitle.Get(), "Crit.D., ft");
+    EXPECT_EQ(chart.Rows().size(), 250U);
   });
 }
 
-TEST_P(RatingWindows, ARowWithoutANumberStaysEmpty) {
-  TypePipe("48", "48");
-  Type(Main.tbDepth, "4");
-  Then<frmGraphSettings>([](frmGraphSettings& settings) {
-    settings.cbxY.ListIndex = 7;
-    Type(settings.tbMin, "3");
-    Type(settings.tbMax, "4");
-    settings.cmdOK_Click();
+TEST_P(RatingWindows, CopyingTheGraphEmptiesTheClipboardFirst) {
+  TypeRectangle();
+  Fakes.clipboard.SetText("before");
+  bool copied = false;
+  OpenGraph([&](frmGraph& graph) {
+    graph.MSChart1.CopyView = [&] { copied = Fakes.clipboard.Text().empty(); };
+    graph.mnuEditCopy_Click();
   });
-  Then<frmGraph>([](frmGraph& graph) {
-    const auto& rows = graph.MSChart1.Rows();
-    EXPECT_EQ(rows.size(), 201U);  // added up: 3.9999999999999787
-    EXPECT_THAT(rows.back(), ElementsAre(std::nullopt, std::nullopt)) << "a full pipe has no Froude number";
-    EXPECT_TRUE(rows.front()[1].has_value());
-  });
-  Main.mnuSolveGraph_Click();
+  EXPECT_TRUE(copied);
 }
 
 TEST_P(RatingWindows, TheGraphMarksWhereTheFlowFalls) {
