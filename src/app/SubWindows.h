@@ -1,4 +1,4 @@
-// The windows that the main window opens, as far as it needs to know them: how to open each.
+// What the main window opens and prints, as far as it needs to know it: how to begin each.
 #pragma once
 
 class SubWindows {
@@ -10,4 +10,6 @@ class SubWindows {
   virtual void OpenSection() = 0;
   virtual void OpenGraph() = 0;
   virtual void OpenTable() = 0;
+  virtual void PrintReport() = 0;
+  virtual void PreviewReport() = 0;
 };

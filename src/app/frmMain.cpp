@@ -42,6 +42,7 @@ void frmMain::CaptionControls() {
                                                       {mnuFileSave, "Save"},
                                                       {mnuFileSaveAs, "Save As..."},
                                                       {mnuFilePrint, "Print..."},
+                                                      {mnuFilePrintPreview, "Print Preview..."},
                                                       {mnuFileExit, "Exit"},
                                                       {mnuEditCut, "Cut"},
                                                       {mnuEditCopy, "Copy"},
@@ -103,6 +104,9 @@ void frmMain::JoinCommands() {
                                       {mnuFileSave, &frmMain::mnuFileSave_Click},
                                       {Toolbar1.Save, &frmMain::mnuFileSave_Click},
                                       {mnuFileSaveAs, &frmMain::mnuFileSaveAs_Click},
+                                      {mnuFilePrint, &frmMain::mnuFilePrint_Click},
+                                      {Toolbar1.Print, &frmMain::mnuFilePrint_Click},
+                                      {mnuFilePrintPreview, &frmMain::mnuFilePrintPreview_Click},
                                       {mnuFileExit, &frmMain::mnuFileExit_Click},
                                       {mnuEditCut, &frmMain::mnuEditCut_Click},
                                       {mnuEditCopy, &frmMain::mnuEditCopy_Click},
@@ -129,10 +133,7 @@ void frmMain::JoinCommands() {
     each.Of.Click = [this, run = each.Run] { (this->*run)(); };
   }
   // Commands whose windows are still to come.
-  for (Control* const control : std::initializer_list<Control*>{
-           &mnuFilePrint, &mnuHelpContents, &mnuHelpIndex, &mnuHelpAbout, &Toolbar1.Print}) {
-    control->Visible = false;
-  }
+  for (MenuItem* const item : {&mnuHelpContents, &mnuHelpIndex, &mnuHelpAbout}) item->Visible = false;
 }
 
 void frmMain::Form_Load() {

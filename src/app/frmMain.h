@@ -45,7 +45,7 @@ class frmMain : public Form {
 
   MenuItem mnuFileNew{this, "mnuFileNew"}, mnuFileOpen{this, "mnuFileOpen"}, mnuFileSave{this, "mnuFileSave"},
       mnuFileSaveAs{this, "mnuFileSaveAs"}, mnuFilePrint{this, "mnuFilePrint"},
-      mnuFileExit{this, "mnuFileExit"};
+      mnuFilePrintPreview{this, "mnuFilePrintPreview"}, mnuFileExit{this, "mnuFileExit"};
   MenuItem mnuEditCut{this, "mnuEditCut"}, mnuEditCopy{this, "mnuEditCopy"},
       mnuEditPaste{this, "mnuEditPaste"}, mnuEditDelete{this, "mnuEditDelete"};
   MenuItem mnuSolveForFlow{this, "mnuSolveForFlow"}, mnuSolveForDepth{this, "mnuSolveForDepth"},
@@ -114,6 +114,8 @@ class frmMain : public Form {
   void mnuFileOpen_Click();
   void mnuFileSave_Click();
   void mnuFileSaveAs_Click();
+  void mnuFilePrint_Click();
+  void mnuFilePrintPreview_Click();
   void mnuFileExit_Click();
   void mnuEditCut_Click();
   void mnuEditCopy_Click();

@@ -172,6 +172,12 @@ void frmMain::mnuFileSave_Click() {
 void frmMain::mnuFileSaveAs_Click() {
   SaveAsDialog();
 }
+void frmMain::mnuFilePrint_Click() {
+  windows_.PrintReport();
+}
+void frmMain::mnuFilePrintPreview_Click() {
+  windows_.PreviewReport();
+}
 void frmMain::mnuFileExit_Click() {
   Unload();
 }

@@ -204,6 +204,7 @@ void frmMain::ClearResults() {
 
 void frmMain::EnablePrint(bool enabled) {
   mnuFilePrint.Enabled = enabled;
+  mnuFilePrintPreview.Enabled = enabled;
   Toolbar1.Print.Enabled = enabled;
 }
 

@@ -65,6 +65,7 @@ void MainView::AddMenus() {
             {&frmMain::mnuFileSaveAs, "a", QKeySequence::SaveAs},
             {Separator},
             {&frmMain::mnuFilePrint, "p", QKeySequence::Print},
+            {&frmMain::mnuFilePrintPreview, "v"},
             {Separator},
             {&frmMain::mnuFileExit, "x", QKeySequence::Quit}});
   // A text box takes these keys itself, with its own history of edits; the shortcuts tell of them.

@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDate>
 #include <QDir>
 #include <QFileDialog>
+#include <QLocale>
 #include <QMessageBox>
 
 #include "desktop/Text.h"
@@ -77,4 +79,25 @@ std::optional<std::string> QtFileDialog::Choose(const FileDialogRequest& request
   if (!request.FileName.empty()) dialog.selectFile(ToQt(request.FileName));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return FromQt(dialog.selectedFiles().first());
+}
+
+std::string QtClock::ShortDate() {
+  return FromQt(QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
+}
+
+bool QtProgress::Show(const std::string& text, int done, int total) {
+  if (done >= total) {
+    dialog_.reset();
+    return true;
+  }
+  if (!dialog_) {
+    dialog_ = std::make_unique<QProgressDialog>(ToQt(text), QProgressDialog::tr("Cancel"), 0, total,
+                                                QApplication::activeWindow());
+    dialog_->setWindowModality(Qt::WindowModal);
+    dialog_->setMinimumDuration(500);
+  }
+  dialog_->setValue(done);
+  const bool goesOn = !dialog_->wasCanceled();
+  if (!goesOn) dialog_.reset();
+  return goesOn;
 }

@@ -1,5 +1,8 @@
-// The clipboard, message boxes and file dialogs of the desktop.
+// The clipboard, message boxes, file dialogs, clock and progress bars of the desktop.
 #pragma once
+
+#include <QProgressDialog>
+#include <memory>
 
 #include "platform/Services.h"
 
@@ -19,4 +22,17 @@ class QtMessageBox : public MessageBox {
 class QtFileDialog : public FileDialog {
  public:
   std::optional<std::string> Choose(const FileDialogRequest& request) override;
+};
+
+class QtClock : public Clock {
+ public:
+  std::string ShortDate() override;
+};
+
+class QtProgress : public Progress {
+ public:
+  bool Show(const std::string& text, int done, int total) override;
+
+ private:
+  std::unique_ptr<QProgressDialog> dialog_;
 };

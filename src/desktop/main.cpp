@@ -8,6 +8,7 @@
 
 #include "app/Declarations.h"
 #include "app/SettingsFile.h"
+#include "desktop/QtPrinter.h"
 #include "desktop/QtServices.h"
 #include "desktop/QtWindowHost.h"
 #include "desktop/Recovery.h"
@@ -31,7 +32,10 @@ int main(int argc, char* argv[]) {
   QtMessageBox messageBox;
   QtFileDialog fileDialog;
   QtWindowHost windows;
-  Program program({clipboard, messageBox, fileDialog, windows});
+  QtPrinterDialog printerDialog;
+  QtClock clock;
+  QtProgress progress;
+  Program program({clipboard, messageBox, fileDialog, windows, printerDialog, clock, progress});
   program.Start();
   Recovery recovery(program.Main);
   QObject::connect(windows.WindowOf(program.Main), &QObject::destroyed, &application,

@@ -2,11 +2,14 @@
 // call them.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class Form;
+class XYChart;
 
 /// The system clipboard's plain text (UTF-8).
 class Clipboard {
@@ -43,6 +46,63 @@ class FileDialog {
   virtual std::optional<std::string> Choose(const FileDialogRequest& request) = 0;
 };
 
+struct PrintFont {
+  std::string_view Name;
+  int Size = 0;  ///< points
+  bool Bold = false, Italic = false, Underline = false;
+};
+
+/// The page that is printed on. Positions and sizes are in twips (1440 to the inch), from the left top corner
+/// of the paper.
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  virtual int PageWidth() const = 0;
+  virtual int PageHeight() const = 0;
+  /// For the texts that follow, on this page and the next ones.
+  virtual void SetFont(const PrintFont& font) = 0;
+  /// One line of text, its left top corner at (x, y); letters that take more than `maxWidth` are condensed.
+  virtual void Text(int x, int y, const std::string& text, int maxWidth) = 0;
+  virtual void Line(int x1, int y1, int x2, int y2, int penWidth) = 0;
+  /// The chart as it is now, in light colours; it must live until the end of the document.
+  virtual void Picture(const XYChart& chart, int x, int y, int width, int height) = 0;
+  virtual void NewPage() = 0;
+  /// Ends the document and sends its pages; false when they cannot be printed.
+  virtual bool End() = 0;
+  /// Gives the document up: nothing of it is printed.
+  virtual void Abandon() = 0;
+};
+
+struct PrintRequest {
+  std::string Title;       ///< of the dialog
+  bool Landscape = false;  ///< the orientation proposed
+};
+
+class PrinterDialog {
+ public:
+  virtual ~PrinterDialog() = default;
+  /// The printer chosen, at the start of a document; null when the person cancels.
+  virtual Printer* Choose(const PrintRequest& request) = 0;
+  /// Shows on the screen the pages that `write` prints, from where the person may print them.
+  virtual void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) = 0;
+};
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  /// Today's date in the short form of the system.
+  virtual std::string ShortDate() = 0;
+};
+
+/// Tells how far a long command has come.
+class Progress {
+ public:
+  virtual ~Progress() = default;
+  /// `done` of `total` steps of what the text names; the last step ends the display. False: the person
+  /// cancels, and the display has ended.
+  virtual bool Show(const std::string& text, int done, int total) = 0;
+};
+
 /// Shows forms and keeps the order in which they lie above each other.
 class WindowHost {
  public:
@@ -70,6 +130,9 @@ struct Services {
   MessageBox& messageBox;
   FileDialog& fileDialog;
   WindowHost& windows;
+  PrinterDialog& printerDialog;
+  Clock& clock;
+  Progress& progress;
 };
 
 /// Makes these the services of the program; they must outlive its windows.

@@ -16,6 +16,12 @@ struct ChartStretch {
   bool operator==(const ChartStretch&) const = default;
 };
 
+/// Extent of a chart's picture, in any one unit: its proportions are what counts.
+struct ChartSize {
+  int Width = 0;
+  int Height = 0;
+};
+
 class XYChart : public Control {
  public:
   using Control::Control;
@@ -37,6 +43,7 @@ class XYChart : public Control {
   Property<std::vector<ChartStretch>> Marked;
 
   // Set by the view.
+  ChartSize Size{4, 3};  ///< as shown; without a view the proportions of an old screen
   std::function<void()> LoadView;
   std::function<void()> CopyView;  ///< puts the picture of the chart on the clipboard
   /// The picture as a file's content, by the file's extension: "png", "svg" or "pdf"; empty when it cannot be

@@ -5,6 +5,7 @@
 #include "app/InitialFile.h"
 #include "app/frmDigits.h"
 #include "app/frmMannParam.h"
+#include "print/Print.h"
 #include "rating/OpenRating.h"
 #include "section/frmIrreg.h"
 #include "section/frmSection.h"
@@ -46,4 +47,10 @@ void Program::OpenGraph() {
 }
 void Program::OpenTable() {
   OpenRatingTable(Main);
+}
+void Program::PrintReport() {
+  Print::ToPrinter(Print::Report(Main));
+}
+void Program::PreviewReport() {
+  Print::ToPreview(Print::Report(Main));
 }

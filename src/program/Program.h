@@ -24,4 +24,6 @@ class Program : private SubWindows {
   void OpenSection() override;
   void OpenGraph() override;
   void OpenTable() override;
+  void PrintReport() override;
+  void PreviewReport() override;
 };

@@ -4,6 +4,7 @@
 #include "app/ChartPicture.h"
 #include "app/Declarations.h"
 #include "platform/Services.h"
+#include "print/Print.h"
 #include "rating/RatingColumn.h"
 #include "rating/RatingSeries.h"
 #include "rating/frmGraphSettings.h"
@@ -41,15 +42,17 @@ class FallingFlow {
 frmGraph::frmGraph(const frmMain& main) : Form("frmGraph"), main_(main) {
   lblMarked.Caption = "Marked: the flow falls as the level rises";
   mnuPrint.Caption = "Print...";
+  mnuPrintPreview.Caption = "Print Preview...";
   mnuFileExport.Caption = "Export...";
   mnuFileExit.Caption = "Exit";
   mnuEditCopy.Caption = "Copy";
   mnuEditSettings.Caption = "Settings...";
+  mnuPrint.Click = [this] { mnuPrint_Click(); };
+  mnuPrintPreview.Click = [this] { mnuPrintPreview_Click(); };
   mnuFileExport.Click = [this] { mnuFileExport_Click(); };
   mnuFileExit.Click = [this] { mnuFileExit_Click(); };
   mnuEditCopy.Click = [this] { mnuEditCopy_Click(); };
   mnuEditSettings.Click = [this] { mnuEditSettings_Click(); };
-  mnuPrint.Visible = false;  // printing is still to come
 }
 
 void frmGraph::Form_Load() {
@@ -87,6 +90,14 @@ void frmGraph::mnuEditSettings_Click() {
   frmGraphSettings settings;
   TheServices().windows.ShowModal(settings);
   if (!RatingRange.RatingCancelled) LoadGraph();
+}
+
+void frmGraph::mnuPrint_Click() {
+  Print::ToPrinter(Print::Graph(main_, MSChart1));
+}
+
+void frmGraph::mnuPrintPreview_Click() {
+  Print::ToPreview(Print::Graph(main_, MSChart1));
 }
 
 void frmGraph::mnuFileExport_Click() {

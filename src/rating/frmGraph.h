@@ -11,12 +11,15 @@ class frmGraph : public Form {
   XYChart MSChart1{this, "MSChart1"};
   /// Says what the marked stretches of the chart are; hidden when there are none.
   Label lblMarked{this, "lblMarked"};
-  MenuItem mnuPrint{this, "mnuPrint"}, mnuFileExport{this, "mnuFileExport"}, mnuFileExit{this, "mnuFileExit"};
+  MenuItem mnuPrint{this, "mnuPrint"}, mnuPrintPreview{this, "mnuPrintPreview"};
+  MenuItem mnuFileExport{this, "mnuFileExport"}, mnuFileExit{this, "mnuFileExit"};
   MenuItem mnuEditCopy{this, "mnuEditCopy"}, mnuEditSettings{this, "mnuEditSettings"};
 
   /// Plots the series; where the flow falls as the level rises the chart's rows are marked.
   void LoadGraph();
 
+  void mnuPrint_Click();
+  void mnuPrintPreview_Click();
   void mnuFileExport_Click();
   void mnuFileExit_Click();
   void mnuEditCopy_Click();

@@ -3,6 +3,7 @@
 
 #include "app/ExportFile.h"
 #include "platform/Services.h"
+#include "print/Print.h"
 #include "rating/RatingColumn.h"
 #include "rating/RatingSeries.h"
 #include "rating/TableText.h"
@@ -24,15 +25,17 @@ std::vector<std::string> Row(const RatingColumns& columns, Text text) {
 
 frmTable::frmTable(const frmMain& main) : Form("frmTable"), main_(main) {
   mnuPrint.Caption = "Print...";
+  mnuPrintPreview.Caption = "Print Preview...";
   mnuFileExport.Caption = "Export...";
   mnuFileExit.Caption = "Exit";
   mnuEditCopy.Caption = "Copy";
   mnuEditSettings.Caption = "Settings...";
+  mnuPrint.Click = [this] { mnuPrint_Click(); };
+  mnuPrintPreview.Click = [this] { mnuPrintPreview_Click(); };
   mnuFileExport.Click = [this] { mnuFileExport_Click(); };
   mnuFileExit.Click = [this] { mnuFileExit_Click(); };
   mnuEditCopy.Click = [this] { mnuEditCopy_Click(); };
   mnuEditSettings.Click = [this] { mnuEditSettings_Click(); };
-  mnuPrint.Visible = false;  // printing is still to come
 }
 
 void frmTable::Form_Load() {
@@ -70,6 +73,14 @@ void frmTable::mnuEditSettings_Click() {
   frmTableSettings settings;
   TheServices().windows.ShowModal(settings);
   if (!RatingRange.RatingCancelled) LoadTable();
+}
+
+void frmTable::mnuPrint_Click() {
+  Print::ToPrinter(Print::Table(main_, MSFlexGrid1));
+}
+
+void frmTable::mnuPrintPreview_Click() {
+  Print::ToPreview(Print::Table(main_, MSFlexGrid1));
 }
 
 void frmTable::mnuFileExport_Click() {

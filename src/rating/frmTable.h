@@ -10,11 +10,14 @@ class frmTable : public Form {
   explicit frmTable(const frmMain& main);
 
   FlexGrid MSFlexGrid1{this, "MSFlexGrid1"};
-  MenuItem mnuPrint{this, "mnuPrint"}, mnuFileExport{this, "mnuFileExport"}, mnuFileExit{this, "mnuFileExit"};
+  MenuItem mnuPrint{this, "mnuPrint"}, mnuPrintPreview{this, "mnuPrintPreview"};
+  MenuItem mnuFileExport{this, "mnuFileExport"}, mnuFileExit{this, "mnuFileExit"};
   MenuItem mnuEditCopy{this, "mnuEditCopy"}, mnuEditSettings{this, "mnuEditSettings"};
 
   void LoadTable();
 
+  void mnuPrint_Click();
+  void mnuPrintPreview_Click();
   void mnuFileExport_Click();
   void mnuFileExit_Click();
   /// The selected block, headed by the captions of its columns.

@@ -56,6 +56,11 @@ const std::vector<Console::Command>& Console::Commands() {
       {"messages", 0, 0, &Console::Messages},
       {"close", 0, 0, &Console::Close},
       {"locale", 2, 2, &Console::Locale},
+      {"date", 1, 1, &Console::Date},
+      {"today", 0, 0, &Console::Today},
+      {"page", 2, 2, &Console::Page},
+      {"printer", 1, 1, &Console::PrinterAnswer},
+      {"printed", 0, 0, &Console::Printed},
   };
   return commands;
 }
@@ -117,7 +122,8 @@ std::string Console::Perform(const std::string& line) {
     return "ok";
   }
   const bool ended = program_ && !program_->Main.IsLoaded();
-  if (ended || (!program_ && name != "locale")) throw Refusal("not running");
+  if (ended || (!program_ && name != "locale" && name != "date" && name != "page"))
+    throw Refusal("not running");
   for (const Command& command : Commands()) {
     if (command.Name != name) continue;
     Words words;
@@ -342,4 +348,37 @@ std::string Console::Close(const Words&) {
 std::string Console::Locale(const Words& words) {
   locale_ = {words[0], words[1]};
   return "ok";
+}
+
+std::string Console::Date(const Words& words) {
+  services_.clock.Today = words[0];
+  return "ok";
+}
+
+std::string Console::Today(const Words&) {
+  return Escaped(services_.clock.ShortDate());
+}
+
+std::string Console::Page(const Words& words) {
+  const int width = Whole(words[0]);
+  const int height = Whole(words[1]);
+  if (width <= 0 || height <= 0) throw Refusal("no paper");
+  services_.printerDialog.Paper.Width = width;
+  services_.printerDialog.Paper.Height = height;
+  return "ok";
+}
+
+std::string Console::PrinterAnswer(const Words& words) {
+  if (words[0] != "ok" && words[0] != "cancel") throw Refusal("no answer: " + words[0]);
+  services_.printerDialog.Answers.push_back(words[0] == "ok");
+  return "ok";
+}
+
+std::string Console::Printed(const Words&) {
+  std::string reply;
+  for (const std::string& call : services_.printerDialog.Paper.TakeCalls()) {
+    if (!reply.empty()) reply += '\t';
+    reply += Escaped(call);
+  }
+  return reply;
 }

@@ -78,6 +78,11 @@ class Console {
   std::string FormName(const std::vector<std::string>& words);
   std::string Close(const std::vector<std::string>& words);
   std::string Locale(const std::vector<std::string>& words);
+  std::string Date(const std::vector<std::string>& words);
+  std::string Today(const std::vector<std::string>& words);
+  std::string Page(const std::vector<std::string>& words);
+  std::string PrinterAnswer(const std::vector<std::string>& words);
+  std::string Printed(const std::vector<std::string>& words);
 
   MakeStage makeStage_;
   ReadLine read_;

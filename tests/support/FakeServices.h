@@ -41,10 +41,70 @@ class FakeFileDialog : public FileDialog {
   std::vector<FileDialogRequest> Requests;
 };
 
+/// Writes down what it is told, a line each, and forgets a document that is given up.
+class FakePrinter : public Printer {
+ public:
+  int Width = 12240, Height = 15840;  ///< twips: Letter
+  bool Works = true;
+  std::vector<std::string> Calls;
+
+  struct PrintedText {
+    int X, Y, MaxWidth;
+    std::string Text;
+  };
+  std::vector<PrintedText> Texts;
+
+  /// The calls so far, which are forgotten.
+  std::vector<std::string> TakeCalls();
+
+  int PageWidth() const override { return Width; }
+  int PageHeight() const override { return Height; }
+  void SetFont(const PrintFont& font) override;
+  void Text(int x, int y, const std::string& text, int maxWidth) override;
+  void Line(int x1, int y1, int x2, int y2, int penWidth) override;
+  void Picture(const XYChart& chart, int x, int y, int width, int height) override;
+  void NewPage() override { Calls.emplace_back("newpage"); }
+  bool End() override;
+  void Abandon() override;
+
+ private:
+  std::size_t ended_ = 0;  // calls of documents that are complete
+};
+
+class FakePrinterDialog : public PrinterDialog {
+ public:
+  /// The queued answer; none queued: null.
+  Printer* Choose(const PrintRequest& request) override;
+  void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) override;
+
+  FakePrinter Paper, Screen;
+  std::deque<bool> Answers;
+  std::vector<PrintRequest> Requests;
+};
+
+class FakeClock : public Clock {
+ public:
+  std::string ShortDate() override { return Today; }
+  std::string Today = "2026-03-09";
+};
+
+class FakeProgress : public Progress {
+ public:
+  bool Show(const std::string& text, int done, int total) override;
+
+  int CancelAt = -1;                 ///< the step at which the person cancels
+  std::vector<std::string> Reports;  ///< "text done/total"
+};
+
 struct FakeServices {
   FakeClipboard clipboard;
   FakeMessageBox messageBox;
   FakeFileDialog fileDialog;
+  FakePrinterDialog printerDialog;
+  FakeClock clock;
+  FakeProgress progress;
 
-  Services With(WindowHost& windows) { return {clipboard, messageBox, fileDialog, windows}; }
+  Services With(WindowHost& windows) {
+    return {clipboard, messageBox, fileDialog, windows, printerDialog, clock, progress};
+  }
 };

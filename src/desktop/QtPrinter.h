@@ -1,0 +1,52 @@
+// Printers of the desktop: pages painted as vectors on paper, into a PDF file or on the screen.
+#pragma once
+
+#include <QFont>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/Services.h"
+
+class QCPPainter;
+class QPrinter;
+
+/// Keeps the pages until the end of the document: one given up reaches no printer and no file.
+class QtPrinter : public Printer {
+ public:
+  explicit QtPrinter(QPrinter& device) : device_(device) {}
+
+  int PageWidth() const override;
+  int PageHeight() const override;
+  void SetFont(const PrintFont& font) override;
+  void Text(int x, int y, const std::string& text, int maxWidth) override;
+  void Line(int x1, int y1, int x2, int y2, int penWidth) override;
+  void Picture(const XYChart& chart, int x, int y, int width, int height) override;
+  void NewPage() override { pages_.emplace_back(); }
+  bool End() override;
+  void Abandon() override { pages_.assign(1, {}); }
+
+ private:
+  using Stroke = std::function<void(QCPPainter&)>;
+
+  QPrinter& device_;
+  QFont font_;
+  std::vector<std::vector<Stroke>> pages_{1};
+};
+
+class QtPrinterDialog : public PrinterDialog {
+ public:
+  QtPrinterDialog();
+  ~QtPrinterDialog() override;
+  Printer* Choose(const PrintRequest& request) override;
+  void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) override;
+
+ private:
+  /// Made when first needed, as asking the system for its printers takes its time; later it knows what the
+  /// person chose last.
+  QPrinter& Device(const PrintRequest& request);
+
+  std::unique_ptr<QPrinter> device_;
+  std::optional<QtPrinter> printer_;
+};

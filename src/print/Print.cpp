@@ -1,0 +1,194 @@
+// See Print.h.
+#include "print/Print.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "app/Declarations.h"
+#include "engine/ChannelState.h"
+#include "print/PageWriter.h"
+#include "print/ReportLines.h"
+#include "print/frmTempPic.h"
+
+namespace Print {
+
+namespace {
+
+constexpr PrintFont BodyFont{"Arial", 10};
+constexpr PrintFont TableFont{"Arial", 8};
+constexpr PrintFont TableHeadFont{"Arial", 8, false, false, true};
+
+constexpr int LabelColumn = Layout::Tab(1);
+constexpr int ValueColumn = Layout::Tab(4);
+constexpr int PictureTop = 4008;
+constexpr int TableBottom = 3008;  // above the bottom edge
+constexpr int PointsOfLine = 4;
+constexpr int CellsOfPoint = 3;
+
+void Lines(PageWriter& page, const frmMain& main, std::span<const ReportLine> lines) {
+  for (const ReportLine& line : lines) {
+    if (page.IsFull(1)) page.NextPage();
+    page.Cell(LabelColumn, ValueColumn, (main.*line.Caption).Caption);
+    page.Cell(ValueColumn, page.Right(), line.Value(main));
+    page.EndLine();
+  }
+}
+
+/// Prints a cell of the group of station, elevation and n that stands `group` groups from the left.
+void PointCell(PageWriter& page, int group, int cell, const std::string& text) {
+  const int stop = CellsOfPoint * group + cell;
+  page.Cell(Layout::Tab(stop), Layout::Tab(stop + 1), text);
+}
+
+void PointHeads(PageWriter& page) {
+  constexpr const char* Heads[] = {"Sta", "Elev", "n"};
+  for (int group = 0; group < PointsOfLine; ++group) {
+    for (int cell = 1; cell <= CellsOfPoint; ++cell) PointCell(page, group, cell, Heads[cell - 1]);
+  }
+  page.EndLine();
+}
+
+void Points(PageWriter& page) {
+  const ChannelRecord& record = ChannelState;
+  PointHeads(page);
+  for (int first = 1; first <= record.IrregPointCount; first += PointsOfLine) {
+    if (page.IsFull(1)) {
+      page.NextPage();
+      PointHeads(page);
+    }
+    for (int row = first; row < first + PointsOfLine && row <= record.IrregPointCount; ++row) {
+      const auto& point = record.IrregPoints[static_cast<std::size_t>(row)];
+      for (int cell = 1; cell <= CellsOfPoint; ++cell) {
+        PointCell(page, row - first, cell, point[static_cast<std::size_t>(cell)].Text());
+      }
+    }
+    page.EndLine();
+  }
+}
+
+void Inputs(PageWriter& page, const frmMain& main) {
+  page.SetFont(BodyFont);
+  Lines(page, main, ReportInputs());
+  if (ChannelState.ChannelType == ChannelTypes::Irregular) Points(page);
+}
+
+/// The results stay together where a page can hold them.
+void Results(PageWriter& page, const frmMain& main) {
+  page.EndLine();
+  const auto lines = ReportResults();
+  if (page.IsFull(static_cast<int>(lines.size()))) page.NextPage();
+  Lines(page, main, lines);
+}
+
+void End(PageWriter& page, Printer& printer) {
+  page.Footer();
+  if (printer.End()) return;
+  TheServices().messageBox.Show("The pages cannot be printed.", Declarations::AppTitle, BoxIcon::Exclamation,
+                                BoxButtons::Ok);
+}
+
+/// x of each column; the leading one, which is empty, stands at the edge of the paper.
+using ColumnPositions = std::array<int, 21>;
+
+ColumnPositions TablePositions(int right, int lastColumn) {
+  ColumnPositions x{};
+  for (int i = 1; i <= lastColumn; ++i) {
+    const double share = static_cast<double>(right - Layout::LeftMargin) * (i - 1) / lastColumn;
+    x.at(static_cast<std::size_t>(i)) = static_cast<int>(std::nearbyint(Layout::LeftMargin + share));
+  }
+  return x;
+}
+
+class TableWriter {
+ public:
+  TableWriter(Printer& printer, const frmMain& main, const FlexGrid& grid)
+      : printer_(printer),
+        grid_(grid),
+        page_(printer, main),
+        x_(TablePositions(page_.Right(), grid.Cols() - 1)) {}
+
+  void Write() {
+    const int last = grid_.Rows() - 1;
+    Heads();
+    for (int row = 1; row <= last; ++row) {
+      Row(row);
+      if (row == last || page_.Y() <= printer_.PageHeight() - TableBottom) continue;
+      if (!Tell(row, last)) {
+        printer_.Abandon();
+        return;
+      }
+      page_.NextPage();
+      Heads();
+    }
+    Tell(last, last);
+    End(page_, printer_);
+  }
+
+ private:
+  static bool Tell(int row, int last) { return TheServices().progress.Show("Printing the table", row, last); }
+
+  void Heads() {
+    page_.SetFont(TableHeadFont);
+    Row(0);
+    page_.SetFont(TableFont);
+  }
+
+  void Row(int row) {
+    const int last = grid_.Cols() - 1;
+    for (int column = 0; column <= last; ++column) {
+      const int right = column < last ? x_[static_cast<std::size_t>(column) + 1] : page_.Right();
+      page_.Cell(x_[static_cast<std::size_t>(column)], right, grid_.Text(row, column));
+    }
+    page_.EndLine();
+  }
+
+  Printer& printer_;
+  const FlexGrid& grid_;
+  PageWriter page_;
+  const ColumnPositions x_;
+};
+
+PrintRequest Request(const Document& document) {
+  return {"Print", document.Landscape};
+}
+
+}  // namespace
+
+Document Report(const frmMain& main) {
+  return {[&main](Printer& printer) {
+    PageWriter page(printer, main);
+    Inputs(page, main);
+    Results(page, main);
+    End(page, printer);
+  }};
+}
+
+Document Graph(const frmMain& main, const XYChart& chart) {
+  return {[&main, &chart](Printer& printer) {
+    PageWriter page(printer, main);
+    Inputs(page, main);
+    if (page.Y() > PictureTop) page.NextPage();
+    const frmTempPic holder(chart);
+    const ChartSize size = holder.Fitted({page.Right() - Layout::LeftMargin, page.FooterRule() - PictureTop});
+    if (size.Height > 0) {
+      printer.Picture(*holder.PicTemp.Picture, Layout::LeftMargin, PictureTop, size.Width, size.Height);
+    }
+    End(page, printer);
+  }};
+}
+
+Document Table(const frmMain& main, const FlexGrid& grid) {
+  return {[&main, &grid](Printer& printer) { TableWriter(printer, main, grid).Write(); }, true};
+}
+
+void ToPrinter(const Document& document) {
+  if (Printer* const printer = TheServices().printerDialog.Choose(Request(document)))
+    document.Write(*printer);
+}
+
+void ToPreview(const Document& document) {
+  TheServices().printerDialog.Preview(Request(document), document.Write);
+}
+
+}  // namespace Print
