@@ -84,6 +84,25 @@ TEST(SectionDrawing, EachPoolHasItsOwnWaterLine) {
   EXPECT_TRUE(Pools(Irregular(Survey(TwoLows), 5, 0)).empty()) << "a level at the lowest point is dry";
 }
 
+TEST(SectionDrawing, ABankExactlyAtTheLevelPartsTheWater) {
+  const Table table =
+      Irregular(Survey({{0, 10}, {10, 0}, {20, 4}, {30, 0}, {40, 4}, {50, 4}, {60, 8}}), 7, 4);
+  ExpectSeries(table, WaterX,
+               {Blank,
+                {6, 4},
+                {20, 4},
+                Blank,
+                Blank,
+                {20, 4},
+                {40, 4},
+                Blank,
+                Blank,
+                Blank,
+                Blank,
+                {60 + (4 - 8) * (0 - 60) / (0 - 8.0), 4}});
+  EXPECT_EQ(Pools(table).size(), 2U);
+}
+
 TEST(SectionDrawing, WaterBeyondTheLastPointEndsThere) {
   const Table table = Irregular(Survey({{0, 10}, {10, 0}, {20, 3}}), 3, 4);
   ExpectSeries(table, WaterX, {Blank, {6, 4}, {10, 4}, {20, 4}});

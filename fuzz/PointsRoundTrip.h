@@ -1,0 +1,96 @@
+// What must hold for any text pasted into the point table or imported as points; shared by the fuzzer and by
+// the test that replays its corpus.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "engine/NumberText.h"
+#include "platform/FlexGrid.h"
+#include "section/IrregTable.h"
+#include "section/PointsCsv.h"
+
+namespace PointsRoundTrip {
+
+using IrregTable::Table;
+
+inline const std::array<NumberLocale, 4> Locales = {{{".", ","}, {",", "."}, {",", "\u202F"}, {".", "'"}}};
+
+inline std::optional<Table> ImportedOrNothing(const std::string& bytes) {
+  try {
+    return PointsCsv::Parse(bytes);
+  } catch (const std::runtime_error& refusal) {
+    if (std::string(refusal.what()).empty()) throw std::logic_error("refused without a word");
+    return std::nullopt;
+  }
+}
+
+/// Both tables hold the same numbers, and texts where they hold none.
+inline bool SameNumbers(const Table& a, const Table& b) {
+  for (std::size_t row = 1; row < a.size(); ++row) {
+    for (std::size_t column = 1; column < a[row].size(); ++column) {
+      if (NumericValue(a[row][column]) != NumericValue(b[row][column])) return false;
+    }
+  }
+  return true;
+}
+
+/// An accepted table comes back from its export. An n behind the last point is no part of the section.
+inline bool ComesBack(Table table) {
+  if (IrregTable::CheckTable(table)) return true;
+  for (int row = IrregTable::PointCount(table) + 1; row <= IrregTable::Rows; ++row)
+    table[static_cast<std::size_t>(row)] = {};
+  const std::string exported = PointsCsv::Format(table);
+  const std::optional<Table> again = ImportedOrNothing(exported);
+  return again && SameNumbers(table, *again) && PointsCsv::Format(*again) == exported;
+}
+
+/// What was imported is numbers, a station and an elevation in each row.
+inline bool IsNumbers(const Table& table) {
+  for (int row = 1; row <= IrregTable::PointCount(table); ++row) {
+    const auto& point = table[static_cast<std::size_t>(row)];
+    if (!IsNumeric(point[1]) || !IsNumeric(point[2]) || (!point[3].empty() && !IsNumeric(point[3])))
+      return false;
+  }
+  return IrregTable::PointCount(table) > 0;
+}
+
+/// Pastes the text into a grid of dots, from its second row on; only the block may change, and what is copied
+/// from there pastes back as it is.
+inline bool PasteHolds(const std::string& text, Table& pasted) {
+  Form form("form");
+  FlexGrid grid(&form, "grid");
+  grid.Load(std::vector<std::vector<std::string>>(IrregTable::Rows + 1, {"#", ".", ".", "."}), 4);
+  const GridBlock block{2, 1, 90, 2 + static_cast<int>(text.size() % 2)};
+  grid.Selection = block;
+  grid.SetClip(text);
+  const std::string copied = grid.Clip();
+  grid.SetClip(copied);
+  bool holds = grid.Clip() == copied && ShapeOfClip(text).Rows > 0 && ShapeOfClip(text).Cols > 0;
+  for (int row = 0; row < grid.Rows(); ++row) {
+    for (int col = 1; col < grid.Cols(); ++col) {
+      const bool inside = row >= block.Row && row <= block.RowSel && col <= block.ColSel;
+      if (!inside && grid.Text(row, col) != ".") holds = false;
+      if (inside && grid.Text(row, col) != ".")
+        pasted[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(col)] = grid.Text(row, col);
+    }
+  }
+  return holds;
+}
+
+/// Whatever the text, as a file and as a clipboard.
+inline bool Holds(const std::string& bytes, const NumberLocale& locale) {
+  SetNumberLocale(locale);
+  const std::optional<Table> imported = ImportedOrNothing(bytes);
+  Table pasted;
+  const bool holds = (!imported || (IsNumbers(*imported) && ComesBack(*imported))) &&
+                     PasteHolds(bytes, pasted) && ComesBack(pasted);
+  SetNumberLocale({});
+  return holds;
+}
+
+}  // namespace PointsRoundTrip

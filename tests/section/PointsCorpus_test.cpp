@@ -1,0 +1,26 @@
+// Replays what the fuzzer of pasted and imported points has kept.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "../../fuzz/PointsRoundTrip.h"
+#include "app/WholeFile.h"
+
+namespace {
+
+TEST(PointsCorpus, NothingCrashesAndAcceptedPointsComeBack) {
+  int files = 0;
+  int imported = 0;
+  const auto root = std::filesystem::path(__FILE__).parent_path().parent_path().parent_path();
+  for (const auto& entry : std::filesystem::directory_iterator(root / "fuzz/corpus/points")) {
+    const std::string text = WholeFile::Read(entry.path().string());
+    for (const NumberLocale& locale : PointsRoundTrip::Locales)
+      EXPECT_TRUE(PointsRoundTrip::Holds(text, locale)) << entry.path();
+    ++files;
+    if (PointsRoundTrip::ImportedOrNothing(text)) ++imported;
+  }
+  EXPECT_GT(files, 10);
+  EXPECT_GT(imported, 4);
+}
+
+}  // namespace
