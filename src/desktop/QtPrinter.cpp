@@ -49,7 +49,7 @@ void QtPrinter::SetFont(const PrintFont& font) {
 }
 
 void QtPrinter::Text(int x, int y, const std::string& text, int maxWidth) {
-  if (text.empty()) return;
+  if (text.empty() || maxWidth <= 0) return;
   const QString shown = ToQt(text);
   const QFontMetricsF metrics(font_);
   const double width = metrics.horizontalAdvance(shown);

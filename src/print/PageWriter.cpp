@@ -65,9 +65,7 @@ void PageWriter::Footer() {
 }
 
 void PageWriter::NextPage() {
-  const PrintFont bodyFont = font_;
   Footer();
   printer_.NewPage();
   Header();
-  SetFont(bodyFont);
 }

@@ -40,7 +40,7 @@ class PageWriter {
   bool IsFull(int lines) const;
 
   void Footer();
-  /// Footer, new page and its head; the body goes on at its top in the font in force.
+  /// Footer, new page and its head; the body goes on at its top in a font to be set.
   void NextPage();
 
  private:

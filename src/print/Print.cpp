@@ -26,9 +26,14 @@ constexpr int TableBottom = 3008;  // above the bottom edge
 constexpr int PointsOfLine = 4;
 constexpr int CellsOfPoint = 3;
 
+void TurnPage(PageWriter& page) {
+  page.NextPage();
+  page.SetFont(BodyFont);
+}
+
 void Lines(PageWriter& page, const frmMain& main, std::span<const ReportLine> lines) {
   for (const ReportLine& line : lines) {
-    if (page.IsFull(1)) page.NextPage();
+    if (page.IsFull(1)) TurnPage(page);
     page.Cell(LabelColumn, ValueColumn, (main.*line.Caption).Caption);
     page.Cell(ValueColumn, page.Right(), line.Value(main));
     page.EndLine();
@@ -54,7 +59,7 @@ void Points(PageWriter& page) {
   PointHeads(page);
   for (int first = 1; first <= record.IrregPointCount; first += PointsOfLine) {
     if (page.IsFull(1)) {
-      page.NextPage();
+      TurnPage(page);
       PointHeads(page);
     }
     for (int row = first; row < first + PointsOfLine && row <= record.IrregPointCount; ++row) {
@@ -77,7 +82,7 @@ void Inputs(PageWriter& page, const frmMain& main) {
 void Results(PageWriter& page, const frmMain& main) {
   page.EndLine();
   const auto lines = ReportResults();
-  if (page.IsFull(static_cast<int>(lines.size()))) page.NextPage();
+  if (page.IsFull(static_cast<int>(lines.size()))) TurnPage(page);
   Lines(page, main, lines);
 }
 

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "app/Version.h"
+
 namespace {
 
 /// An empty folder to work in while it lives, so that a conversation can save and open "./name.fwd".
@@ -44,6 +46,17 @@ std::string Respelled(std::string text) {
   return respelled;
 }
 
+/// With the version of the program in place of "{version}".
+std::string WithVersion(std::string text) {
+  constexpr std::string_view placeholder = "{version}";
+  const std::size_t at = text.find(placeholder);
+  if (at == std::string::npos) return text;
+  const int numbers[] = {VersionMajor, VersionMinor, VersionRevision};
+  std::string version = "v";
+  for (const int number : numbers) version += (version == "v" ? "" : ".") + std::to_string(number);
+  return text.replace(at, placeholder.size(), version);
+}
+
 }  // namespace
 
 std::vector<Exchange> ReadConversation(const std::string& path) {
@@ -65,7 +78,7 @@ std::vector<Exchange> WithDecimalComma(const std::vector<Exchange>& conversation
   for (const Exchange& exchange : conversation) {
     const bool typed = exchange.Line.starts_with("type tb") || exchange.Line.starts_with("clipboard");
     const bool read = exchange.Line.starts_with("get tb") || exchange.Line.starts_with("get frmMain.tb") ||
-                      exchange.Line.starts_with("cell ") ||
+                      exchange.Line.starts_with("cell ") || exchange.Line == "printed" ||
                       (exchange.Line.starts_with("record points") && exchange.Reply.starts_with("t:")) ||
                       exchange.Line.starts_with("clipboard");
     respelled.push_back({typed ? Respelled(exchange.Line) : exchange.Line,
@@ -86,8 +99,9 @@ std::vector<std::string> Differences(const std::vector<Exchange>& conversation,
   };
   const auto write = [&](const std::string& reply) {
     const Exchange& exchange = conversation[answered++];
-    if (reply != exchange.Reply) {
-      differences.push_back(exchange.Line + ": " + reply + " instead of " + exchange.Reply);
+    const std::string expected = WithVersion(exchange.Reply);
+    if (reply != expected) {
+      differences.push_back(exchange.Line + ": " + reply + " instead of " + expected);
     }
   };
   Console(stage, read, write).Run();

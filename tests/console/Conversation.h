@@ -19,7 +19,8 @@ std::vector<Exchange> ReadConversation(const std::string& path);
 /// read off them is spelled that way.
 std::vector<Exchange> WithDecimalComma(const std::vector<Exchange>& conversation);
 
-/// Holds the conversation and returns what went otherwise, a line each.
+/// Holds the conversation and returns what went otherwise, a line each. "{version}" in a reply is the version
+/// of the program.
 std::vector<std::string> Differences(const std::vector<Exchange>& conversation,
                                      const Console::MakeStage& stage);
 

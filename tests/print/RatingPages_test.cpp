@@ -1,0 +1,200 @@
+// The printed pages of rating table and rating graph. Positions by hand, as for the report.
+#include <gmock/gmock.h>
+
+#include <map>
+#include <stdexcept>
+
+#include "print/Print.h"
+#include "print/PrintStage.h"
+#include "rating/frmGraph.h"
+#include "rating/frmTable.h"
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+class RatingPages : public PrintStage {
+ protected:
+  struct GridForm : Form {
+    GridForm() : Form("GridForm") {}
+    FlexGrid Grid{this, "Grid"};
+  };
+
+  /// A grid of 15 columns whose cells tell their place, the leading column empty.
+  static void Fill(FlexGrid& grid, int rows, int cols = 15) {
+    std::vector<std::vector<std::string>> cells;
+    for (int row = 0; row <= rows; ++row) {
+      cells.emplace_back();
+      for (int col = 0; col < cols; ++col) {
+        cells.back().push_back(col == 0 ? "" : std::to_string(row) + "/" + std::to_string(col));
+      }
+    }
+    grid.Load(std::move(cells), cols);
+  }
+  void PrintGrid(int rows) {
+    GridForm form;
+    Fill(form.Grid, rows);
+    Paper.TakeCalls();
+    Fakes.printerDialog.Answers = {true};
+    Print::ToPrinter(Print::Table(Main, form.Grid));
+  }
+
+  // 1152 + 9216 (i - 1) / 14 on Letter; the leading column at the edge of the paper.
+  static constexpr int Columns[] = {0,    1152, 1810, 2469, 3127, 3785, 4443, 5102,
+                                    5760, 6418, 7077, 7735, 8393, 9051, 9710};
+  static Calls GridRow(int row, int y) {
+    Calls calls;
+    for (int col = 0; col < 15; ++col) {
+      const std::string text = col == 0 ? "" : std::to_string(row) + "/" + std::to_string(col);
+      calls.push_back("text " + std::to_string(Columns[col]) + " " + std::to_string(y) + " " + text);
+    }
+    return calls;
+  }
+  Calls GridPage(int first, int last) {
+    Calls page = Head() + Calls{"font Arial 8 False False True"} + GridRow(0, 2008) +
+                 Calls{"font Arial 8 False False False"};
+    for (int row = first; row <= last; ++row) page = page + GridRow(row, 2192 + 184 * (row - first));
+    return page + Foot();
+  }
+};
+
+TEST_P(RatingPages, ATableTakesASheetFor58RowsOfLetterAndNoneForHeadsOnly) {
+  // Rows begin at 2192; the 58th ends at 12864, the first beyond 15840 - 3008.
+  struct Case {
+    int Rows, Pages;
+  };
+  for (const auto& [rows, pages] :
+       std::initializer_list<Case>{{1, 1}, {57, 1}, {58, 1}, {59, 2}, {116, 2}, {1000, 18}}) {
+    PrintGrid(rows);
+    ASSERT_EQ(Pages(), pages) << rows;
+    EXPECT_THAT(Page(1), ElementsAreArray(GridPage(1, std::min(rows, 58)))) << rows;
+    EXPECT_THAT(Page(pages), ElementsAreArray(GridPage(58 * (pages - 1) + 1, rows))) << rows;
+    EXPECT_EQ(Paper.Calls.back(), "end");
+  }
+  EXPECT_TRUE(Fakes.printerDialog.Requests.back().Landscape);
+}
+
+TEST_P(RatingPages, ARowThatEndsOnTheLimitIsNotBeyondIt) {
+  UsePaper(12240, 12680 + 3008);  // the 57th row ends at 12680
+  PrintGrid(59);
+  EXPECT_THAT(Page(1), ElementsAreArray(GridPage(1, 58)));
+  UsePaper(12240, 12680 + 3007);
+  PrintGrid(59);
+  EXPECT_THAT(Page(1), ElementsAreArray(GridPage(1, 57)));
+}
+
+TEST_P(RatingPages, ColumnsAreRoundedHalfToEvenAndNeverOverlap) {
+  UsePaper(10031, 15840);  // 7007 (i - 1) / 14: 1652.5 and 2653.5
+  PrintGrid(1);
+  EXPECT_EQ(Paper.Texts[4].X, 1652);
+  EXPECT_EQ(Paper.Texts[6].X, 2654);
+  std::map<int, int> right;  // by line
+  for (const FakePrinter::PrintedText& text : Paper.Texts) {
+    EXPECT_GT(text.MaxWidth, 400) << text.Text;
+    if (right.contains(text.Y)) {
+      EXPECT_LT(right[text.Y], text.X) << text.Text;
+    }
+    right[text.Y] = text.X + text.MaxWidth;
+  }
+  EXPECT_LT(right[2192], 10031 - 1872);
+}
+
+TEST_P(RatingPages, AGridOfTooManyColumnsIsAFault) {
+  GridForm form;
+  Fill(form.Grid, 1, 21);
+  Print::ToPrinter(Print::Table(Main, form.Grid));
+  EXPECT_EQ(Paper.Calls.back(), "end");
+  Fill(form.Grid, 1, 22);
+  Fakes.printerDialog.Answers = {true};
+  EXPECT_THROW(Print::ToPrinter(Print::Table(Main, form.Grid)), std::out_of_range);
+}
+
+TEST_P(RatingPages, AGreatTableTellsItsProgressAndCanBeGivenUp) {
+  PrintGrid(10000);
+  EXPECT_EQ(Pages(), 173);  // 10000 / 58
+  EXPECT_EQ(Fakes.progress.Reports.size(), 173U);
+  EXPECT_EQ(Fakes.progress.Reports.front(), "Printing the table 58/10000");
+  EXPECT_EQ(Fakes.progress.Reports.back(), "Printing the table 10000/10000") << "else the bar stays";
+  Fakes.progress.CancelAt = 580;
+  PrintGrid(10000);
+  EXPECT_THAT(Paper.Calls, IsEmpty()) << "nothing is printed of what was given up";
+  EXPECT_THAT(Fakes.messageBox.Boxes, IsEmpty());
+}
+
+TEST_P(RatingPages, TheTableWindowPrintsItsCells) {
+  TypeRectangle();
+  RatingRange.VaryCode = 1;
+  RatingRange.RangeMin = 1;
+  RatingRange.RangeMax = 2;
+  RatingRange.RangeStep = 1;
+  frmTable table(Main);
+  table.Load();
+  Fakes.printerDialog.Answers = {false, true};
+  table.mnuPrint.Click();
+  EXPECT_THAT(Paper.Calls, IsEmpty());
+  table.mnuPrint.Click();
+  EXPECT_THAT(Paper.Calls, Contains("text 2469 2008 Slope, ft/ft"));
+  EXPECT_THAT(Paper.Calls, Contains(Spelled("text 1152 2376 91.7")));  // the second row, for 2 ft
+  table.mnuPrintPreview.Click();
+  EXPECT_EQ(Fakes.printerDialog.Screen.Calls, Paper.Calls);
+}
+
+TEST_P(RatingPages, TheGraphIsAsLargeAsFitsInItsOwnProportions) {
+  TypeRectangle();
+  RatingRange.VaryCode = 1;
+  RatingRange.GraphYColumn = 1;
+  RatingRange.RangeMin = 0;
+  RatingRange.RangeMax = 2;
+  RatingRange.RangeStep = 0.01;
+  Fakes.clipboard.SetText("before");
+  frmGraph graph(Main);
+  graph.Load();
+  struct Case {
+    int Width, Height;  ///< of the paper
+    ChartSize Chart;
+    const char* Picture;  ///< nothing: there is no room
+  };
+  // The room is W - 3024 wide and H - 5816 high.
+  for (const Case& each : std::initializer_list<Case>{{12240, 15840, {4, 3}, "9216 6912"},
+                                                      {11906, 16838, {4, 3}, "8882 6661"},
+                                                      {15840, 12240, {4, 3}, "8565 6424"},
+                                                      {12240, 15840, {500, 1000}, "5012 10024"},
+                                                      {12240, 15840, {9216, 10024}, "9216 10024"},
+                                                      {8000, 5816, {4, 3}, ""},
+                                                      {12240, 15840, {0, 300}, ""}}) {
+    UsePaper(each.Width, each.Height);
+    graph.MSChart1.Size = each.Chart;
+    Paper.TakeCalls();
+    Fakes.printerDialog.Answers = {true};
+    graph.mnuPrint.Click();
+    const std::string picture = each.Picture;
+    const Calls drawn = picture.empty() ? Calls{} : Calls{"picture 1152 4008 " + picture};
+    EXPECT_EQ(Calls(Paper.Calls.begin(), Paper.Calls.begin() + 3), Head());
+    EXPECT_EQ(Paper.Calls[13], "text 4032 2928 10 ft") << "the last input";
+    EXPECT_EQ(Calls(Paper.Calls.begin() + 14, Paper.Calls.end()), drawn + Foot() + Calls{"end"});
+  }
+  EXPECT_EQ(Fakes.clipboard.Text(), "before");
+  graph.MSChart1.Size = {2, 1};
+  graph.mnuPrintPreview.Click();
+  EXPECT_THAT(Fakes.printerDialog.Screen.Calls, Contains("picture 1152 4008 9216 4608"));
+}
+
+TEST_P(RatingPages, AGraphBelowALongTableOfPointsHasAPageOfItsOwn) {
+  Main.mnuOptionsIrreg_Click();
+  const frmGraph graph(Main);
+  // 3 inputs and the heads end at 2928; the fifth line of points would end at 4078.
+  for (const int points : {16, 17}) {
+    ChannelState.IrregPointCount = points;
+    Paper.TakeCalls();
+    Fakes.printerDialog.Answers = {true};
+    Print::ToPrinter(Print::Graph(Main, graph.MSChart1));
+    ASSERT_EQ(Pages(), points == 16 ? 1 : 2);
+  }
+  EXPECT_EQ(Page(2), Head() + Calls{"picture 1152 4008 9216 6912"} + Foot());
+}
+
+INSTANTIATE_LOCALES(RatingPages);
+
+}  // namespace

@@ -1,0 +1,201 @@
+// The printed report, page by page. Positions by hand: lines of 12, 10 and 8 points are 276, 230 and 184
+// twips high.
+#include <gmock/gmock.h>
+
+#include "print/PrintStage.h"
+
+namespace {
+
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+class Report : public PrintStage {
+ protected:
+  struct Row {
+    const char* Label;
+    TextBox frmMain::*Box;
+    const char* Units[2];  ///< what stands behind the value, English and metric
+  };
+
+  /// Label and value of each row, a line below the other.
+  Calls Rows(int top, const std::vector<Row>& rows) const {
+    Calls calls;
+    for (const Row& row : rows) {
+      const std::string y = std::to_string(top);
+      calls.push_back("text 1872 " + y + " " + row.Label);
+      calls.push_back("text 4032 " + y + " " + (Main.*row.Box).Text.Get() +
+                      row.Units[ChannelState.UnitsEorM]);
+      top += 230;
+    }
+    return calls;
+  }
+  Calls Results(int top) const {
+    const bool elevation = ChannelState.ChannelType == ChannelTypes::Irregular;
+    return Rows(top, {{"Velocity", &frmMain::tbVelocity, {" fps", " m/s"}},
+                      {"Velocity Head", &frmMain::tbVelHead, {" ft", " m"}},
+                      {"Flow Area", &frmMain::tbArea, {" sf", " m^2"}},
+                      {"Wetted Perimeter", &frmMain::tbWP, {" ft", " m"}},
+                      {"Hydraulic Radius", &frmMain::tbHRad, {" ft", " m"}},
+                      {"Top Width", &frmMain::tbTopW, {" ft", " m"}},
+                      {"Froude Number", &frmMain::tbFroude, {"", ""}},
+                      {elevation ? "Critical WSElev" : "Critical Depth", &frmMain::tbCritD, {" ft", " m"}},
+                      {"Critical Slope", &frmMain::tbCritS, {" ft/ft", " m/m"}}});
+  }
+
+  static std::string PointText(int row, int column) {
+    const std::string texts[] = {std::to_string(10 * row), Spelled(std::to_string(row % 7) + ".5"),
+                                 row == 1 ? Spelled("0.03") : ""};
+    return texts[column];
+  }
+  /// A section of so many points, the water standing above the lowest.
+  void TypeSection(int count) {
+    Main.mnuOptionsIrreg_Click();
+    Main.mnuSolveForFlow_Click();
+    ChannelState.IrregPointCount = count;
+    for (int row = 1; row <= count; ++row) {
+      for (int column = 0; column < 3; ++column) {
+        ChannelState.IrregPoints[static_cast<std::size_t>(row)][static_cast<std::size_t>(column) + 1] =
+            PointText(row, column);
+      }
+    }
+    Type(Main.tbSlope, "0.002");
+    Type(Main.tbDepth, "1.75");
+  }
+
+  static constexpr int Stops[] = {1872, 2592, 3312, 4032, 4752, 5472, 6192, 6912, 7632, 8352, 9072, 9792};
+  static Calls PointHeads(int y) {
+    Calls calls;
+    for (int i = 0; i < 12; ++i) {
+      const char* const heads[] = {"Sta", "Elev", "n"};
+      calls.push_back("text " + std::to_string(Stops[i]) + " " + std::to_string(y) + " " + heads[i % 3]);
+    }
+    return calls;
+  }
+  static Calls Points(int top, int first, int last) {
+    Calls calls;
+    for (int row = first; row <= last; ++row) {
+      for (int column = 0; column < 3; ++column) {
+        calls.push_back("text " + std::to_string(Stops[3 * ((row - first) % 4) + column]) + " " +
+                        std::to_string(top + 230 * ((row - first) / 4)) + " " + PointText(row, column));
+      }
+    }
+    return calls;
+  }
+  const Calls Body = {"font Arial 10 False False False"};
+  const std::vector<Row> SectionRows = {{"Flow", &frmMain::tbFlow, {" cfs", " m^3/s"}},
+                                        {"WSElev", &frmMain::tbDepth, {" ft", " m"}},
+                                        {"Slope", &frmMain::tbSlope, {" ft/ft", " m/m"}}};
+};
+
+TEST_P(Report, OfEachPrismAndThePipeInBothUnitSystems) {
+  TypeRectangle();
+  Type(Main.tbDiameter, "48");
+  const Row flow{"Flow", &frmMain::tbFlow, {" cfs", " m^3/s"}};
+  const Row depth{"Depth", &frmMain::tbDepth, {" ft", " m"}};
+  const Row slope{"Slope", &frmMain::tbSlope, {" ft/ft", " m/m"}};
+  const Row n{"Manning's n", &frmMain::tbMann, {"", ""}};
+  const Row width{"Base Width", &frmMain::tbBaseWidth, {" ft", " m"}};
+  const Row right{"Right Side Slope", &frmMain::tbSSR, {":1", ":1"}};
+  const Row left{"Left Side Slope", &frmMain::tbSSL, {":1", ":1"}};
+  const Row diameter{"Diameter", &frmMain::tbDiameter, {" in", " mm"}};
+  struct Case {
+    void (frmMain::*Select)();
+    std::vector<Row> Inputs;
+  };
+  for (const bool metric : {false, true}) {
+    if (metric) Main.mnuOptionsUnitsMetric_Click();
+    for (const Case& each : std::initializer_list<Case>{
+             {&frmMain::mnuOptionsCircular_Click, {flow, depth, slope, n, diameter}},
+             {&frmMain::mnuOptionsRect_Click, {flow, depth, slope, n, width}},
+             {&frmMain::mnuOptionsTrap_Click, {flow, depth, slope, n, width, right, left}},
+             {&frmMain::mnuOptionsTriangular_Click, {flow, depth, slope, n, right, left}}}) {
+      Type(Main.tbBaseWidth, "10");
+      (Main.*each.Select)();
+      if (ChannelState.ChannelType != ChannelTypes::Rectangular) {
+        Type(Main.tbSSR, "2");
+        Type(Main.tbSSL, "1.5");
+      }
+      ASSERT_TRUE(Main.mnuFilePrint.Enabled) << ChannelState.ChannelType;
+      Fakes.printerDialog.Answers = {true};
+      Main.mnuFilePrint_Click();
+      const int resultsTop = 2008 + 230 * static_cast<int>(each.Inputs.size() + 1);
+      EXPECT_THAT(Paper.TakeCalls(), ElementsAreArray(Head() + Body + Rows(2008, each.Inputs) +
+                                                      Results(resultsTop) + Foot() + Calls{"end"}));
+    }
+  }
+  EXPECT_EQ(Fakes.printerDialog.Requests[0].Title, "Print");
+  EXPECT_FALSE(Fakes.printerDialog.Requests[0].Landscape);
+}
+
+TEST_P(Report, OfASectionHasItsPointsInFours) {
+  struct Case {
+    int Points, Lines;
+  };
+  for (const auto& [points, lines] : std::initializer_list<Case>{{2, 1}, {4, 1}, {5, 2}, {100, 25}}) {
+    TypeSection(points);
+    for (const int height : {15840, 16838}) {
+      UsePaper(height == 15840 ? 12240 : 11906, height);
+      Fakes.printerDialog.Answers = {true};
+      Main.mnuFilePrint_Click();
+      for (const FakePrinter::PrintedText& text : Paper.Texts) {
+        EXPECT_TRUE(text.Y >= height - 1708 || text.Y + 230 <= height - 1808) << text.Text;
+      }
+      EXPECT_THAT(Paper.TakeCalls(),
+                  ElementsAreArray(Head() + Body + Rows(2008, SectionRows) + PointHeads(2698) +
+                                   Points(2928, 1, points) + Results(2928 + 230 * (lines + 1)) + Foot() +
+                                   Calls{"end"}))
+          << points;
+    }
+  }
+}
+
+TEST_P(Report, GoesOnOnAnotherPageWhereTheFooterIsInTheWay) {
+  TypeSection(100);
+  UsePaper(15840, 12240);  // the 9 results would end at 10978, the rule is at 10432
+  Main.mnuFilePrint_Click();
+  ASSERT_EQ(Pages(), 2);
+  EXPECT_THAT(Page(2), ElementsAreArray(Head() + Body + Results(2008) + Foot()));
+
+  Paper.TakeCalls();
+  UsePaper(12240, 8000);  // the rule is at 6192: the 14th line of points ends at 6148
+  Fakes.printerDialog.Answers = {true};
+  Main.mnuFilePrint_Click();
+  ASSERT_EQ(Pages(), 3);
+  EXPECT_THAT(Page(1), ElementsAreArray(Head() + Body + Rows(2008, SectionRows) + PointHeads(2698) +
+                                        Points(2928, 1, 56) + Foot()));
+  EXPECT_THAT(Page(2), ElementsAreArray(Head() + Body + PointHeads(2008) + Points(2238, 57, 100) + Foot()));
+  EXPECT_THAT(Page(3), ElementsAreArray(Head() + Body + Results(2008) + Foot()));
+}
+
+TEST_P(Report, NamesTheProjectEvenWithoutAnInput) {
+  Main.tbProjName.Text = "";
+  Declarations::FilePath = "/home/me/Mill.fwd";
+  All.Main.EnablePrint(true);
+  Main.mnuFilePrint_Click();
+  EXPECT_EQ(Paper.Calls[1], "text 1152 1008 ");
+  EXPECT_THAT(Paper.Calls, testing::Contains("text 1152 14132 /home/me/Mill.fwd    2026-03-09"));
+}
+
+TEST_P(Report, CancelledPrintsNothingAndAFailureIsTold) {
+  TypeRectangle();
+  Fakes.printerDialog.Answers = {false, true};
+  Main.mnuFilePrint_Click();
+  EXPECT_THAT(Paper.Calls, IsEmpty());
+  EXPECT_THAT(Fakes.messageBox.Boxes, IsEmpty());
+  Paper.Works = false;
+  Main.mnuFilePrint_Click();
+  ASSERT_EQ(Fakes.messageBox.Boxes.size(), 1U);
+  EXPECT_EQ(Fakes.messageBox.Boxes[0].Text, "The pages cannot be printed.");
+}
+
+TEST_P(Report, ThePreviewShowsWhatIsPrinted) {
+  TypeRectangle();
+  Main.mnuFilePrintPreview_Click();
+  EXPECT_THAT(Paper.Calls, IsEmpty());
+  Main.mnuFilePrint_Click();
+  EXPECT_EQ(Fakes.printerDialog.Screen.Calls, Paper.Calls);
+}
+
+INSTANTIATE_LOCALES(Report);
+
+}  // namespace
