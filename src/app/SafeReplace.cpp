@@ -29,7 +29,7 @@ fs::path FollowLinks(fs::path path) {
 }
 
 bool IsWritableFile(const fs::path& path) {
-  return fs::is_regular_file(path) && access(path.c_str(), W_OK) == 0;
+  return fs::is_regular_file(path) && faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
 /// Locks the file; false when another program holds it, or has given its name away meanwhile. A file system

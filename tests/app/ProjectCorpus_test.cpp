@@ -1,0 +1,27 @@
+// Replays what the fuzzer of project files has kept.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "../../fuzz/ProjectRoundTrip.h"
+
+namespace {
+
+TEST(ProjectCorpus, ComesBackTheSameOrDoesNotOpen) {
+  int files = 0, opened = 0;
+  const auto root = std::filesystem::path(__FILE__).parent_path().parent_path().parent_path();
+  for (const auto& entry : std::filesystem::directory_iterator(root / "fuzz/corpus/project")) {
+    std::ifstream file(entry.path(), std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    for (const NumberLocale& locale : ProjectRoundTrip::Locales)
+      EXPECT_TRUE(ProjectRoundTrip::Holds(bytes, locale)) << entry.path();
+    ++files;
+    opened += ProjectRoundTrip::ParsedOrNothing(ProjectRoundTrip::WithChecksum(bytes)).has_value();
+  }
+  EXPECT_GT(files, 10);
+  EXPECT_GT(opened, 3);
+}
+
+}  // namespace

@@ -1,0 +1,324 @@
+// The bytes of a project file, worked out by hand, and what is and is not read as one.
+#include "app/ProjectFile.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <random>
+#include <stdexcept>
+#include <utility>
+
+#include "app/TextEncoding.h"
+#include "app/Version.h"
+#include "engine/ChannelState.h"
+#include "engine/NumberText.h"
+
+namespace {
+
+using ProjectFile::Project;
+
+const NumberLocale Point{".", ","}, Comma{",", "."}, NoBreak{",", "\u202F"}, Apostrophe{".", "'"},
+    Ungrouped{",", ""};
+
+class ProjectFileTest : public testing::Test {
+ protected:
+  ~ProjectFileTest() override { SetNumberLocale({}); }
+};
+
+Project Sample() {
+  return {"100.5",    "",    ".03125",
+          "0.015625", "abc", "5",
+          "2",        "1e1", "Trapezoidal Channel",
+          false,      1,     "12\" pipe,\r\nupper",
+          4,          2,     {{"0", "10.5", ".5"}, {25.25, "8 m", ""}}};
+}
+
+/// The records of Sample without the checksum, line ends included.
+std::string SampleRecords(const std::string& version) {
+  return "\"Flumewise\"\r\n\"Flumewise\"\r\n\"" + version +
+         "\"\r\n\"100.5\"\r\n\"\"\r\n\".03125\"\r\n\"0.015625\"\r\n\"abc\"\r\n\"5\"\r\n\"2\"\r\n\"1e1\"\r\n"
+         "\"Trapezoidal Channel\"\r\n#FALSE#\r\n1\r\n\"12\"\" pipe,\r\nupper\"\r\n4\r\n2\r\n2\r\n"
+         "\"0\",\"10.5\",\".5\"\r\n25.25,\"8 m\",\"\"\r\n";
+}
+
+/// With version 1.25, all exact in binary: 1.25 + 100.5 + .03125 + .015625 + 5 + 2 + 10 = 118.796875 of the
+/// inputs,
+/// + 1 (units) + 12 (name) + 4 + 2 + 2 (count) = 139.796875, + 10.5 + .5 + 25.25 + 8 of the points.
+std::string SampleFile() {
+  return SampleRecords("1.25") + "184.046875\r\n";
+}
+
+std::string Replaced(std::string text, const std::string& part, const std::string& with) {
+  const size_t at = text.find(part);
+  EXPECT_NE(at, std::string::npos) << part;
+  return text.replace(at, part.size(), with);
+}
+
+bool Opens(const std::string& bytes) {
+  try {
+    ProjectFile::Parse(bytes);
+    return true;
+  } catch (const std::runtime_error&) {
+    return false;
+  }
+}
+
+TEST_F(ProjectFileTest, IsWrittenByteForByte) {
+  const std::string version =
+      std::to_string(VersionMajor) + "." + std::to_string(VersionMinor) + std::to_string(VersionRevision);
+  double sum = 0;
+  std::from_chars(version.data(), version.data() + version.size(), sum);
+  for (const double value : {100.5, .03125, 0.015625, 5., 2., 10., 1., 12., 4., 2., 2., 10.5, .5, 25.25, 8.})
+    sum += value;
+  std::array<char, 32> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), sum);
+  EXPECT_EQ(ProjectFile::Format(Sample()),
+            SampleRecords(version) + std::string(digits.data(), end.ptr) + "\r\n");
+}
+
+TEST_F(ProjectFileTest, IsReadAsWritten) {
+  EXPECT_EQ(ProjectFile::Parse(SampleFile()), Sample());
+}
+
+TEST_F(ProjectFileTest, IsReadHoweverItIsLaidOut) {
+  std::string unixLines = Replaced(SampleFile(), "pipe,\r\n", "pipe,@");
+  std::erase(unixLines, '\r');
+  const std::array sameProject = {
+      "\xEF\xBB\xBF" + Replaced(SampleFile(), "Flumewise", "Flume, wise"),
+      Replaced(unixLines, "@", "\r\n"),
+      Replaced(SampleFile(), "\"5\"\r\n\"2\"\r\n", " \"5\"\t , \"2\" \r\n"),
+      Replaced(SampleFile(), "\r\n25.25,", "\r\n\r\n25.25,\r\n"),
+      SampleFile() + "\r\n",
+      Replaced(SampleFile(), "\"\"\r\n184", "\"\",\"last surveyed\"\r\n1000,\r\n1184"),  // extra items
+      Replaced(SampleFile(), "\"100.5\"", "100.5"),
+  };
+  for (const std::string& bytes : sameProject) EXPECT_EQ(ProjectFile::Parse(bytes), Sample()) << bytes;
+}
+
+TEST_F(ProjectFileTest, IsRefusedWhenBroken) {
+  struct Case {
+    const char *Part, *With, *Checksum;
+  };
+  for (const auto& [part, with, checksum] : std::initializer_list<Case>{
+           {"", "", "184.04687500000003"},  // the next double
+           {"", "", "\"184.046875\""},
+           {"", "", ""},
+           {"", "", "184.046875,0"},
+           {"Trapezoidal", "Hexagonal", "184.046875"},
+           {"Trapezoidal", "trapezoidal", "184.046875"},
+           {"#FALSE#", "\"#FALSE#\"", "184.046875"},
+           {"#FALSE#", "False", "184.046875"},
+           {"#FALSE#", "0", "184.046875"},
+           {"#\r\n1", "#\r\n2", "185.046875"},  // units
+           {"#\r\n1", "#\r\n-1", "182.046875"},
+           {"#\r\n1", "#\r\n1.0", "184.046875"},
+           {"#\r\n1", "#\r\n\"1\"", "184.046875"},
+           {"4\r\n2\r\n2", "4.0\r\n2\r\n2", "184.046875"},  // digits and point count
+           {"4\r\n2\r\n2", "4\r\n\"2\"\r\n2", "184.046875"},
+           {"4\r\n2\r\n2", "4\r\n2\r\n\"2\"", "184.046875"},
+           {"4\r\n2\r\n2", "4\r\n2\r\n3", "185.046875"},
+           {"4\r\n2\r\n2", "4\r\n2\r\n-1", "181.046875"},
+           {"4\r\n2\r\n2", "4\r\n2\r\n99999999999", "100000000181.046875"},
+           {",\"\"\r\n", "\r\n", "184.046875"},  // a cell is missing
+           {"\"8 m\"", "\"8 m", "184.046875"},
+           {"\"8 m\"", "\"8 m\"x", "184.046875"},
+       }) {
+    const std::string records = Replaced(SampleRecords("1.25"), part, with);
+    EXPECT_FALSE(Opens(records + checksum + "\r\n")) << records << checksum;
+  }
+  for (const char* bytes : {"", "\xEF\xBB\xBF", "0", "\"", "\r\n", ","}) EXPECT_FALSE(Opens(bytes));
+}
+
+TEST_F(ProjectFileTest, IsRefusedWhenCutOffAnywhere) {
+  const std::string whole = SampleFile();
+  for (size_t size = 0; size < whole.size() - 2; ++size) EXPECT_FALSE(Opens(whole.substr(0, size))) << size;
+  EXPECT_TRUE(Opens(whole.substr(0, whole.size() - 2)));  // but for the last line end nothing is missing
+}
+
+TEST_F(ProjectFileTest, IsRefusedWhenAnyDigitHasChanged) {
+  // Other letters of a text are no part of the checksum: they read as they stand.
+  const std::string whole = SampleFile();
+  for (size_t at = 0; at < whole.size(); ++at) {
+    if (whole[at] < '0' || whole[at] > '9') continue;
+    std::string changed = whole;
+    changed[at] = whole[at] == '9' ? '8' : static_cast<char>(whole[at] + 1);
+    EXPECT_FALSE(Opens(changed)) << at;
+  }
+}
+
+TEST_F(ProjectFileTest, HoldsNoMoreThanItsLimits) {
+  Project project = Sample();
+  project.Points.assign(101, {1.5, "2", ""});
+  EXPECT_EQ(ProjectFile::Parse(ProjectFile::Format(project)).Points.size(), 101u);
+  project.Points.push_back({});
+  EXPECT_FALSE(Opens(ProjectFile::Format(project)));
+
+  std::string extra;  // Sample has 24 items and the checksum
+  for (int i = 0; i < 575; ++i) extra += "\"x\"\r\n";
+  EXPECT_TRUE(Opens(SampleRecords("1.25") + extra + "184.046875"));
+  EXPECT_FALSE(Opens(SampleRecords("1.25") + extra + "\"x\",184.046875"));
+
+  project = Sample();
+  const size_t rest = ProjectFile::Format(project).size();
+  project.ProjName.append((size_t{4} << 20) - rest, 'x');
+  EXPECT_TRUE(Opens(ProjectFile::Format(project)));
+  project.ProjName += 'x';
+  EXPECT_FALSE(Opens(ProjectFile::Format(project)));
+}
+
+TEST_F(ProjectFileTest, ReadsOtherDigitsAsTheirDefault) {
+  const Project read =
+      ProjectFile::Parse(Replaced(SampleRecords("1.25"), "4\r\n2\r\n2", "0\r\n6\r\n2") + "184.046875\r\n");
+  EXPECT_EQ(read.SigDigs, 3);
+  EXPECT_EQ(read.EngDigs, 3);
+}
+
+TEST_F(ProjectFileTest, CountsWhatOverflowsAsNothing) {
+  Project project = Sample();
+  project.Flow = "1e999";
+  project.Depth = project.Slope = "1.7e308";
+  EXPECT_EQ(ProjectFile::Parse(ProjectFile::Format(project)), project);
+  EXPECT_TRUE(ProjectFile::Format(project).ends_with("\r\n1.7e+308\r\n"));
+}
+
+TEST_F(ProjectFileTest, ReadsBytesThatAreNoUtf8AsWindows1252) {
+  struct Case {
+    const char *Bytes, *Text;
+  };
+  for (const auto& [bytes, text] : std::initializer_list<Case>{
+           {"Stra\xDF"
+            "e \x80\x9F",
+            "Stra\u00DFe \u20AC\u0178"},
+           {"\xA0\xBF\xC0\xFF", "\u00A0\u00BF\u00C0\u00FF"},
+           {"\xC2\xA0\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xF0\x90\x80\x80\xF4\x8F\xBF\xBF",
+            "\u00A0\u0800\uD7FF\uE000\U00010000\U0010FFFF"},
+           {"\xC0\x80", "\u00C0\u20AC"},                      // a longer spelling than needed
+           {"\xE0\x9F\x80", "\u00E0\u0178\u20AC"},            // likewise
+           {"\xED\xA0\x80", "\u00ED\u00A0\u20AC"},            // a surrogate
+           {"\xF4\x90\x80\x80", "\u00F4\u0090\u20AC\u20AC"},  // beyond the last character
+           {"\xE2\x82", "\u00E2\u201A"},                      // cut off
+           {"\xE2\x82z", "\u00E2\u201Az"},
+       }) {
+    EXPECT_EQ(DecodedText(bytes), text);
+    EXPECT_EQ(ProjectFile::Parse(Replaced(SampleFile(), "upper", bytes)).ProjName,
+              Replaced(Sample().ProjName, "upper", text));
+  }
+}
+
+TEST_F(ProjectFileTest, SpeaksTheSameNumbersInEveryLocale) {
+  struct Case {
+    NumberLocale Locale;
+    const char *Typed, *InFile, *Back;
+  };
+  for (const auto& [locale, typed, inFile, back] : std::initializer_list<Case>{
+           {Point, "1,234.50", "1,234.50", "1,234.50"},
+           {Comma, "1.234,50", "1,234.50", "1.234,50"},
+           {Comma, " -,5e-3\t", " -.5e-3\t", " -,5e-3\t"},
+           {Comma, "1.234", "1,234", "1.234"},
+           {Comma, "7", "7", "7"},
+           {Comma, "1.5", "1.5", "1.5"},  // from here no numbers in their locale
+           {Comma, "1,234.5", "1,234.5", "1,234.5"},
+           {Comma, "12,5 m", "12,5 m", "12,5 m"},
+           {NoBreak, "1.5", "1.5", "1.5"},
+           {NoBreak, "1\u202F234\u202F567,8 ", "1,234,567.8 ", "1\u202F234\u202F567,8 "},
+           {NoBreak, "1 234,5", "1,234.5", "1\u202F234,5"},
+           {Apostrophe, "1'234.5", "1,234.5", "1'234.5"},
+           {Apostrophe, "1,234.5", "1,234.5", "1,234.5"},
+           {Ungrouped, "1234,5", "1234.5", "1234,5"},
+           {Ungrouped, "1,234", "1.234", "1,234"},
+       }) {
+    SetNumberLocale(locale);
+    Project project = Sample();
+    project.SideSlopeLeft = typed;
+    project.Points[1][2] = typed;
+    project.ProjName = "1,5";
+    const std::string bytes = ProjectFile::Format(project);
+    const std::string quoted = "\"" + std::string(inFile) + "\"\r\n";
+    EXPECT_NE(bytes.find(quoted + "\"Trapezoidal"), std::string::npos) << bytes;
+    EXPECT_NE(bytes.find("25.25,\"8 m\"," + quoted), std::string::npos) << bytes;
+    const Project read = ProjectFile::Parse(bytes);
+    EXPECT_EQ(read.SideSlopeLeft, back);
+    EXPECT_EQ(read.Points[1][2], EngineValue(back));
+    EXPECT_EQ(read.ProjName, "1,5");
+  }
+}
+
+TEST_F(ProjectFileTest, TravelsBetweenLocales) {
+  SetNumberLocale(Comma);
+  Project project = Sample();
+  project.Flow = "1.234,5";
+  project.Slope = "0.001";  // typed by mistake: no number here
+  const std::string german = ProjectFile::Format(project);
+  SetNumberLocale(Point);
+  const Project american = ProjectFile::Parse(german);
+  EXPECT_EQ(american.Flow, "1,234.5");
+  EXPECT_EQ(american.Slope, "0.001");
+  const std::string again = ProjectFile::Format(american);
+  for (const auto& [locale, flow] :
+       {std::pair(Comma, "1.234,5"), {NoBreak, "1\u202F234,5"}, {Ungrouped, "1234,5"}}) {
+    SetNumberLocale(locale);
+    EXPECT_EQ(ProjectFile::Parse(again).Flow, flow);
+  }
+}
+
+/// Texts as people type them and as they never would, by chance.
+class Typist {
+ public:
+  explicit Typist(NumberLocale locale) : locale_(std::move(locale)) {}
+
+  Project Next() {
+    Project project{Text(), Text(),        Text(),   Text(), Text(),       Text(),       Text(), Text(),
+                    "",     Below(2) == 0, Below(2), Text(), Below(5) + 1, Below(5) + 1, {}};
+    project.ChannelType = ChannelTypes::All[static_cast<size_t>(Below(5))];
+    project.Points.resize(static_cast<size_t>(Below(102)));
+    for (auto& point : project.Points) {
+      for (EngineValue& cell : point)
+        cell = Below(4) == 0 ? EngineValue(std::ldexp(Below(1 << 30), Below(200) - 130)) : Text();
+    }
+    return project;
+  }
+
+ private:
+  int Below(int bound) { return std::uniform_int_distribution(0, bound - 1)(random_); }
+
+  std::string Digits(int count) {
+    std::string digits;
+    while (count-- > 0) digits += static_cast<char>('0' + Below(10));
+    return digits;
+  }
+
+  std::string Text() {
+    if (Below(2) == 0) {
+      std::string number = Digits(Below(3) + 1);
+      while (Below(3) == 0) number += locale_.GroupSeparator + Digits(3);
+      return Below(2) == 0 ? number : number + locale_.DecimalSign + Digits(Below(4));
+    }
+    const std::array pieces = {"0",  "1",    "12", "345", ".", ",", "e",  "-",     "+",
+                               "\"", "\r\n", "\t", "#",   "'", "x", "&H", "\u20AC"};
+    std::string text;
+    for (int count = Below(8); count > 0; --count)
+      text += pieces[static_cast<size_t>(Below(int{pieces.size()}))];
+    return text;
+  }
+
+  std::mt19937 random_{20250131};
+  NumberLocale locale_;
+};
+
+TEST_F(ProjectFileTest, ComesBackAsTypedInEveryLocale) {
+  for (const NumberLocale& locale : {Point, Comma, NoBreak, Apostrophe, Ungrouped}) {
+    SetNumberLocale(locale);
+    Typist typist(locale);
+    for (int i = 0; i < 300; ++i) {
+      const Project project = typist.Next();
+      const std::string bytes = ProjectFile::Format(project);
+      const Project read = ProjectFile::Parse(bytes);
+      ASSERT_EQ(read, project) << bytes;
+      ASSERT_EQ(ProjectFile::Format(read), bytes);
+    }
+  }
+}
+
+}  // namespace
