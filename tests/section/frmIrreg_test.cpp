@@ -4,8 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
 
 #include "app/Declarations.h"
 #include "app/WholeFile.h"
@@ -35,7 +35,14 @@ class PointEditor : public LocaleTest {
   void Select(GridBlock block) { grid_.Selection = block; }
   void Copied(const std::string& text) { fakes_.clipboard.SetText(text); }
 
-  const std::string file_ = testing::TempDir() + "point_editor_test.csv";
+  /// A file of each test's own: they may run at the same time.
+  static std::string FileOfThisTest() {
+    std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+    std::ranges::replace(name, '/', '_');
+    return testing::TempDir() + "points_" + name + ".csv";
+  }
+
+  const std::string file_ = FileOfThisTest();
   FakeServices fakes_;
   NoWindows windows_;
   frmIrreg editor_;
