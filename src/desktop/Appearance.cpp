@@ -16,6 +16,10 @@ bool IsDark(const QPalette& palette) {
          palette.color(QPalette::Active, QPalette::WindowText).lightness();
 }
 
+QPalette Paper() {
+  return QPalette(QColor(Qt::white));
+}
+
 QColor Mixed(const QColor& base, const QColor& tint, double share) {
   const auto mix = [share](int from, int to) { return static_cast<int>(from + share * (to - from)); };
   return {mix(base.red(), tint.red()), mix(base.green(), tint.green()), mix(base.blue(), tint.blue())};

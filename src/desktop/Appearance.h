@@ -9,6 +9,9 @@ namespace Appearance {
 
 bool IsDark(const QPalette& palette);
 
+/// Black on white, for pictures that leave the screen.
+QPalette Paper();
+
 /// `share` (0 to 1) of `tint` over `base`.
 QColor Mixed(const QColor& base, const QColor& tint, double share);
 

@@ -2,12 +2,16 @@
 #include "desktop/Bind.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVariant>
 
+#include "desktop/ChartWidget.h"
+#include "desktop/GridTable.h"
 #include "desktop/Text.h"
 
 namespace Bind {
@@ -95,6 +99,36 @@ QListWidget* List(ListBox& list, QWidget* parent) {
   QObject::connect(widget, &QListWidget::itemDoubleClicked, widget, [&list] {
     if (list.DblClick) list.DblClick();
   });
+  return widget;
+}
+
+QComboBox* Combo(ComboBox& list, QWidget* parent) {
+  auto* const widget = Focusable(list, new QComboBox(parent));
+  Join(list.Items, widget, [](QComboBox& w, const std::vector<std::string>& items) {
+    w.clear();
+    for (const std::string& item : items) w.addItem(ToQt(item));
+  });
+  Join(list.ListIndex, widget, [](QComboBox& w, int index) { w.setCurrentIndex(index); });
+  QObject::connect(widget, &QComboBox::activated, widget, [&list](int index) {
+    // The line already chosen is clicked again.
+    if (list.ListIndex == index && list.Click) list.Click();
+    list.ListIndex = index;
+  });
+  return widget;
+}
+
+GridTable* Grid(FlexGrid& grid, QWidget* parent) {
+  return Focusable(grid, new GridTable(grid, parent));
+}
+
+ChartWidget* Chart(XYChart& chart, QWidget* parent) {
+  return Named(chart, new ChartWidget(chart, parent));
+}
+
+QGroupBox* Group(Label& label, QWidget* parent, std::string_view letters) {
+  auto* const widget = Named(label, new QGroupBox(parent));
+  Join(label.Caption, widget,
+       [letters](QGroupBox& w, const std::string& caption) { w.setTitle(WithMnemonic(caption, letters)); });
   return widget;
 }
 

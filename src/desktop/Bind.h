@@ -9,8 +9,14 @@
 
 #include "desktop/BoxEdit.h"
 #include "platform/Controls.h"
+#include "platform/FlexGrid.h"
+#include "platform/XYChart.h"
 
+class ChartWidget;
+class GridTable;
 class QAction;
+class QComboBox;
+class QGroupBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -47,6 +53,11 @@ QLabel* Caption(Label& label, QWidget* parent, std::string_view letters = "");
 QPushButton* Push(Button& button, QWidget* parent, std::string_view letters = "");
 QRadioButton* Option(OptionButton& option, QWidget* parent);
 QListWidget* List(ListBox& list, QWidget* parent);
+QComboBox* Combo(ComboBox& list, QWidget* parent);
+GridTable* Grid(FlexGrid& grid, QWidget* parent);
+ChartWidget* Chart(XYChart& chart, QWidget* parent);
+/// The frame that a label heads.
+QGroupBox* Group(Label& label, QWidget* parent, std::string_view letters = "");
 QAction* Item(MenuItem& item, QWidget* parent, std::string_view letters);
 QAction* Tool(ToolButton& tool, QWidget* parent);
 

@@ -12,13 +12,6 @@ namespace {
 
 enum Column { CaptionColumn, SymbolColumn, BoxColumn, UnitColumn };
 
-/// "m^3/s" as it is printed.
-QString Printed(const std::string& unit) {
-  return ToQt(unit)
-      .replace(QLatin1String("^2"), QStringLiteral("\u00B2"))
-      .replace(QLatin1String("^3"), QStringLiteral("\u00B3"));
-}
-
 QString SymbolText(const FieldPanel::Field& field) {
   const QString symbols = QLatin1String(field.Symbol);
   const bool elevation = field.Caption.Caption.Get().find("WSElev") != std::string::npos;

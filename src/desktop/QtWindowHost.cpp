@@ -7,8 +7,12 @@
 
 #include "desktop/Bind.h"
 #include "desktop/DigitsView.h"
+#include "desktop/GraphSettingsView.h"
+#include "desktop/GraphView.h"
 #include "desktop/MainView.h"
 #include "desktop/MannParamView.h"
+#include "desktop/TableSettingsView.h"
+#include "desktop/TableView.h"
 #include "desktop/Text.h"
 
 namespace {
@@ -19,8 +23,11 @@ QWidget* Make(Form& form, QWidget* parent) {
   return shown == nullptr ? nullptr : new View(*shown, parent);
 }
 
-constexpr QWidget* (*Makers[])(Form&, QWidget*) = {Make<frmMain, MainView>, Make<frmDigits, DigitsView>,
-                                                   Make<frmMannParam, MannParamView>};
+constexpr QWidget* (*Makers[])(Form&, QWidget*) = {
+    Make<frmMain, MainView>,           Make<frmDigits, DigitsView>,
+    Make<frmMannParam, MannParamView>, Make<frmGraphSettings, GraphSettingsView>,
+    Make<frmGraph, GraphView>,         Make<frmTableSettings, TableSettingsView>,
+    Make<frmTable, TableView>};
 
 QWidget* MakeView(Form& form, QWidget* parent) {
   for (const auto make : Makers) {

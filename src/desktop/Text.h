@@ -31,3 +31,10 @@ inline int UnitsIn(const QString& text, int characters) {
   }
   return static_cast<int>(units);
 }
+
+/// A caption or unit as it is printed: "m^3/s" with its exponent raised.
+inline QString Printed(std::string_view text) {
+  return ToQt(text)
+      .replace(QLatin1String("^2"), QStringLiteral("\u00B2"))
+      .replace(QLatin1String("^3"), QStringLiteral("\u00B3"));
+}

@@ -1,0 +1,61 @@
+// Draws the points of an XYChart with axes, ticks and grid: the one painter for screen, clipboard, files and
+// paper.
+#pragma once
+
+#include <qcustomplot.h>
+
+#include "platform/XYChart.h"
+
+class ChartPlot : public QCustomPlot {
+ public:
+  ChartPlot(const XYChart& chart, QWidget* parent);
+
+  /// Takes the points and titles of the chart as they are now and shows them whole.
+  void Load();
+  /// Colours from here on; the fonts are the plot's own.
+  void SetColours(const QPalette& colours);
+  /// Values that are not above 0 have no place on logarithmic axes; Points() leaves them out.
+  void SetLogarithmic(bool logarithmic);
+  bool IsLogarithmic() const { return xAxis->scaleType() == QCPAxis::stLogarithmic; }
+  void ShowWhole();
+  /// Zooms in by `steps`, out when they are negative, around a place in pixels. Dragging, the wheel and a
+  /// double click, which shows the whole, do what they do everywhere.
+  void Zoom(double steps, QPointF around);
+  /// The part that another plot of the same chart shows.
+  void ShowAs(const ChartPlot& other);
+  /// Says in words, below the axes, what the marked stretches are.
+  void ShowLegend(const QString& marked);
+
+  /// The points drawn, line after line, each in the order of the chart's rows.
+  const QList<QPointF>& Points() const { return points_; }
+
+  static QPen MarkedPen(const QPalette& palette, double em);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  struct Line {
+    QCPCurve* Curve;
+    QCPCurve* Lonely;  ///< points without a neighbour, which no line would show
+  };
+  QCPCurve* AddCurve();
+  void LoadLine(int pair);
+  void LoadMarked();
+  std::optional<QPointF> PointAt(std::size_t row, int pair) const;
+  QCPRange Whole(bool across) const;
+  void Restyle();
+  /// Where one scale serves both axes, widens the range of the one that has room to spare.
+  void Equalize();
+
+  const XYChart& chart_;
+  QPalette colours_;
+  std::vector<Line> lines_;
+  QCPCurve* marked_ = nullptr;
+  QList<QPointF> points_;
+  bool whole_ = true;  // neither zoomed nor dragged
+  double zoomed_ = 0;  // steps
+};

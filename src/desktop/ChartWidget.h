@@ -1,0 +1,68 @@
+// The widget of a chart: its drawing, of which the points are read off by mouse and keys, and its pictures
+// for other programs.
+#pragma once
+
+#include <QList>
+#include <QWidget>
+#include <string>
+
+#include "platform/XYChart.h"
+
+class ChartPlot;
+class EmptyNote;
+class QAction;
+class QCPItemText;
+class QCPItemTracer;
+
+class ChartWidget : public QWidget {
+ public:
+  ChartWidget(XYChart& chart, QWidget* parent);
+
+  /// Says in words why the chart has no points, and what its marked stretches are.
+  void SetTexts(const QString& whyEmpty, const QString& marked);
+  /// A sample of a marked stretch, to stand before these words.
+  static QWidget* MarkedSample(QWidget* parent);
+
+  /// Commands of the view itself, for a menu: logarithmic axes; then larger, smaller and whole.
+  QAction* LogarithmicAction() const { return logarithmic_; }
+  const QList<QAction*>& ZoomActions() const { return zooms_; }
+
+  /// Draws the part that is shown over `size` pixels of the device, in the colours of a light desktop.
+  void PaintOn(QPaintDevice& device, QSize size) const;
+
+  ChartPlot& Plot() const { return *plot_; }
+  /// The point read off, in words; empty when there is none.
+  QString Reading() const;
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* plot, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void AddReader();
+  void AddActions();
+  QAction* AddCommand(const QString& text, const QKeySequence& key, const std::function<void()>& run);
+  void Load();
+  void Restyle();
+  void Describe();
+  QString Content() const;
+  void Read(qsizetype index);
+  void ReadNear(QPointF place);
+  void BringIntoView(QPointF point);
+  void PlaceReader();
+  void Copy() const;
+  std::string Picture(const std::string& extension) const;
+
+  XYChart& chart_;
+  ChartPlot* plot_;
+  EmptyNote* note_;
+  QCPItemTracer* cross_ = nullptr;
+  QCPItemTracer* ring_ = nullptr;
+  QCPItemText* tag_ = nullptr;
+  QAction* logarithmic_ = nullptr;
+  QList<QAction*> zooms_;
+  QString whyEmpty_, marked_;
+  qsizetype read_ = -1;  // the point read off
+};
