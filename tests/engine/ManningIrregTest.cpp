@@ -184,6 +184,10 @@ TEST_F(ManningIrregTest, Faults) {
     ChannelState.Depth = c.W;
     EXPECT_THROW(ManningIrreg::IrregFlowFromDepth(), EngineFault) << c.what;
   }
+  EXPECT_THROW(ManningIrreg::IrregFlow(Table({{0, 0, 0.03}, {1e200, 1}}), 2, 5, 0.001), EngineFault);
+  // Without a fault these areas would be 0, for want of a segment, and that of a shore taken for the end.
+  EXPECT_THROW(ManningIrreg::IrregArea(Table({{0, 10}}), 1, 12), EngineFault);
+  EXPECT_THROW(ManningIrreg::IrregArea(Table({{0, 1e308}, {1e-3, -1e308}}), 2, 5), EngineFault);
   SetSection(vee, 0.001);
   ChannelState.IrregPointCount = 102;
   EXPECT_THROW(ManningIrreg::IrregFlowFromDepth(), EngineFault);

@@ -7,6 +7,7 @@
 
 #include "Problem.h"
 #include "engine/Bisection.h"
+#include "engine/UniformFlow.h"
 
 namespace {
 
@@ -99,8 +100,8 @@ TEST_F(ManningTrapTest, RandomChannelsByASecondMethod) {
 }
 
 TEST_F(ManningTrapTest, SideSlopesAddUpRightFirst) {
-  EXPECT_EQ(ManningTrap::TrapWettedPerimeter(0.1, 0.3, 2, 3),
-            (0.3 + 0.1 * std::sqrt(10.0)) + 0.1 * std::sqrt(5.0));
+  EXPECT_EQ(ManningTrap::TrapWettedPerimeter(1.3, 1.9, 2, 3),
+            (1.9 + 1.3 * std::sqrt(10.0)) + 1.3 * std::sqrt(5.0));  // the other order differs in the last bit
   EXPECT_EQ(ManningTrap::TrapTopWidth(2, 10, 1, 3), 18);
   EXPECT_EQ(ManningTrap::TrapArea(2, 10, 1, 3), 28);
 }
@@ -162,6 +163,7 @@ TEST_F(ManningTrapTest, Faults) {
   // Sides so flat that their length overflows would make R, and so the flow, a silent 0.
   SetTrapezoid(5, 1e160, 1e160, 0.01, 0.001);
   EXPECT_THROW(ManningTrap::PrismaticDepthFromFlow(), EngineFault);
+  EXPECT_THROW(UniformFlow::SectionFactor(1, infinite), EngineFault);
   EXPECT_THROW(ManningTrap::TrapFroude(1, 0, 1), EngineFault);
 }
 

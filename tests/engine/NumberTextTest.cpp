@@ -42,11 +42,11 @@ void ExpectReadings(const NumberLocale& locale, const std::vector<Reading>& read
 
 TEST_F(NumberText, ReadsPlainForms) {
   ExpectReadings(
-      Point, {{"", false, 0},        {" ", false, 0},         {"7", true, 7},    {" \t12.5\t ", true, 12.5},
-              {".5", true, 0.5},     {"5.", true, 5},         {".", false, 0},   {"-.5", true, -0.5},
-              {"+3", true, 3},       {"- 5", false, 0},       {"--5", false, 0}, {"5-", false, 5},
-              {"1e3", true, 1000},   {"2.5E-2", true, 0.025}, {"1e", false, 1},  {"1e+", false, 1},
-              {"1.5.2", false, 1.5}, {"12 m", false, 12},     {"1 2", false, 1}, {"007", true, 7},
+      Point, {{"", false, 0},        {" ", false, 0},         {"7", true, 7},      {" \t12.5\t ", true, 12.5},
+              {".5", true, 0.5},     {"5.", true, 5},         {".", false, 0},     {"-.5", true, -0.5},
+              {"+3", true, 3},       {"- 5", false, 0},       {"--5", false, 0},   {"5-", false, 5},
+              {"1e3", true, 1000},   {"2.5E-2", true, 0.025}, {"1e", false, 1},    {"1e+", false, 1},
+              {"1.5.2", false, 1.5}, {"12 m", false, 12},     {"1 234", false, 1}, {"007", true, 7},
               {"5\n", false, 5},     {"e5", false, 0},        {"abc", false, 0}});
 }
 
@@ -155,7 +155,7 @@ TEST_F(NumberText, ChecksumNumbersKnowNoLocale) {
   const std::vector<std::pair<std::string, double>> items = {
       {"1.25", 1.25},     {"12 Main St", 12}, {"1 2\t3\n4", 1234},
       {"True", 0},        {"1,5", 1},         {"-.5e1", -5},
-      {"1D2", 100},       {"2d", 2},          {"", 0},
+      {"1D2", 100},       {"2d1", 20},        {"", 0},
       {"1e999", 0},       {"&HFFFF", -1},     {"&hff", 255},
       {"&H8000", -32768}, {"&H10000", 65536}, {"&HFFFFFFFF", -1},
       {"& H D D", 0xDD},  {"&O17", 15},       {"&o177777", -1},
