@@ -36,11 +36,11 @@ QColor OffendingGround(const QPalette& palette) {
 }
 
 QColor Good(const QPalette& palette) {
-  return Either(palette, 0x1E7F3C, 0x6FCF8C);
+  return Either(palette, 0x1A6E34, 0x6FCF8C);
 }
 
 QColor Neutral(const QPalette& palette) {
-  return Either(palette, 0x2A6FB0, 0x7DB8EE);
+  return Either(palette, 0x235F98, 0x7DB8EE);
 }
 
 QColor Bad(const QPalette& palette) {
@@ -58,6 +58,13 @@ QColor WaterSurface(const QPalette& palette) {
 QColor Earth(const QPalette& palette) {
   return Mixed(palette.color(QPalette::Active, QPalette::Base), QColor(0x96, 0x6E, 0x3C),
                IsDark(palette) ? 0.22 : 0.16);
+}
+
+QColor Stretch(const QPalette& palette, int number) {
+  constexpr QRgb Tints[] = {0xC77D0A, 0x2E8B57, 0x8E5BB5, 0xC44E52, 0x5B7083, 0x9A8B12};
+  constexpr int Count = static_cast<int>(std::size(Tints));
+  return Mixed(palette.color(QPalette::Active, QPalette::Base), QColor(Tints[number % Count]),
+               IsDark(palette) ? 0.75 : 0.65);
 }
 
 }  // namespace Appearance

@@ -28,5 +28,7 @@ QColor Bad(const QPalette& palette);
 QColor Water(const QPalette& palette);
 QColor WaterSurface(const QPalette& palette);
 QColor Earth(const QPalette& palette);
+/// Stretches of a section are told apart by these, from 0 on.
+QColor Stretch(const QPalette& palette, int number);
 
 }  // namespace Appearance

@@ -33,6 +33,9 @@ Widget* Named(Control& control, Widget* widget) {
 template <class Widget>
 Widget* Focusable(FocusControl& control, Widget* widget) {
   widget->setProperty(ControlProperty, QVariant::fromValue(static_cast<void*>(&control)));
+  control.FocusView = [guarded = QPointer<Widget>(widget)] {
+    if (guarded) guarded->setFocus();
+  };
   return Named(control, widget);
 }
 
@@ -76,7 +79,10 @@ QLabel* Caption(Label& label, QWidget* parent, std::string_view letters) {
 
 QPushButton* Push(Button& button, QWidget* parent, std::string_view letters) {
   auto* const widget = Captioned(button, Focusable(button, new QPushButton(parent)), letters);
-  QObject::connect(widget, &QPushButton::clicked, widget, [&button] { Press(button); });
+  QObject::connect(widget, &QPushButton::clicked, widget, [&button, widget] {
+    widget->setFocus();  // its letter presses a button too, and that must end the edit of a box
+    Press(button);
+  });
   return widget;
 }
 
@@ -148,6 +154,10 @@ QAction* Tool(ToolButton& tool, QWidget* parent) {
   auto* const action = Named(tool, new QAction(parent));
   QObject::connect(action, &QAction::triggered, action, [&tool] { Press(tool); });
   return action;
+}
+
+void Adopt(FocusControl& control, QWidget* widget) {
+  Focusable(control, widget);
 }
 
 FocusControl* ControlOf(const QWidget* widget) {

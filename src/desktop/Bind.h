@@ -61,6 +61,9 @@ QGroupBox* Group(Label& label, QWidget* parent, std::string_view letters = "");
 QAction* Item(MenuItem& item, QWidget* parent, std::string_view letters);
 QAction* Tool(ToolButton& tool, QWidget* parent);
 
+/// Makes a widget of another kind that of the control.
+void Adopt(FocusControl& control, QWidget* widget);
+
 /// The control whose widget this is and that can have the keyboard; null for any other widget.
 FocusControl* ControlOf(const QWidget* widget);
 

@@ -10,10 +10,27 @@
 #include "desktop/Appearance.h"
 #include "desktop/Bind.h"
 #include "desktop/Text.h"
+#include "platform/Keys.h"
 
 namespace {
 // A pasted text comes whole, as it does without a screen; Qt's own limit would cut it silently.
 constexpr int LongestText = 4'000'000;
+
+/// The code of a key that a window may handle itself, pressed alone; 0 for any other.
+int KeyCode(const QKeyEvent& event) {
+  constexpr std::pair<Qt::Key, int> Codes[] = {
+      {Qt::Key_Return, Keys::Enter},  {Qt::Key_Enter, Keys::KeypadEnter}, {Qt::Key_Escape, Keys::Escape},
+      {Qt::Key_PageUp, Keys::PageUp}, {Qt::Key_PageDown, Keys::PageDown}, {Qt::Key_Left, Keys::Left},
+      {Qt::Key_Up, Keys::Up},         {Qt::Key_Right, Keys::Right},       {Qt::Key_Down, Keys::Down},
+      {Qt::Key_Delete, Keys::Delete},
+  };
+  if ((event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier)) != Qt::NoModifier) return 0;
+  for (const auto& [key, code] : Codes) {
+    if (event.key() == key) return code;
+  }
+  return 0;
+}
+
 }  // namespace
 
 BoxEdit::BoxEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
@@ -98,6 +115,7 @@ void BoxEdit::focusInEvent(QFocusEvent* event) {
 }
 
 void BoxEdit::keyPressEvent(QKeyEvent* event) {
+  if (box_.KeyDown && box_.KeyDown(KeyCode(*event))) return;
   // Cut in an answer copies it, as the menu does.
   if (isReadOnly() && event->matches(QKeySequence::Cut)) copy();
   QLineEdit::keyPressEvent(event);

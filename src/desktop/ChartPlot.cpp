@@ -98,13 +98,24 @@ std::optional<QPointF> ChartPlot::PointAt(std::size_t row, int pair) const {
   return QPointF(*x, *y);
 }
 
+ChartPlot::Breaking ChartPlot::PointsOf(int pair) const {
+  if (const auto replaced = replaced_.find(pair); replaced != replaced_.end()) return replaced->second;
+  Breaking points;
+  for (std::size_t row = 0; row < chart_.Rows().size(); ++row) points.push_back(PointAt(row, pair));
+  return points;
+}
+
 void ChartPlot::LoadLine(int pair) {
   const Line line{AddCurve(), AddCurve()};
   line.Lonely->setLineStyle(QCPCurve::lsNone);
-  const std::size_t rows = chart_.Rows().size();
-  const auto empty = [&](std::size_t row) { return row >= rows || !PointAt(row, pair); };
-  for (std::size_t row = 0; row < rows; ++row) {
-    const auto point = PointAt(row, pair);
+  if (pair < names_.size()) {
+    line.Curve->setName(names_[pair]);
+    line.Curve->addToLegend();
+  }
+  const Breaking points = PointsOf(pair);
+  const auto empty = [&points](std::size_t row) { return row >= points.size() || !points[row]; };
+  for (std::size_t row = 0; row < points.size(); ++row) {
+    const auto& point = points[row];
     const auto order = static_cast<double>(row);
     line.Curve->addData(order, point ? point->x() : NaN, point ? point->y() : NaN);
     if (!point) continue;
@@ -211,7 +222,7 @@ QPen ChartPlot::MarkedPen(const QPalette& palette, double em) {
   return QPen(Appearance::Bad(palette), 0.2 * em, Qt::DotLine, Qt::RoundCap);
 }
 
-void ChartPlot::ShowLegend(const QString& marked) {
+void ChartPlot::AddLegend() {
   axisRect()->insetLayout()->take(legend);
   auto* const below = new QCPLayoutGrid;
   plotLayout()->addElement(1, 0, below);
@@ -219,7 +230,21 @@ void ChartPlot::ShowLegend(const QString& marked) {
   below->addElement(0, 0, legend);
   below->addElement(0, 1, new QCPLayoutElement);  // takes the rest of the row
   legend->setBorderPen(Qt::NoPen);
+  legend->setFillOrder(QCPLegend::foColumnsFirst);
   legend->setVisible(true);
+}
+
+void ChartPlot::NameLines(const QStringList& names) {
+  if (names_.isEmpty()) AddLegend();
+  names_ = names;
+}
+
+void ChartPlot::ReplaceLine(int pair, Breaking points) {
+  replaced_[pair] = std::move(points);
+}
+
+void ChartPlot::ShowLegend(const QString& marked) {
+  AddLegend();
   marked_->setName(marked);
   marked_->addToLegend();
 }
@@ -251,9 +276,9 @@ void ChartPlot::Restyle() {
   legend->setTextColor(ink);
   legend->setBrush(Qt::NoBrush);
   legend->setIconSize(static_cast<int>(3 * em), static_cast<int>(em));
-  // The last line is the one that the water makes; one before it is the channel itself.
   for (std::size_t i = 0; i < lines_.size(); ++i) {
-    const QColor colour = i + 1 == lines_.size() ? Appearance::WaterSurface(colours_) : ink;
+    const bool isGround = i == 0 && !names_.isEmpty();
+    const QColor colour = isGround ? ink : Appearance::WaterSurface(colours_);
     lines_[i].Curve->setPen(QPen(colour, 0.13 * em, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     lines_[i].Lonely->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, colour, colour, 0.45 * em));
   }

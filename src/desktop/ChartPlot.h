@@ -4,6 +4,10 @@
 
 #include <qcustomplot.h>
 
+#include <map>
+#include <optional>
+#include <vector>
+
 #include "platform/XYChart.h"
 
 class ChartPlot : public QCustomPlot {
@@ -23,11 +27,20 @@ class ChartPlot : public QCustomPlot {
   void Zoom(double steps, QPointF around);
   /// The part that another plot of the same chart shows.
   void ShowAs(const ChartPlot& other);
+  /// Names the lines of a section in words below the axes: its outline, which is drawn as ground, and its
+  /// water.
+  void NameLines(const QStringList& names);
+  /// The points of a line, which breaks where there is none.
+  using Breaking = std::vector<std::optional<QPointF>>;
+  /// Draws these in the place of a line of the chart, by the number of its pair of columns.
+  void ReplaceLine(int pair, Breaking points);
   /// Says in words, below the axes, what the marked stretches are.
   void ShowLegend(const QString& marked);
 
   /// The points drawn, line after line, each in the order of the chart's rows.
   const QList<QPointF>& Points() const { return points_; }
+  Breaking PointsOf(int pair) const;
+  const QPalette& Colours() const { return colours_; }
 
   static QPen MarkedPen(const QPalette& palette, double em);
 
@@ -44,6 +57,7 @@ class ChartPlot : public QCustomPlot {
   };
   QCPCurve* AddCurve();
   void LoadLine(int pair);
+  void AddLegend();
   void LoadMarked();
   std::optional<QPointF> PointAt(std::size_t row, int pair) const;
   QCPRange Whole(bool across) const;
@@ -56,6 +70,8 @@ class ChartPlot : public QCustomPlot {
   std::vector<Line> lines_;
   QCPCurve* marked_ = nullptr;
   QList<QPointF> points_;
+  QStringList names_;
+  std::map<int, Breaking> replaced_;
   bool whole_ = true;  // neither zoomed nor dragged
   double zoomed_ = 0;  // steps
 };

@@ -132,6 +132,12 @@ void ChartWidget::SetTexts(const QString& whyEmpty, const QString& marked) {
   Load();
 }
 
+void ChartWidget::Dress(std::function<void(ChartPlot&)> dress) {
+  dress_ = std::move(dress);
+  dress_(*plot_);
+  Load();
+}
+
 QWidget* ChartWidget::MarkedSample(QWidget* parent) {
   return new Sample(parent);
 }

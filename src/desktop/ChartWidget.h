@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QWidget>
+#include <functional>
 #include <string>
 
 #include "platform/XYChart.h"
@@ -20,6 +21,8 @@ class ChartWidget : public QWidget {
 
   /// Says in words why the chart has no points, and what its marked stretches are.
   void SetTexts(const QString& whyEmpty, const QString& marked);
+  /// Adds to the drawing, on the screen and in every picture of it.
+  void Dress(std::function<void(ChartPlot&)> dress);
   /// A sample of a marked stretch, to stand before these words.
   static QWidget* MarkedSample(QWidget* parent);
 
@@ -63,6 +66,7 @@ class ChartWidget : public QWidget {
   QCPItemText* tag_ = nullptr;
   QAction* logarithmic_ = nullptr;
   QList<QAction*> zooms_;
+  std::function<void(ChartPlot&)> dress_;
   QString whyEmpty_, marked_;
   qsizetype read_ = -1;  // the point read off
 };

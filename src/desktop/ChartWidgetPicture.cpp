@@ -72,6 +72,10 @@ void ChartWidget::PaintOn(QPaintDevice& device, QSize size) const {
   paper.setFont(font());
   paper.SetColours(Appearance::Paper());
   paper.setViewport(QRect({}, size));
+  if (dress_) {
+    dress_(paper);
+    paper.Load();
+  }
   paper.ShowAs(*plot_);
   if (!chart_.Marked.Get().empty()) paper.ShowLegend(marked_);
   QCPPainter painter(&device);

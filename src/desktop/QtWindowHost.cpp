@@ -9,8 +9,10 @@
 #include "desktop/DigitsView.h"
 #include "desktop/GraphSettingsView.h"
 #include "desktop/GraphView.h"
+#include "desktop/IrregView.h"
 #include "desktop/MainView.h"
 #include "desktop/MannParamView.h"
+#include "desktop/SectionView.h"
 #include "desktop/TableSettingsView.h"
 #include "desktop/TableView.h"
 #include "desktop/Text.h"
@@ -27,7 +29,8 @@ constexpr QWidget* (*Makers[])(Form&, QWidget*) = {
     Make<frmMain, MainView>,           Make<frmDigits, DigitsView>,
     Make<frmMannParam, MannParamView>, Make<frmGraphSettings, GraphSettingsView>,
     Make<frmGraph, GraphView>,         Make<frmTableSettings, TableSettingsView>,
-    Make<frmTable, TableView>};
+    Make<frmTable, TableView>,         Make<frmIrreg, IrregView>,
+    Make<frmSection, SectionView>};
 
 QWidget* MakeView(Form& form, QWidget* parent) {
   for (const auto make : Makers) {

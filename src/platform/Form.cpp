@@ -24,11 +24,10 @@ void Form::Unload() {
 
 void Form::MoveFocus(FocusControl& next) {
   if (active_ == &next) return;
-  if (FocusControl* const left = active_) {
-    if (left->Validate && next.CausesValidation()) left->Validate();
-    if (left->LostFocus) left->LostFocus();
-  }
-  active_ = &next;
+  FocusControl* const left = active_;
+  if (left != nullptr && left->Validate && next.CausesValidation()) left->Validate();
+  active_ = &next;  // now: hiding the control that is left moves the keyboard on the screen at once
+  if (left != nullptr && left->LostFocus) left->LostFocus();
   if (next.FocusView) next.FocusView();
   if (next.GotFocus) next.GotFocus();
 }

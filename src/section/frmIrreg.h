@@ -17,10 +17,10 @@ class frmIrreg : public Form {
   MenuItem mnuEditUndo{this, "mnuEditUndo"}, mnuEditRedo{this, "mnuEditRedo"};
   Label Label1{this, "Label1"};
   FlexGrid MSFlexGrid1{this, "MSFlexGrid1"};
-  /// Floats over the current cell while that is being edited. (x, y) from the cell's left top corner and what
-  /// its size lacks of the cell's, in twips:
+  /// Floats over the current cell while that is being edited; smaller than the cell, so that its frame is seen,
+  /// by these twips.
   TextBox tbSel{this, "tbSel"};
-  static constexpr int EditLeft = 90, EditTop = 60, EditNarrower = 60, EditLower = 30;
+  static constexpr int EditNarrower = 60, EditLower = 30;
   XYChart MSChart1{this, "MSChart1"};
   Button cmdCopy{this, "cmdCopy"}, cmdPaste{this, "cmdPaste"}, cmdIns{this, "cmdIns"}, cmdDel{this, "cmdDel"},
       cmdOK{this, "cmdOK"}, cmdCancel{this, "cmdCancel"};
