@@ -13,6 +13,7 @@
 #include "engine/ChannelState.h"
 #include "support/FakeServices.h"
 #include "support/LocaleTest.h"
+#include "support/TestFolder.h"
 
 namespace {
 
@@ -90,18 +91,10 @@ class Preferences : public testing::Test {
     Declarations::Reset();
     SettingsFile::Use(path_);
   }
-  ~Preferences() override {
-    SettingsFile::Use("");
-    std::filesystem::remove_all(top_);
-  }
-
-  static std::filesystem::path NewFolder() {
-    std::string pattern = testing::TempDir() + "preferences-XXXXXX";
-    return mkdtemp(pattern.data());
-  }
+  ~Preferences() override { SettingsFile::Use(""); }
 
   void Write(const std::string& text) {
-    std::filesystem::create_directories(top_ / "deep");
+    std::filesystem::create_directories(top_.Path() / "deep");
     std::ofstream(path_, std::ios::binary) << text;
   }
   std::string Written() {
@@ -117,8 +110,8 @@ class Preferences : public testing::Test {
     EXPECT_EQ(Declarations::UserPath, "c:\\");
   }
 
-  std::filesystem::path top_ = NewFolder();
-  std::string path_ = (top_ / "deep" / "settings.ini").string();
+  TestFolder top_;
+  std::string path_ = (top_.Path() / "deep" / "settings.ini").string();
 };
 
 TEST_F(Preferences, DefaultsWhereNothingUsableIsStored) {

@@ -3,32 +3,25 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 #include "app/Version.h"
+#include "support/TestFolder.h"
 
 namespace {
 
 /// An empty folder to work in while it lives, so that a conversation can save and open "./name.fwd".
 class WorkingFolder {
  public:
-  WorkingFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "conversation-XXXXXX").string();
-    folder_ = mkdtemp(pattern.data());
-    std::filesystem::current_path(folder_);
-  }
-  ~WorkingFolder() {
-    std::filesystem::current_path(before_);
-    std::filesystem::remove_all(folder_);
-  }
+  WorkingFolder() { std::filesystem::current_path(folder_.Path()); }
+  ~WorkingFolder() { std::filesystem::current_path(before_); }
   WorkingFolder(const WorkingFolder&) = delete;
   WorkingFolder& operator=(const WorkingFolder&) = delete;
 
  private:
   std::filesystem::path before_ = std::filesystem::current_path();
-  std::filesystem::path folder_;
+  TestFolder folder_;
 };
 
 bool IsDigit(char c) {

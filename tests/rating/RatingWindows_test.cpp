@@ -10,6 +10,7 @@
 #include "rating/frmGraphSettings.h"
 #include "rating/frmTable.h"
 #include "rating/frmTableSettings.h"
+#include "support/TestFolder.h"
 
 namespace {
 
@@ -82,14 +83,12 @@ TEST_P(RatingWindows, TheGraphMarksWhereTheFlowFalls) {
 
 class RatingExport : public RatingWindows {
  protected:
-  RatingExport() { std::filesystem::create_directories(folder_); }
-  ~RatingExport() override { std::filesystem::remove_all(folder_); }
-  std::string Path(const char* name) { return (folder_ / name).string(); }
+  std::string Path(const char* name) { return (folder_.Path() / name).string(); }
   static std::string Content(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  std::filesystem::path folder_ = std::filesystem::path(testing::TempDir()) / "flumewise-export";
+  TestFolder folder_;
 };
 
 TEST_P(RatingExport, TheTableIsWrittenUnrounded) {

@@ -1,0 +1,26 @@
+// A folder of its own for each test: tests run side by side.
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+/// Empty when made, gone with the object.
+class TestFolder {
+ public:
+  TestFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "flumewise-XXXXXX").string();
+    path_ = mkdtemp(pattern.data());
+  }
+  ~TestFolder() {
+    std::error_code error;
+    std::filesystem::remove_all(path_, error);
+  }
+  TestFolder(const TestFolder&) = delete;
+  TestFolder& operator=(const TestFolder&) = delete;
+
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
