@@ -272,7 +272,7 @@ class Typist {
     Project project{Text(), Text(),        Text(),   Text(), Text(),       Text(),       Text(), Text(),
                     "",     Below(2) == 0, Below(2), Text(), Below(5) + 1, Below(5) + 1, {}};
     project.ChannelType = ChannelTypes::All[static_cast<size_t>(Below(5))];
-    project.Points.resize(static_cast<size_t>(Below(102)));
+    project.Points.resize(static_cast<size_t>(Below(10)));
     for (auto& point : project.Points) {
       for (EngineValue& cell : point)
         cell = Below(4) == 0 ? EngineValue(std::ldexp(Below(1 << 30), Below(200) - 130)) : Text();
