@@ -122,7 +122,7 @@ TEST_P(RatingExport, AFailureIsToldAndLeavesNothing) {
   for (const auto& box : Fakes.messageBox.Boxes) EXPECT_EQ(box.Title, "Flumewise");
   EXPECT_THAT(Fakes.messageBox.Boxes[0].Text, HasSubstr("Cannot write " + Path("missing/table.csv")));
   EXPECT_EQ(Content(Path("graph.PNG")), "picture as png");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_), {}), 1);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.Path()), {}), 1);
 }
 
 INSTANTIATE_LOCALES(RatingWindows);
