@@ -17,8 +17,8 @@ class frmIrreg : public Form {
   MenuItem mnuEditUndo{this, "mnuEditUndo"}, mnuEditRedo{this, "mnuEditRedo"};
   Label Label1{this, "Label1"};
   FlexGrid MSFlexGrid1{this, "MSFlexGrid1"};
-  /// Floats over the current cell while that is being edited; smaller than the cell, so that its frame is seen,
-  /// by these twips.
+  /// Floats over the current cell while that is being edited; smaller than the cell, so that its frame is
+  /// seen, by these twips.
   TextBox tbSel{this, "tbSel"};
   static constexpr int EditNarrower = 60, EditLower = 30;
   XYChart MSChart1{this, "MSChart1"};
