@@ -81,11 +81,15 @@ void FieldPanel::AddUnderBox(QWidget* widget) {
 
 void FieldPanel::KeepRoom(const QStringList& units) {
   int captionWidth = 0;
+  int symbolWidth = fontMetrics().horizontalAdvance(QStringLiteral("Wc"));  // comes and goes with its caption
   for (int row = 1; row < Row(); ++row) {
     if (const QLayoutItem* const item = grid_->itemAtPosition(row, CaptionColumn)) {
       captionWidth = std::max(captionWidth, item->widget()->sizeHint().width());
+      const QWidget* const symbol = grid_->itemAtPosition(row, SymbolColumn)->widget();
+      symbolWidth = std::max(symbolWidth, symbol->sizeHint().width());
     }
   }
+  grid_->setColumnMinimumWidth(SymbolColumn, symbolWidth);
   int unitWidth = 0;
   for (const QString& unit : units) {
     unitWidth = std::max(unitWidth, fontMetrics().horizontalAdvance(Printed(FromQt(unit))));

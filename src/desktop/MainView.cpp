@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
+#include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -186,4 +187,12 @@ void MainView::PlaceOnScreen() {
   const int em = fontMetrics().height();
   const QSize room = screen()->availableSize() - QSize(em / 2, 2 * em);
   resize(QSize(76 * em, 46 * em).boundedTo(room));
+}
+
+void MainView::resizeEvent(QResizeEvent* event) {
+  // The texts go below their icons before a tool is hidden for want of room.
+  auto* const bar = findChild<QToolBar*>();
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  if (bar->sizeHint().width() > width()) bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  QMainWindow::resizeEvent(event);
 }

@@ -16,6 +16,9 @@ class MainView : public QMainWindow {
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void AddMenus();
   void AddTools();

@@ -68,7 +68,7 @@ void MainView::AddMenus() {
             {&frmMain::mnuFilePrintPreview, "v"},
             {Separator},
             {&frmMain::mnuFileExit, "x", QKeySequence::Quit}});
-  // A text box takes these keys itself, with its own history of edits; the shortcuts tell of them.
+  // A text box that can be edited takes these keys itself, with its own history of edits.
   MakeMenu(form_, bar, "&Edit",
            {{&frmMain::mnuEditCut, "t", QKeySequence::Cut},
             {&frmMain::mnuEditCopy, "c", QKeySequence::Copy},

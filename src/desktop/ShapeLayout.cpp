@@ -37,12 +37,16 @@ class Layout {
     return label.Symbol.isEmpty() ? 0 : SizeOf(label, font_).width();
   }
 
-  /// Scales the shape into what the labels leave of the canvas.
+  /// Scales the shape into what the labels leave of the canvas. Usual numbers fit where only symbols stand,
+  /// so that the drawing does not jump when they come.
   void Map() {
+    const auto roomFor = [this](const ShapeLabel& label, const char* usual) {
+      return std::max(Width(label), font_.horizontalAdvance(QLatin1String(usual)));
+    };
     const double side =
-        shape_.Pipe ? Width(labels_.Depth) + 3 * em_
-                    : std::max({Width(labels_.LeftSlope), Width(labels_.RightSlope), 0.0}) + 1.5 * em_;
-    QMarginsF margins(shape_.Pipe ? 1.5 * em_ : side, 2.5 * em_, side, 4 * em_);
+        shape_.Pipe ? roomFor(labels_.Depth, "y = 0.000 ft") + 3 * em_
+                    : std::max(roomFor(labels_.LeftSlope, "zL = 0.5"), Width(labels_.RightSlope)) + 1.5 * em_;
+    const QMarginsF margins(shape_.Pipe ? 1.5 * em_ : side, 2.5 * em_, side, 4 * em_);
     QRectF room = canvas_.marginsRemoved(margins);
     room.setSize(room.size().expandedTo({em_, em_}));
     const ShapeScale scale = FitShape(shape_, room.size());
@@ -125,7 +129,11 @@ class Layout {
       return;
     }
     result_.Arrows << QLineF(middle, water.top(), middle, water.bottom());
-    const double free = water.right() - middle;
+    // Beside the arrow, where the bank leaves room at the label's lower edge.
+    const double lower = water.center().y() + 0.5 * em_;
+    const double wet = (water.bottom() - lower) / std::max(water.height(), 1.0);
+    const double toe = at_.map(shape_.RightToe).x();
+    const double free = toe + wet * (water.right() - toe) - middle;
     if (water.height() > 1.4 * em_ && free > Width(labels_.Depth) + em_) {
       Put(labels_.Depth, {middle + 0.5 * em_, water.center().y()}, 0, 0.6);
     } else {

@@ -97,7 +97,7 @@ void DrawLabel(QPainter& painter, const ShapeLabel& label) {
 
 /// The triangle and the short lines that mean a free water surface.
 void DrawSurfaceMark(QPainter& painter, const QLineF& surface, double em) {
-  const double x = surface.x1() + 0.3 * surface.dx();
+  const double x = surface.x1() + 0.15 * surface.dx();
   const double y = surface.y1();
   const double half = 0.3 * em;
   painter.drawPolygon(

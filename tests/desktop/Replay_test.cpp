@@ -1,0 +1,31 @@
+// The conversations of the console, held with the real widgets.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "console/Conversation.h"
+#include "desktop/WidgetHands.h"
+
+namespace {
+
+Console::Stage WidgetStage(std::function<void(Form&)> wait) {
+  auto windows = std::make_unique<TestHost>(std::move(wait));
+  auto hands = std::make_unique<WidgetHands>(*windows);
+  return {std::move(windows), std::move(hands)};
+}
+
+class Replay : public testing::TestWithParam<const char*> {};
+
+TEST_P(Replay, GoesAsWritten) {
+  EXPECT_THAT(
+      Differences(ReadConversation(std::string(CONVERSATIONS) + "/" + GetParam() + ".txt"), WidgetStage),
+      testing::IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Kept, Replay,
+                         testing::Values("anchors", "badinput", "changed", "digits", "edit", "modes",
+                                         "roughness", "units"),
+                         [](const testing::TestParamInfo<const char*>& conversation) {
+                           return std::string(conversation.param);
+                         });
+
+}  // namespace

@@ -1,0 +1,130 @@
+// See WidgetHands.h.
+#include "desktop/WidgetHands.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QTableView>
+#include <QTest>
+#include <QToolBar>
+#include <map>
+
+#include "platform/Keys.h"
+
+QWidget& WidgetHands::Window(const Form& form) const {
+  QWidget* const window = windows_.WindowOf(form);
+  if (window == nullptr) qFatal("No window for %s", form.Name().c_str());
+  if (QApplication::activeWindow() != window) {
+    window->activateWindow();
+    const bool active = QTest::qWaitFor([window] { return QApplication::activeWindow() == window; });
+    if (!active) qFatal("%s does not become active", form.Name().c_str());
+  }
+  return *window;
+}
+
+void WidgetHands::Focus(FocusControl& control) {
+  Of<QWidget>(control).setFocus(Qt::ShortcutFocusReason);
+}
+
+void WidgetHands::Type(TextBox& box, const std::string& text) {
+  auto& edit = Of<QLineEdit>(box);
+  edit.selectAll();
+  if (text.empty()) {
+    QTest::keyClick(&edit, Qt::Key_Delete);
+    return;
+  }
+  QInputMethodEvent event;
+  event.setCommitString(QString::fromStdString(text));
+  QApplication::sendEvent(&edit, &event);
+}
+
+void WidgetHands::Select(TextBox& box, TextRange range) {
+  auto& edit = Of<QLineEdit>(box);
+  QTest::keyClick(&edit, Qt::Key_Home);
+  for (int i = 0; i < range.Start; ++i) QTest::keyClick(&edit, Qt::Key_Right);
+  for (int i = 0; i < range.Length; ++i) QTest::keyClick(&edit, Qt::Key_Right, Qt::ShiftModifier);
+}
+
+void WidgetHands::Click(Control& control) {
+  QObject& target = Of<QObject>(control);
+  if (auto* const widget = qobject_cast<QWidget*>(&target)) {
+    QTest::mouseClick(widget, Qt::LeftButton);
+    return;
+  }
+  auto* const action = qobject_cast<QAction*>(&target);
+  for (QObject* const place : action->associatedObjects()) {
+    if (auto* const menu = qobject_cast<QMenu*>(place)) {
+      menu->popup({});
+      menu->setActiveAction(action);
+      QTest::keyClick(menu, Qt::Key_Return);
+    } else if (auto* const bar = qobject_cast<QToolBar*>(place)) {
+      QTest::mouseClick(bar->widgetForAction(action), Qt::LeftButton);
+    }
+  }
+}
+
+void WidgetHands::Pick(ListBox& list, int index) {
+  if (auto* const combo = qobject_cast<QComboBox*>(&Of<QWidget>(list))) {
+    combo->showPopup();
+    QAbstractItemView* const lines = combo->view();
+    const QRect line = lines->visualRect(lines->model()->index(index, 0));
+    QTest::mouseMove(lines->viewport(), line.center());
+    QTest::qWait(QApplication::doubleClickInterval() + 1);  // a popup just opened takes no click for so long
+    QTest::mouseClick(lines->viewport(), Qt::LeftButton, {}, line.center());
+    return;
+  }
+  auto& widget = Of<QListWidget>(list);
+  QListWidgetItem* const item = widget.item(index);
+  widget.scrollToItem(item);
+  QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, widget.visualItemRect(item).center());
+}
+
+void WidgetHands::DoubleClick(ListBox& list) {
+  auto& widget = Of<QListWidget>(list);
+  const QPoint place = widget.visualItemRect(widget.currentItem()).center();
+  QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, place);
+  QTest::mouseDClick(widget.viewport(), Qt::LeftButton, {}, place);
+}
+
+// A grid's heads are its view's headers: the view's cells begin with cell (1, 1).
+void WidgetHands::PressCell(const FlexGrid& grid, int row, int col, Qt::KeyboardModifiers modifiers) const {
+  auto& view = Of<QTableView>(grid);
+  const QModelIndex cell = view.model()->index(row - 1, col - 1);
+  view.scrollTo(cell);
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(cell).center());
+}
+
+void WidgetHands::DoubleClick(FlexGrid& grid) {
+  const GridBlock block = grid.Selection;
+  PressCell(grid, block.Row, block.Col, {});
+  auto& view = Of<QTableView>(grid);
+  QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(view.currentIndex()).center());
+}
+
+void WidgetHands::SelectBlock(FlexGrid& grid, GridBlock block) {
+  PressCell(grid, block.Row, block.Col, {});
+  if (block.Row != block.RowSel || block.Col != block.ColSel) {
+    PressCell(grid, block.RowSel, block.ColSel, Qt::ShiftModifier);
+  }
+}
+
+void WidgetHands::Key(FocusControl& control, int keyCode) {
+  static const std::map<int, Qt::Key> codes{
+      {Keys::Enter, Qt::Key_Return},  {Keys::KeypadEnter, Qt::Key_Enter}, {Keys::Escape, Qt::Key_Escape},
+      {Keys::PageUp, Qt::Key_PageUp}, {Keys::PageDown, Qt::Key_PageDown}, {Keys::Left, Qt::Key_Left},
+      {Keys::Up, Qt::Key_Up},         {Keys::Right, Qt::Key_Right},       {Keys::Down, Qt::Key_Down},
+      {Keys::Delete, Qt::Key_Delete}};
+  QTest::keyClick(&Of<QWidget>(control), codes.at(keyCode));
+}
+
+void WidgetHands::Char(FocusControl& control, const std::string& character) {
+  QTest::keyClicks(&Of<QWidget>(control), QString::fromStdString(character));
+}
+
+void WidgetHands::Close(Form& form) {
+  Window(form).close();
+}
