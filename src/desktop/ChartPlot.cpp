@@ -42,8 +42,8 @@ class RoundTicker : public QCPAxisTicker {
   const QCPAxis& axis_;
 };
 
-QCPRange Padded(QCPRange range) {
-  if (range.lower >= 0 && range.lower <= 0.1 * range.upper) {
+QCPRange Padded(QCPRange range, bool fromNothing) {
+  if (fromNothing && range.lower >= 0 && range.lower <= 0.1 * range.upper) {
     range.lower = 0;  // a curve that starts beside nothing is seen from there
   } else {
     range.lower -= Air * range.size();
@@ -141,7 +141,7 @@ QCPRange ChartPlot::Whole(bool across) const {
   const auto value = [across](const QPointF& point) { return across ? point.x() : point.y(); };
   QCPRange range(value(points_.first()), value(points_.first()));
   for (const QPointF& point : points_) range.expand(value(point));
-  return IsLogarithmic() ? LogarithmicallyPadded(range) : Padded(range);
+  return IsLogarithmic() ? LogarithmicallyPadded(range) : Padded(range, names_.isEmpty());
 }
 
 void ChartPlot::ShowWhole() {
@@ -229,6 +229,7 @@ void ChartPlot::AddLegend() {
   plotLayout()->setRowStretchFactor(1, 0.001);
   below->addElement(0, 0, legend);
   below->addElement(0, 1, new QCPLayoutElement);  // takes the rest of the row
+  below->setColumnStretchFactor(0, 0.001);
   legend->setBorderPen(Qt::NoPen);
   legend->setFillOrder(QCPLegend::foColumnsFirst);
   legend->setVisible(true);

@@ -53,6 +53,8 @@ IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent) {
     new SectionBackdrop(plot, {});  // the plot owns it
   });
   chart->LogarithmicAction()->setEnabled(false);
+  chart->Plot().setMinimumSize(QSize(10, 8) *
+                               fontMetrics().height());  // the table needs most of a small screen
   middle->addWidget(chart, 1);
   column->addLayout(middle, 1);
   auto* const ending = new QDialogButtonBox(page);
