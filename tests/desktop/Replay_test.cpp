@@ -22,8 +22,9 @@ TEST_P(Replay, GoesAsWritten) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Kept, Replay,
-                         testing::Values("anchors", "badinput", "changed", "digits", "edit", "modes",
-                                         "roughness", "units"),
+                         testing::Values("anchors", "badinput", "changed", "digits", "edit", "irreg_drawing",
+                                         "irreg_editor", "irreg_messages", "irreg_metric", "irreg_replaced",
+                                         "modes", "roughness", "units"),
                          [](const testing::TestParamInfo<const char*>& conversation) {
                            return std::string(conversation.param);
                          });
