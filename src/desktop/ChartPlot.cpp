@@ -163,7 +163,15 @@ void ChartPlot::Zoom(double steps, QPointF around) {
   replot(rpQueuedReplot);
 }
 
+void ChartPlot::LayOut(QSize size) {
+  setViewport(QRect({}, size));
+  // Twice: the numbers of an axis depend on its length, and the length on the room that the numbers take.
+  updateLayout();
+  updateLayout();
+}
+
 void ChartPlot::resizeEvent(QResizeEvent* event) {
+  LayOut(event->size());
   QCustomPlot::resizeEvent(event);
   if (!chart_.UniformAxis) return;
   whole_ ? ShowWhole() : Equalize();
@@ -196,9 +204,7 @@ void ChartPlot::Equalize() {
   if (!chart_.UniformAxis) return;
   // A wider range has other numbers, and these leave the axes another room.
   for (int pass = 0; pass < 3; ++pass) {
-    plotLayout()->update(QCPLayoutElement::upPreparation);
-    plotLayout()->update(QCPLayoutElement::upMargins);
-    plotLayout()->update(QCPLayoutElement::upLayout);
+    updateLayout();
     const QSize room = axisRect()->size();
     if (room.isEmpty()) return;
     if (xAxis->range().size() / room.width() < yAxis->range().size() / room.height()) {

@@ -25,6 +25,8 @@ class ChartPlot : public QCustomPlot {
   /// Zooms in by `steps`, out when they are negative, around a place in pixels. Dragging, the wheel and a
   /// double click, which shows the whole, do what they do everywhere.
   void Zoom(double steps, QPointF around);
+  /// Finds every part its place on `size` pixels.
+  void LayOut(QSize size);
   /// The part that another plot of the same chart shows.
   void ShowAs(const ChartPlot& other);
   /// Names the lines of a section in words below the axes: its outline, which is drawn as ground, and its

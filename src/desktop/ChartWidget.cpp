@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -228,20 +229,39 @@ void ChartWidget::Read(qsizetype index) {
   Describe();
 }
 
-/// Beside the point, where there is room for the text.
+/// At the corner of the point where the text hides the fewest others.
 void ChartWidget::PlaceReader() {
   for (QCPAbstractItem* const item : std::initializer_list<QCPAbstractItem*>{cross_, ring_, tag_}) {
     item->setVisible(read_ >= 0);
   }
   if (read_ < 0) return;
-  const QPointF place = ring_->position->pixelPosition();
-  const QPoint centre = plot_->axisRect()->center();
-  const bool left = place.x() > centre.x();
-  const bool above = place.y() > centre.y();
-  tag_->setPositionAlignment((left ? Qt::AlignRight : Qt::AlignLeft) |
-                             (above ? Qt::AlignBottom : Qt::AlignTop));
-  const double gap = ring_->size();
-  tag_->position->setCoords(place + QPointF(left ? -gap : gap, above ? -gap : gap));
+  const QPointF point = ring_->position->pixelPosition();
+  const QMarginsF padding = tag_->padding();
+  const QSizeF size =
+      QRectF(QFontMetrics(font()).boundingRect(QRect(), 0, tag_->text())).marginsAdded(padding).size();
+  double leastHidden = std::numeric_limits<double>::infinity();
+  tag_->setPositionAlignment(Qt::AlignLeft | Qt::AlignTop);
+  for (const QPointF way : {QPointF(1, 1), QPointF(-1, -1), QPointF(1, -1), QPointF(-1, 1)}) {
+    const QPointF corner = point + way * ring_->size();
+    QRectF place(corner, size);
+    if (way.x() < 0) place.moveRight(corner.x());
+    if (way.y() < 0) place.moveBottom(corner.y());
+    const double hidden = Hidden(place);
+    if (hidden >= leastHidden) continue;
+    leastHidden = hidden;
+    tag_->position->setCoords(place.topLeft());
+  }
+}
+
+/// The number of points that something in this place hides; too many where there is no room for it.
+double ChartWidget::Hidden(const QRectF& place) const {
+  if (!QRectF(plot_->viewport()).contains(place)) return std::numeric_limits<double>::max();
+  return static_cast<double>(std::ranges::count_if(
+      plot_->Points(), [&](const QPointF& point) { return place.contains(Place(point)); }));
+}
+
+QPointF ChartWidget::Place(const QPointF& point) const {
+  return {plot_->xAxis->coordToPixel(point.x()), plot_->yAxis->coordToPixel(point.y())};
 }
 
 void ChartWidget::ReadNear(QPointF place) {
@@ -250,7 +270,7 @@ void ChartWidget::ReadNear(QPointF place) {
   const QRect visible = plot_->axisRect()->rect();
   const QList<QPointF>& points = plot_->Points();
   for (qsizetype i = 0; visible.contains(place.toPoint()) && i < points.size(); ++i) {
-    const QPointF at(plot_->xAxis->coordToPixel(points[i].x()), plot_->yAxis->coordToPixel(points[i].y()));
+    const QPointF at = Place(points[i]);
     const QPointF way = at - place;
     const double distance = QPointF::dotProduct(way, way);
     if (distance >= least || !visible.contains(at.toPoint())) continue;

@@ -55,6 +55,8 @@ class ChartWidget : public QWidget {
   void ReadNear(QPointF place);
   void BringIntoView(QPointF point);
   void PlaceReader();
+  double Hidden(const QRectF& place) const;
+  QPointF Place(const QPointF& point) const;
   void Copy() const;
   std::string Picture(const std::string& extension) const;
 

@@ -27,6 +27,11 @@ QImage Dots(const Paint& paint, QSize size) {
   return image;
 }
 
+/// As on the screen: the same text beside the same lines.
+int DotsPerInch() {
+  return qRound(QGuiApplication::primaryScreen()->logicalDotsPerInch());
+}
+
 void WritePng(const Paint& paint, QSize size, QBuffer& file) {
   Dots(paint, size).save(&file, "png");
 }
@@ -34,6 +39,7 @@ void WritePng(const Paint& paint, QSize size, QBuffer& file) {
 void WriteSvg(const Paint& paint, QSize size, QBuffer& file) {
   QSvgGenerator drawing;
   drawing.setOutputDevice(&file);
+  drawing.setResolution(DotsPerInch());
   drawing.setSize(size);
   drawing.setViewBox(QRect({}, size));
   drawing.setTitle(QLatin1String(Declarations::AppTitle));
@@ -42,9 +48,8 @@ void WriteSvg(const Paint& paint, QSize size, QBuffer& file) {
 
 void WritePdf(const Paint& paint, QSize size, QBuffer& file) {
   QPdfWriter document(&file);
-  const int resolution = qRound(QGuiApplication::primaryScreen()->logicalDotsPerInch());
-  document.setResolution(resolution);
-  document.setPageSize(QPageSize(QSizeF(size) * PointsPerInch / resolution, QPageSize::Point));
+  document.setResolution(DotsPerInch());
+  document.setPageSize(QPageSize(QSizeF(size) * PointsPerInch / DotsPerInch(), QPageSize::Point));
   document.setPageMargins({});
   document.setCreator(QLatin1String(Declarations::AppTitle));
   paint(document, size);
@@ -71,13 +76,14 @@ void ChartWidget::PaintOn(QPaintDevice& device, QSize size) const {
   ChartPlot paper(chart_, nullptr);
   paper.setFont(font());
   paper.SetColours(Appearance::Paper());
-  paper.setViewport(QRect({}, size));
   if (dress_) {
     dress_(paper);
     paper.Load();
   }
+  paper.LayOut(size);
   paper.ShowAs(*plot_);
   if (!chart_.Marked.Get().empty()) paper.ShowLegend(marked_);
+  paper.LayOut(size);
   QCPPainter painter(&device);
   painter.setModes(QCPPainter::PainterModes(QCPPainter::pmNoCaching) | QCPPainter::pmVectorized);
   paper.toPainter(&painter, size.width(), size.height());

@@ -32,7 +32,9 @@ GridTable::GridTable(FlexGrid& grid, QWidget* parent)
   }
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);  // equal rows scroll quickly, however many
   connect(model(), &QAbstractItemModel::modelReset, this, [this] { ShowLoaded(); });
+  // Keys move the current cell before they extend the block, the mouse does it afterwards.
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { TellSelection(); });
+  connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { TellSelection(); });
   Bind::Join(grid.ColWidths, this, [](GridTable& table, const std::vector<int>&) { table.FitColumns(); });
   Bind::Join(grid.Selection, this, [](GridTable& table, const GridBlock&) { table.ShowSelection(); });
 }
@@ -98,14 +100,19 @@ void GridTable::ShowSelection() {
   selectionModel()->select(wanted, QItemSelectionModel::ClearAndSelect);
 }
 
+void GridTable::selectAll() {
+  QTableView::selectAll();
+  if (grid_.Rows() > 1) grid_.Selection = {1, 1, grid_.Rows() - 1, grid_.Cols() - 1};
+}
+
 void GridTable::TellSelection() {
   const QItemSelection selection = selectionModel()->selection();
-  if (selection.isEmpty()) return;
-  const QItemSelectionRange& range = selection.first();
   const QModelIndex moving = currentIndex();
+  if (selection.isEmpty() || !selection.first().contains(moving)) return;
+  const QItemSelectionRange& range = selection.first();
   // The corner that moves is the current one of the view; across from it the block began.
-  const bool upwards = moving.row() == range.top() && range.height() > 1;
-  const bool leftwards = moving.column() == range.left() && range.width() > 1;
+  const bool upwards = moving.row() == range.top();
+  const bool leftwards = moving.column() == range.left();
   const int top = range.top() + 1;
   const int bottom = range.bottom() + 1;
   const int left = range.left() + 1;

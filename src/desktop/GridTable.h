@@ -14,6 +14,8 @@ class GridTable : public QTableView {
   /// Said in words while the grid has its header row only.
   void SetEmptyText(const QString& why);
 
+  void selectAll() override;
+
  protected:
   void changeEvent(QEvent* event) override;
 

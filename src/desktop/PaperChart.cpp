@@ -19,7 +19,7 @@ void PaintChart(QCPPainter& painter, const XYChart& chart, const QRectF& area) {
   plot.setFont(font);
   plot.SetColours(Appearance::Paper());
   const QSize size = (area.size() / TwipsOfPixel).toSize();
-  plot.setViewport(QRect({}, size));
+  plot.LayOut(size);
   plot.ShowWhole();
   painter.save();
   painter.translate(area.topLeft());

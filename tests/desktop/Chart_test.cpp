@@ -197,7 +197,8 @@ TEST_F(Chart, PicturesAreWholeAndLightWhateverTheScreen) {
   EXPECT_EQ(dots.size(), 2 * Plot().size());
   EXPECT_EQ(dots.pixelColor(0, 0), QColor(Qt::white));
   const QString drawing = QString::fromStdString(chart_.PictureView("svg"));
-  for (const char* const text : {"Flow, m\u00B3/s", "Depth, ft", "It falls.", "viewBox=\"0 0 800 600\""}) {
+  for (const char* const text :
+       {"Flow, m\u00B3/s", "Depth, ft", "It falls.", "1.5", "2.5", "viewBox=\"0 0 800 600\""}) {
     EXPECT_TRUE(drawing.contains(QString::fromUtf8(text))) << text;
   }
   EXPECT_EQ(chart_.PictureView("pdf").substr(0, 5), "%PDF-");
