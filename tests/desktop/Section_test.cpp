@@ -121,7 +121,7 @@ TEST_F(Section, StretchesOfDifferentNAreToldApart) {
       {{"0", "9", "0.08"}, {"40", "5", ""}, {"50", "0", "0.03"}, {"60", "5", "0.08"}, {"100", "9", ""}}, "6");
   Open([this] {
     const double above =
-        Plot().yAxis->pixelToCoord(Plot().axisRect()->top() - Plot().fontMetrics().height() / 3);
+        Plot().yAxis->pixelToCoord(Plot().axisRect()->top() - Plot().fontMetrics().height() / 3.0);
     const QColor left = ColourAt(20, above);
     const QColor middle = ColourAt(55, above);
     EXPECT_NE(left, middle);
