@@ -91,7 +91,7 @@ void ChartPlot::Load() {
 }
 
 std::optional<QPointF> ChartPlot::PointAt(std::size_t row, int pair) const {
-  const auto column = static_cast<std::size_t>(2 * pair);
+  const auto column = 2 * static_cast<std::size_t>(pair);
   const auto& x = chart_.Rows()[row][column];
   const auto& y = chart_.Rows()[row][column + 1];
   if (!x || !y || (IsLogarithmic() && (*x <= 0 || *y <= 0))) return std::nullopt;

@@ -14,12 +14,12 @@
 namespace {
 
 constexpr VariedInput VariedInputs[] = {
-    {Units::Length, "Depth", &ChannelRecord::Depth, 2},
-    {Units::Flow, "Flow", &ChannelRecord::Flow, 1},
-    {Units::Slope, "Slope", &ChannelRecord::Slope, 3},
-    {Units::Diameter, "Diameter", &ChannelRecord::Diameter, 5},
-    {Units::BaseWidth, "Base Width", &ChannelRecord::BaseWidth, 5},
-    {Units::Dimensionless, "Mannings n", &ChannelRecord::ManningN, 4},
+    {"Depth", &ChannelRecord::Depth, Units::Length, 2},
+    {"Flow", &ChannelRecord::Flow, Units::Flow, 1},
+    {"Slope", &ChannelRecord::Slope, Units::Slope, 3},
+    {"Diameter", &ChannelRecord::Diameter, Units::Diameter, 5},
+    {"Base Width", &ChannelRecord::BaseWidth, Units::BaseWidth, 5},
+    {"Mannings n", &ChannelRecord::ManningN, Units::Dimensionless, 4},
 };
 
 constexpr double SnapDistance = 1e-10;  // internal units
@@ -28,7 +28,8 @@ constexpr double SnapDistance = 1e-10;  // internal units
 class RestoredInputs {
  public:
   explicit RestoredInputs(const frmMain& main) : main_(main) {}
-  ~RestoredInputs() { RestoreInputsFromMain(main_); }
+  // The unit table, which alone could throw, has every quantity that is asked for.
+  ~RestoredInputs() { RestoreInputsFromMain(main_); }  // NOLINT(bugprone-exception-escape)
   RestoredInputs(const RestoredInputs&) = delete;
   RestoredInputs& operator=(const RestoredInputs&) = delete;
 

@@ -10,9 +10,9 @@
 
 /// An input that a series can vary.
 struct VariedInput {
-  int VaryCode;  ///< its row of the unit table
   const char* Name;
   EngineValue ChannelRecord::*Field;
+  int VaryCode;  ///< its row of the unit table
   int Column;  ///< where the rating columns show it
 };
 
