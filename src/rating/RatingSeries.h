@@ -13,7 +13,7 @@ struct VariedInput {
   const char* Name;
   EngineValue ChannelRecord::*Field;
   int VaryCode;  ///< its row of the unit table
-  int Column;  ///< where the rating columns show it
+  int Column;    ///< where the rating columns show it
 };
 
 /// The input of this code; null for a code of none.
