@@ -13,11 +13,9 @@ class MainView : public QMainWindow {
   MainView(frmMain& form, QWidget* parent);
 
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
-
- protected:
-  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void AddMenus();
