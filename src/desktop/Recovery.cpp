@@ -19,7 +19,7 @@ namespace {
 constexpr int PauseMilliseconds = 2000;
 
 QString Folder() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/recovery";
+  QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/recovery";
   QDir().mkpath(folder);
   return folder;
 }
