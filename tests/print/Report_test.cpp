@@ -2,6 +2,8 @@
 // twips high.
 #include <gmock/gmock.h>
 
+#include <functional>
+
 #include "print/PrintStage.h"
 
 namespace {
@@ -102,15 +104,16 @@ TEST_P(Report, OfEachPrismAndThePipeInBothUnitSystems) {
     void (frmMain::*Select)();
     std::vector<Row> Inputs;
   };
+  const std::vector<Case> cases = {
+      {&frmMain::mnuOptionsCircular_Click, {flow, depth, slope, n, diameter}},
+      {&frmMain::mnuOptionsRect_Click, {flow, depth, slope, n, width}},
+      {&frmMain::mnuOptionsTrap_Click, {flow, depth, slope, n, width, right, left}},
+      {&frmMain::mnuOptionsTriangular_Click, {flow, depth, slope, n, right, left}}};
   for (const bool metric : {false, true}) {
     if (metric) Main.mnuOptionsUnitsMetric_Click();
-    for (const Case& each : std::initializer_list<Case>{
-             {&frmMain::mnuOptionsCircular_Click, {flow, depth, slope, n, diameter}},
-             {&frmMain::mnuOptionsRect_Click, {flow, depth, slope, n, width}},
-             {&frmMain::mnuOptionsTrap_Click, {flow, depth, slope, n, width, right, left}},
-             {&frmMain::mnuOptionsTriangular_Click, {flow, depth, slope, n, right, left}}}) {
+    for (const Case& each : cases) {
       Type(Main.tbBaseWidth, "10");
-      (Main.*each.Select)();
+      std::invoke(each.Select, Main);
       if (ChannelState.ChannelType != ChannelTypes::Rectangular) {
         Type(Main.tbSSR, "2");
         Type(Main.tbSSL, "1.5");
