@@ -32,8 +32,17 @@ struct AxisTitle {
   QString Name, Unit;
 };
 
-QString Number(double x) {
-  return ToQt(SigFormat(x, 1, std::max(4, Declarations::SigDigs)).Text());
+/// As many digits as tell neighbours apart on an axis whose values lie `spread` apart.
+QString Number(double x, double spread) {
+  const int digits = std::max(4, Declarations::SigDigs);
+  constexpr double None = -std::numeric_limits<double>::infinity();
+  const auto decimals = [](double value) {
+    return value == 0 ? None : -std::floor(std::log10(std::fabs(value)));
+  };
+  const double wanted = std::max({decimals(x) + digits - 1, decimals(spread) + 3, 0.0});
+  constexpr double MostDecimals = 12;
+  return ToQt(
+      (wanted > MostDecimals ? SigFormat(x, 1, digits) : FixedFormat(x, 1, static_cast<int>(wanted))).Text());
 }
 
 class Sample : public QWidget {
@@ -147,6 +156,7 @@ void ChartWidget::Load() {
   read_ = -1;
   plot_->Load();
   plot_->replot();
+  extent_ = QPolygonF(plot_->Points()).boundingRect();
   if (!plot_->Points().isEmpty()) {
     note_->Tell(QString());
   } else {
@@ -186,17 +196,12 @@ void ChartWidget::changeEvent(QEvent* event) {
 QString ChartWidget::Content() const {
   const QList<QPointF>& points = plot_->Points();
   if (points.isEmpty()) return note_->text();
-  QPointF least = points.first();
-  QPointF most = least;
-  for (const QPointF& point : points) {
-    least = {std::min(least.x(), point.x()), std::min(least.y(), point.y())};
-    most = {std::max(most.x(), point.x()), std::max(most.y(), point.y())};
-  }
   const auto range = [](const std::string& title, double from, double to) {
-    return AxisTitle(title).With(tr("from %1 to %2").arg(Number(from), Number(to)));
+    return AxisTitle(title).With(tr("from %1 to %2").arg(Number(from, to - from), Number(to, to - from)));
   };
   QStringList parts{tr("%n points", "", static_cast<int>(points.size())),
-                    range(chart_.XTitle, least.x(), most.x()), range(chart_.YTitle, least.y(), most.y())};
+                    range(chart_.XTitle, extent_.left(), extent_.right()),
+                    range(chart_.YTitle, extent_.top(), extent_.bottom())};
   if (!chart_.Marked.Get().empty()) parts << marked_;
   return parts.join(QLatin1String("; "));
 }
@@ -210,8 +215,8 @@ void ChartWidget::Describe() {
 QString ChartWidget::Reading() const {
   if (read_ < 0) return {};
   const QPointF point = plot_->Points()[read_];
-  return AxisTitle(chart_.XTitle).With(Number(point.x())) + u'\n' +
-         AxisTitle(chart_.YTitle).With(Number(point.y()));
+  return AxisTitle(chart_.XTitle).With(Number(point.x(), extent_.width())) + u'\n' +
+         AxisTitle(chart_.YTitle).With(Number(point.y(), extent_.height()));
 }
 
 void ChartWidget::Read(qsizetype index) {

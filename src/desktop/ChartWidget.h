@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QList>
+#include <QRectF>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -70,5 +71,6 @@ class ChartWidget : public QWidget {
   QList<QAction*> zooms_;
   std::function<void(ChartPlot&)> dress_;
   QString whyEmpty_, marked_;
+  QRectF extent_;        // of the points
   qsizetype read_ = -1;  // the point read off
 };

@@ -8,19 +8,30 @@
 #include <QFileDialog>
 #include <QLocale>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 #include "desktop/Text.h"
+
+namespace {
+
+/// Every line end as CR LF: other programs put lone LFs on the clipboard and take a lone CR for a letter.
+QString WithCrLf(QString text) {
+  static const QRegularExpression lineEnd(QStringLiteral("\\r\\n|\\r|\\n"));
+  return text.replace(lineEnd, QStringLiteral("\r\n"));
+}
+
+}  // namespace
 
 void QtClipboard::Clear() {
   QGuiApplication::clipboard()->clear();
 }
 
 std::string QtClipboard::Text() {
-  return FromQt(QGuiApplication::clipboard()->text());
+  return FromQt(WithCrLf(QGuiApplication::clipboard()->text()));
 }
 
 void QtClipboard::SetText(const std::string& text) {
-  QGuiApplication::clipboard()->setText(ToQt(text));
+  QGuiApplication::clipboard()->setText(WithCrLf(ToQt(text)));
 }
 
 BoxAnswer QtMessageBox::Show(const std::string& text, const std::string& title, BoxIcon icon,
@@ -57,12 +68,10 @@ QStringList NameFilters(const std::string& filter) {
   return filters;
 }
 
-/// The suffix of the first pattern of the filter.
-QString DefaultSuffix(const std::string& filter) {
-  return ToQt(filter)
-      .section(QLatin1Char('|'), 1, 1)
-      .section(QLatin1Char(';'), 0, 0)
-      .section(QLatin1Char('.'), -1);
+/// The suffix of the first pattern of a filter as Qt spells it; empty for every file.
+QString SuffixOf(const QString& nameFilter) {
+  const QString patterns = nameFilter.section(QLatin1Char('('), -1).chopped(1);
+  return patterns.section(QLatin1Char(' '), 0, 0).section(QLatin1Char('.'), 1);
 }
 
 }  // namespace
@@ -75,7 +84,14 @@ std::optional<std::string> QtFileDialog::Choose(const FileDialogRequest& request
   dialog.setNameFilters(NameFilters(request.Filter));
   dialog.setAcceptMode(request.Saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.Saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-  if (request.Saving) dialog.setDefaultSuffix(DefaultSuffix(request.Filter));
+  if (request.Saving) {
+    // A name typed without a suffix gets that of the kind chosen last.
+    const auto setSuffix = [&dialog](const QString& nameFilter) {
+      if (const QString suffix = SuffixOf(nameFilter); !suffix.isEmpty()) dialog.setDefaultSuffix(suffix);
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, setSuffix);
+    setSuffix(dialog.nameFilters().first());
+  }
   if (!request.FileName.empty()) dialog.selectFile(ToQt(request.FileName));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return FromQt(dialog.selectedFiles().first());

@@ -127,13 +127,13 @@ ShapeGeometry ShapeOf(const ShapeInputs& inputs) {
   return Prismatic(inputs);
 }
 
-ShapeScale FitShape(const ShapeGeometry& shape, QSizeF room) {
+ShapeScale FitShape(const ShapeGeometry& shape, QSizeF room, double readable) {
   const QRectF bounds = shape.Bounds();
   const double width = std::max(bounds.width(), 1e-9 * bounds.height());
   const double height = std::max(bounds.height(), 1e-9 * bounds.width());
   if (width <= 0 || height <= 0) return {1, 1};
   const double even = std::min(room.width() / width, room.height() / height);
   if (shape.Pipe) return {even, even};
-  return {std::max(even, std::min(room.width(), LeastAspect * height * even) / width),
-          std::max(even, std::min(room.height(), LeastAspect * width * even) / height)};
+  return {std::max(even, std::min({room.width(), LeastAspect * height * even, readable}) / width),
+          std::max(even, std::min({room.height(), LeastAspect * width * even, readable}) / height)};
 }

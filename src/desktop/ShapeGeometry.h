@@ -35,4 +35,4 @@ ShapeGeometry ShapeOf(const ShapeInputs& inputs);
 struct ShapeScale {
   double Across, Upwards;
 };
-ShapeScale FitShape(const ShapeGeometry& shape, QSizeF room);
+ShapeScale FitShape(const ShapeGeometry& shape, QSizeF room, double readable);

@@ -49,7 +49,7 @@ class Layout {
     const QMarginsF margins(shape_.Pipe ? 1.5 * em_ : side, 2.5 * em_, side, 4 * em_);
     QRectF room = canvas_.marginsRemoved(margins);
     room.setSize(room.size().expandedTo({em_, em_}));
-    const ShapeScale scale = FitShape(shape_, room.size());
+    const ShapeScale scale = FitShape(shape_, room.size(), 9 * em_);
     const QRectF bounds = shape_.Bounds();
     const QPointF middle = room.center();
     at_ = QTransform(scale.Across, 0, 0, -scale.Upwards, middle.x() - scale.Across * bounds.center().x(),

@@ -11,8 +11,7 @@ namespace {
 
 TEST(ProjectCorpus, ComesBackTheSameOrDoesNotOpen) {
   int files = 0, opened = 0;
-  const auto root = std::filesystem::path(__FILE__).parent_path().parent_path().parent_path();
-  for (const auto& entry : std::filesystem::directory_iterator(root / "fuzz/corpus/project")) {
+  for (const auto& entry : std::filesystem::directory_iterator(CORPUS)) {
     std::ifstream file(entry.path(), std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
     for (const NumberLocale& locale : ProjectRoundTrip::Locales)

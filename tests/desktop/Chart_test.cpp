@@ -100,6 +100,17 @@ TEST_F(Chart, KeysReadOffOnePointAfterTheOther) {
   EXPECT_EQ(Reading(), "Depth 1.000 ft\nFlow 1,235 m\u00B3/s");
 }
 
+TEST_F(Chart, ReadingsTellNeighboursApart) {
+  Show({{400.455, 0.00791}, {400.46, 0.0123}, {401.5, 35.42}});
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Reading(), "Depth 400.455 ft\nFlow 0.007910 m\u00B3/s");
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Reading(), "Depth 400.460 ft\nFlow 0.01230 m\u00B3/s");
+  chart_.Load({{2e-20, 3e12}}, 2);
+  Key(Qt::Key_Right);
+  EXPECT_EQ(Reading(), "Depth 0.00000000000000000002000 ft\nFlow 3,000,000,000,000 m\u00B3/s");
+}
+
 TEST_F(Chart, TheMouseReadsOffTheNearestPoint) {
   Show({{1, 1}, {2, 4}, {3, 9}});
   QTest::mouseMove(&Plot(), PlaceOf(2.2, 4.4));

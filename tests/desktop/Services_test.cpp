@@ -2,8 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -56,6 +59,28 @@ TEST(DesktopServices, AFileDialogStartsWhereItCanAndAddsTheSuffix) {
     dynamic_cast<QDialog&>(dialog).accept();
   });
   EXPECT_EQ(dialogs.Choose(request), request.Folder + "/no such culvert.fwd");
+}
+
+TEST(DesktopServices, TheClipboardEndsEveryLineAsSpreadsheetsDo) {
+  QtClipboard clipboard;
+  QGuiApplication::clipboard()->setText(QStringLiteral("0\t10\n5\t8\r\n9\t7\r"));
+  EXPECT_EQ(clipboard.Text(), "0\t10\r\n5\t8\r\n9\t7\r\n");
+  clipboard.SetText("0\t10\r5\t8\r\n9\t7");
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("0\t10\r\n5\t8\r\n9\t7"));
+}
+
+TEST(DesktopServices, TheKindOfFileChosenGivesTheSuffix) {
+  QtFileDialog dialogs;
+  const std::string folder = QDir::tempPath().toStdString();
+  WhenOpen<QFileDialog>([](QFileDialog& dialog) {
+    auto* const kinds = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    kinds->setFocus();
+    QTest::keyClick(kinds, Qt::Key_Down);
+    dialog.findChild<QLineEdit*>()->setText(QStringLiteral("no such curve"));
+    dynamic_cast<QDialog&>(dialog).accept();
+  });
+  EXPECT_EQ(dialogs.Choose({true, "Export", folder, "Picture (*.png)|*.png|Drawing (*.svg)|*.svg", ""}),
+            folder + "/no such curve.svg");
 }
 
 }  // namespace

@@ -79,13 +79,17 @@ TEST(Shape, TellsWhatIsOnlySchematic) {
 }
 
 TEST(Shape, IsInTrueProportionWhereThatCanBeRead) {
-  const ShapeScale even = FitShape(ShapeOf(Trapezoid(3, 5, 1, 1)), {300, 300});
+  const ShapeScale even = FitShape(ShapeOf(Trapezoid(3, 5, 1, 1)), {300, 300}, 100);
   EXPECT_DOUBLE_EQ(even.Across, even.Upwards);
-  const ShapeScale flat = FitShape(ShapeOf(Trapezoid(1, 1000, 1, 1)), {300, 300});
+  const ShapeScale flat = FitShape(ShapeOf(Trapezoid(1, 1000, 1, 1)), {300, 300}, 100);
   EXPECT_GT(flat.Upwards, 10 * flat.Across);
-  const ShapeScale thin = FitShape(ShapeOf(Trapezoid(1000, 1, 0, 0)), {300, 300});
+  EXPECT_LE(flat.Upwards * 1.25, 100);
+  // A large canvas shows the same channel truly.
+  const ShapeScale large = FitShape(ShapeOf(Trapezoid(3, 20, 2, 2)), {1200, 900}, 100);
+  EXPECT_DOUBLE_EQ(large.Across, large.Upwards);
+  const ShapeScale thin = FitShape(ShapeOf(Trapezoid(1000, 1, 0, 0)), {300, 300}, 100);
   EXPECT_GT(thin.Across, 10 * thin.Upwards);
-  const ShapeScale round = FitShape(ShapeOf(Pipe(1, 2)), {900, 100});
+  const ShapeScale round = FitShape(ShapeOf(Pipe(1, 2)), {900, 100}, 100);
   EXPECT_DOUBLE_EQ(round.Across, round.Upwards);
 }
 

@@ -11,8 +11,7 @@ namespace {
 TEST(PointsCorpus, NothingCrashesAndAcceptedPointsComeBack) {
   int files = 0;
   int imported = 0;
-  const auto root = std::filesystem::path(__FILE__).parent_path().parent_path().parent_path();
-  for (const auto& entry : std::filesystem::directory_iterator(root / "fuzz/corpus/points")) {
+  for (const auto& entry : std::filesystem::directory_iterator(CORPUS)) {
     const std::string text = WholeFile::Read(entry.path().string());
     for (const NumberLocale& locale : PointsRoundTrip::Locales)
       EXPECT_TRUE(PointsRoundTrip::Holds(text, locale)) << entry.path();
