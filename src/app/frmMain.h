@@ -165,6 +165,7 @@ class frmMain : public Form {
   std::string WaterSurfaceOffence() const;
   /// What to tell after the engine has run: why there is no result, or what was solved.
   std::string Outcome() const;
+  std::string CriticalSlopeNote() const;
 
   SubWindows& windows_;
   bool loading_ = false;  // boxes are being filled: their Change events neither compute nor clear

@@ -187,12 +187,15 @@ void frmMain::ComputeResults() {
   };
   show(ChannelState.SolveForFlow ? FlowResult : DepthResult);
   for (const Result& result : Results) show(result);
-  const bool metricSlope = ChannelState.UnitsEorM == Units::Metric && ChannelState.CriticalSlope.IsNumeric();
-  tbCritS.ToolTip = metricSlope
-                        ? "Critical slope: " + ShownNumber(ChannelState.CriticalSlope, Units::Slope, false) +
-                              " " + UnitLabel(Units::Metric, Units::Slope)
-                        : "";
+  tbCritS.ToolTip = CriticalSlopeNote();
   EnablePrint(true);
+}
+
+std::string frmMain::CriticalSlopeNote() const {
+  if (ChannelState.ChannelType == ChannelTypes::Irregular) return "A surveyed section has no critical slope";
+  if (ChannelState.UnitsEorM != Units::Metric || !ChannelState.CriticalSlope.IsNumeric()) return "";
+  return "Critical slope: " + ShownNumber(ChannelState.CriticalSlope, Units::Slope, false) + " " +
+         UnitLabel(Units::Metric, Units::Slope);
 }
 
 void frmMain::ClearResults() {
@@ -210,7 +213,11 @@ void frmMain::EnablePrint(bool enabled) {
 
 std::string frmMain::Outcome() const {
   const bool solveForFlow = ChannelState.SolveForFlow;
-  if (!tbArea.Text.Get().empty()) return solveForFlow ? "Flow solved" : "Depth solved";
+  if (!tbArea.Text.Get().empty()) {
+    const std::string solved = solveForFlow ? "Flow solved" : "Depth solved";
+    const std::string note = CriticalSlopeNote();
+    return note.empty() ? solved : solved + ". " + note;
+  }
   if (solveForFlow) return "Overflow: the depth is above the crown of the pipe";
   if (ChannelState.ChannelType == ChannelTypes::Circular) {
     const double greatest = ManningCircular::CircMaxFlow(

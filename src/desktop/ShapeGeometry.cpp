@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 #include "engine/ChannelState.h"
+#include "section/SectionTable.h"
 
 namespace {
 
@@ -69,27 +71,14 @@ ShapeGeometry Circular(const ShapeInputs& in) {
   return shape;
 }
 
-/// The water below `level` between the first and the last point, one polygon for each pool.
 QList<QPolygonF> Pools(const QPolygonF& ground, double level) {
+  std::vector<SectionTable::Point> line;
+  for (const QPointF& point : ground) line.push_back({point.x(), point.y()});
   QList<QPolygonF> pools;
-  QPolygonF pool;
-  for (qsizetype i = 0; i + 1 < ground.size(); ++i) {
-    const QPointF a = ground[i];
-    const QPointF b = ground[i + 1];
-    const auto crossing = [&] {
-      return QPointF(a.x() + (b.x() - a.x()) * (level - a.y()) / (b.y() - a.y()), level);
-    };
-    if (a.y() < level && pool.isEmpty())
-      pool << QPointF(a.x(), level) << a;  // the water's edge at the first station
-    if (a.y() >= level && b.y() < level) pool << crossing();
-    if (a.y() < level && b.y() >= level) {
-      pools << (pool << crossing());
-      pool.clear();
-    } else if (b.y() < level) {
-      pool << b;
-    }
+  for (const auto& pool : SectionTable::Pools(line, level)) {
+    QPolygonF& polygon = pools.emplace_back();
+    for (const SectionTable::Point& point : pool) polygon << QPointF(point.X, point.Y);
   }
-  if (!pool.isEmpty()) pools << (pool << QPointF(pool.last().x(), level));
   return pools;
 }
 

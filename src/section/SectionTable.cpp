@@ -108,27 +108,31 @@ Table Irregular(const PointTable& points, int count, double W) {
   return table;
 }
 
-std::vector<std::vector<Point>> Pools(const Table& table) {
-  const auto surface = std::ranges::find_if(table, [](const auto& row) { return row[WaterY].has_value(); });
-  if (surface == table.end()) return {};
-  const double W = *(*surface)[WaterY];
+std::vector<std::vector<Point>> Pools(std::span<const Point> ground, double W) {
   std::vector<std::vector<Point>> pools;
   std::vector<Point> pool;
-  std::optional<Point> before;
-  for (std::size_t row = 0; row < table.size() && table[row][OutlineX]; ++row) {
-    const Point point{*table[row][OutlineX], *table[row][OutlineY]};
+  for (std::size_t i = 0; i < ground.size(); ++i) {
+    const Point& point = ground[i];
     const bool wet = point.Y < W;
-    if (wet && !before) pool.push_back({point.X, W});
-    if (before && wet != (before->Y < W)) pool.push_back({Crossing(*before, point, W), W});
+    if (wet && i == 0) pool.push_back({point.X, W});
+    if (i > 0 && wet != (ground[i - 1].Y < W)) pool.push_back({Crossing(ground[i - 1], point, W), W});
     if (wet) pool.push_back(point);
     if (!wet && !pool.empty()) pools.push_back(std::exchange(pool, {}));
-    before = point;
   }
   if (!pool.empty()) {
-    pool.push_back({before->X, W});
+    pool.push_back({ground.back().X, W});
     pools.push_back(pool);
   }
   return pools;
+}
+
+std::vector<std::vector<Point>> Pools(const Table& table) {
+  const auto surface = std::ranges::find_if(table, [](const auto& row) { return row[WaterY].has_value(); });
+  if (surface == table.end()) return {};
+  std::vector<Point> ground;
+  for (const auto& row : table)
+    if (row[OutlineX]) ground.push_back({*row[OutlineX], *row[OutlineY]});
+  return Pools(ground, *(*surface)[WaterY]);
 }
 
 std::vector<Stretch> Stretches(const PointTable& points, int count) {

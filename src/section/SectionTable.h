@@ -3,6 +3,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -32,8 +33,11 @@ struct Point {
   double X, Y;
 };
 
-/// The water of a drawing as areas to fill: of each pool the surface from its last point to its first, and
-/// the ground below. Water beyond the first or last point of the outline ends there.
+/// The water up to the level W over a ground line, as areas to fill: of each pool the surface from its last
+/// point to its first, and the ground below. Water beyond the first or last point of the ground ends there.
+std::vector<std::vector<Point>> Pools(std::span<const Point> ground, double W);
+
+/// The water of a drawing over its outline.
 std::vector<std::vector<Point>> Pools(const Table& table);
 
 /// A stretch of a surveyed section with one Manning's n, as typed.
