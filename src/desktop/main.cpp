@@ -19,7 +19,7 @@
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(Declarations::AppTitle));
-  QApplication::setDesktopFileName(QStringLiteral("flumewise"));
+  QApplication::setDesktopFileName(QStringLiteral(FLUMEWISE_ID));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/flumewise.svg")));
   // The main window alone ends the program; a message box that closes beside it does not.
   QApplication::setQuitOnLastWindowClosed(false);
