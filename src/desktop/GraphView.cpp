@@ -9,7 +9,6 @@
 
 #include "desktop/Bind.h"
 #include "desktop/ChartWidget.h"
-#include "desktop/RatingNote.h"
 #include "desktop/Text.h"
 
 namespace {
@@ -29,15 +28,7 @@ QWidget* Legend(frmGraph& form, QWidget* parent) {
 
 }  // namespace
 
-GraphView::GraphView(frmGraph& form, QWidget* parent) : FormWindow(parent) {
-  AddMenu(tr("&File"), {{&form.mnuPrint, "p", QKeySequence::Print},
-                        {&form.mnuPrintPreview, "v", {}},
-                        {&form.mnuFileExport, "e", {}},
-                        {},
-                        {&form.mnuFileExit, "x", QKeySequence::Close}});
-  QMenu* const edit = AddMenu(
-      tr("&Edit"), {{&form.mnuEditCopy, "c", QKeySequence::Copy}, {}, {&form.mnuEditSettings, "s", {}}});
-
+GraphView::GraphView(frmGraph& form, QWidget* parent) : RatingView(form, parent) {
   auto* const page = new QWidget(this);
   auto* const column = new QVBoxLayout(page);
   ChartWidget* const chart = Bind::Chart(form.MSChart1, page);
@@ -52,7 +43,7 @@ GraphView::GraphView(frmGraph& form, QWidget* parent) : FormWindow(parent) {
   view->addAction(chart->LogarithmicAction());
   view->addSeparator();
   view->addActions(chart->ZoomActions());
-  chart->insertAction(chart->LogarithmicAction(), edit->actions().first());
+  chart->insertAction(chart->LogarithmicAction(), CopyAction());
   chart->setFocus();
   SetSize({56, 38});
 }

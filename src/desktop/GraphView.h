@@ -1,10 +1,10 @@
 // The window of frmGraph.
 #pragma once
 
-#include "desktop/FormWindow.h"
+#include "desktop/RatingView.h"
 #include "rating/frmGraph.h"
 
-class GraphView : public FormWindow {
+class GraphView : public RatingView {
  public:
   GraphView(frmGraph& form, QWidget* parent);
 };

@@ -3,26 +3,16 @@
 
 #include <QAction>
 #include <QLabel>
-#include <QMenu>
 #include <QStatusBar>
 
 #include "desktop/Bind.h"
 #include "desktop/GridTable.h"
-#include "desktop/RatingNote.h"
 
-TableView::TableView(frmTable& form, QWidget* parent) : FormWindow(parent) {
-  AddMenu(tr("&File"), {{&form.mnuPrint, "p", QKeySequence::Print},
-                        {&form.mnuPrintPreview, "v", {}},
-                        {&form.mnuFileExport, "e", {}},
-                        {},
-                        {&form.mnuFileExit, "x", QKeySequence::Close}});
-  QMenu* const edit = AddMenu(
-      tr("&Edit"), {{&form.mnuEditCopy, "c", QKeySequence::Copy}, {}, {&form.mnuEditSettings, "s", {}}});
-
+TableView::TableView(frmTable& form, QWidget* parent) : RatingView(form, parent) {
   GridTable* const table = Bind::Grid(form.MSFlexGrid1, this);
   table->setAccessibleName(tr("Rating table"));
   table->setContextMenuPolicy(Qt::ActionsContextMenu);
-  table->addAction(edit->actions().first());
+  table->addAction(CopyAction());
   setCentralWidget(table);
 
   auto* const count = new QLabel(this);

@@ -1,10 +1,10 @@
 // The window of frmTable.
 #pragma once
 
-#include "desktop/FormWindow.h"
+#include "desktop/RatingView.h"
 #include "rating/frmTable.h"
 
-class TableView : public FormWindow {
+class TableView : public RatingView {
  public:
   TableView(frmTable& form, QWidget* parent);
 };

@@ -39,25 +39,17 @@ class FallingFlow {
 
 }  // namespace
 
-frmGraph::frmGraph(const frmMain& main) : Form("frmGraph"), main_(main) {
+frmGraph::frmGraph(const frmMain& main) : RatingWindow("frmGraph", main) {
   lblMarked.Caption = "Marked: the flow falls as the level rises";
-  mnuPrint.Caption = "Print...";
-  mnuPrintPreview.Caption = "Print Preview...";
-  mnuFileExport.Caption = "Export...";
-  mnuFileExit.Caption = "Exit";
-  mnuEditCopy.Caption = "Copy";
-  mnuEditSettings.Caption = "Settings...";
-  mnuPrint.Click = [this] { mnuPrint_Click(); };
-  mnuPrintPreview.Click = [this] { mnuPrintPreview_Click(); };
-  mnuFileExport.Click = [this] { mnuFileExport_Click(); };
-  mnuFileExit.Click = [this] { mnuFileExit_Click(); };
-  mnuEditCopy.Click = [this] { mnuEditCopy_Click(); };
-  mnuEditSettings.Click = [this] { mnuEditSettings_Click(); };
 }
 
-void frmGraph::Form_Load() {
-  Caption = std::string(Declarations::AppTitle) + " - " + ChannelState.ChannelType;
+void frmGraph::LoadSeries() {
   LoadGraph();
+}
+
+void frmGraph::ShowSettings() {
+  frmGraphSettings settings;
+  TheServices().windows.ShowModal(settings);
 }
 
 void frmGraph::LoadGraph() {
@@ -86,12 +78,6 @@ void frmGraph::mnuEditCopy_Click() {
   ChartPicture::Copy(MSChart1);
 }
 
-void frmGraph::mnuEditSettings_Click() {
-  frmGraphSettings settings;
-  TheServices().windows.ShowModal(settings);
-  if (!RatingRange.RatingCancelled) LoadGraph();
-}
-
 void frmGraph::mnuPrint_Click() {
   Print::ToPrinter(Print::Graph(main_, MSChart1));
 }
@@ -102,8 +88,4 @@ void frmGraph::mnuPrintPreview_Click() {
 
 void frmGraph::mnuFileExport_Click() {
   ChartPicture::Export(MSChart1, "Export Graph");
-}
-
-void frmGraph::mnuFileExit_Click() {
-  Unload();
 }

@@ -23,24 +23,15 @@ std::vector<std::string> Row(const RatingColumns& columns, Text text) {
 
 }  // namespace
 
-frmTable::frmTable(const frmMain& main) : Form("frmTable"), main_(main) {
-  mnuPrint.Caption = "Print...";
-  mnuPrintPreview.Caption = "Print Preview...";
-  mnuFileExport.Caption = "Export...";
-  mnuFileExit.Caption = "Exit";
-  mnuEditCopy.Caption = "Copy";
-  mnuEditSettings.Caption = "Settings...";
-  mnuPrint.Click = [this] { mnuPrint_Click(); };
-  mnuPrintPreview.Click = [this] { mnuPrintPreview_Click(); };
-  mnuFileExport.Click = [this] { mnuFileExport_Click(); };
-  mnuFileExit.Click = [this] { mnuFileExit_Click(); };
-  mnuEditCopy.Click = [this] { mnuEditCopy_Click(); };
-  mnuEditSettings.Click = [this] { mnuEditSettings_Click(); };
+frmTable::frmTable(const frmMain& main) : RatingWindow("frmTable", main) {}
+
+void frmTable::LoadSeries() {
+  LoadTable();
 }
 
-void frmTable::Form_Load() {
-  Caption = std::string(Declarations::AppTitle) + " - " + ChannelState.ChannelType;
-  LoadTable();
+void frmTable::ShowSettings() {
+  frmTableSettings settings;
+  TheServices().windows.ShowModal(settings);
 }
 
 void frmTable::LoadTable() {
@@ -69,12 +60,6 @@ void frmTable::mnuEditCopy_Click() {
   clipboard.SetText(text + '\r' + MSFlexGrid1.Clip());
 }
 
-void frmTable::mnuEditSettings_Click() {
-  frmTableSettings settings;
-  TheServices().windows.ShowModal(settings);
-  if (!RatingRange.RatingCancelled) LoadTable();
-}
-
 void frmTable::mnuPrint_Click() {
   Print::ToPrinter(Print::Table(main_, MSFlexGrid1));
 }
@@ -86,8 +71,4 @@ void frmTable::mnuPrintPreview_Click() {
 void frmTable::mnuFileExport_Click() {
   ExportFile({"Export Table", "Comma-Separated Values (*.csv)|*.csv|All Files (*.*)|*.*", "csv"},
              [this](const std::string&) { return RatingTableAsCsv(main_, shown_); });
-}
-
-void frmTable::mnuFileExit_Click() {
-  Unload();
 }

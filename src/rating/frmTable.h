@@ -2,33 +2,28 @@
 #pragma once
 
 #include "app/Declarations.h"
-#include "app/frmMain.h"
 #include "platform/FlexGrid.h"
+#include "rating/RatingWindow.h"
 
-class frmTable : public Form {
+class frmTable : public RatingWindow {
  public:
   explicit frmTable(const frmMain& main);
 
   FlexGrid MSFlexGrid1{this, "MSFlexGrid1"};
-  MenuItem mnuPrint{this, "mnuPrint"}, mnuPrintPreview{this, "mnuPrintPreview"};
-  MenuItem mnuFileExport{this, "mnuFileExport"}, mnuFileExit{this, "mnuFileExit"};
-  MenuItem mnuEditCopy{this, "mnuEditCopy"}, mnuEditSettings{this, "mnuEditSettings"};
 
   void LoadTable();
 
-  void mnuPrint_Click();
-  void mnuPrintPreview_Click();
-  void mnuFileExport_Click();
-  void mnuFileExit_Click();
+  void mnuPrint_Click() override;
+  void mnuPrintPreview_Click() override;
+  void mnuFileExport_Click() override;
   /// The selected block, headed by the captions of its columns.
-  void mnuEditCopy_Click();
-  void mnuEditSettings_Click();
+  void mnuEditCopy_Click() override;
 
  protected:
-  void Form_Load() override;
+  void LoadSeries() override;
+  void ShowSettings() override;
 
  private:
-  const frmMain& main_;
   RatingRangeRecord
       shown_;  // the range of the rows on display: a cancelled settings dialog may leave another
 };

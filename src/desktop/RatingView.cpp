@@ -1,6 +1,8 @@
-// See RatingNote.h.
-#include "desktop/RatingNote.h"
+// See RatingView.h.
+#include "desktop/RatingView.h"
 
+#include <QAction>
+#include <QMenu>
 #include <string_view>
 
 #include "app/Declarations.h"
@@ -32,7 +34,18 @@ const char* Rule() {
 
 }  // namespace
 
-QString WhyNoPoints() {
+RatingView::RatingView(RatingWindow& form, QWidget* parent) : FormWindow(parent) {
+  AddMenu(tr("&File"), {{&form.mnuPrint, "p", QKeySequence::Print},
+                        {&form.mnuPrintPreview, "v", {}},
+                        {&form.mnuFileExport, "e", {}},
+                        {},
+                        {&form.mnuFileExit, "x", QKeySequence::Close}});
+  const QMenu* const edit = AddMenu(
+      tr("&Edit"), {{&form.mnuEditCopy, "c", QKeySequence::Copy}, {}, {&form.mnuEditSettings, "s", {}}});
+  copy_ = edit->actions().first();
+}
+
+QString RatingView::WhyNoPoints() {
   return QStringLiteral("Nothing can be computed in this range. %1\nAnother range: Edit > Settings.")
       .arg(QLatin1String(Rule()));
 }
