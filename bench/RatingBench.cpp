@@ -3,73 +3,19 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
-#include <cmath>
 #include <functional>
 #include <string>
 
-#include "app/Units.h"
+#include "RatingProblems.h"
+#include "app/Declarations.h"
 #include "engine/ChannelState.h"
 #include "engine/SolveChannel.h"
-#include "program/Program.h"
 #include "rating/RatingSeries.h"
 #include "rating/frmTable.h"
-#include "support/FakeServices.h"
+
+using namespace RatingProblems;
 
 namespace {
-
-class NoScreen : public WindowHost {
-  void Open(Form&) override {}
-  void Wait(Form&) override {}
-};
-
-/// A main window with nothing typed in: it leaves the record alone.
-const frmMain& EmptyWindow() {
-  static FakeServices fakes;
-  static NoScreen screen;
-  static const Program program(fakes.With(screen));
-  return program.Main;
-}
-
-/// Sets the problem up, to be solved for the depth of a flow.
-void Begin(std::string_view type, double slope, double roughness) {
-  ChannelState = ChannelRecord{};
-  ChannelState.ChannelType = type;
-  ChannelState.Slope = slope;
-  ChannelState.ManningN = roughness;
-}
-
-void Trapezoid() {
-  Begin(ChannelTypes::Trapezoidal, 0.0016, 0.025);
-  ChannelState.BaseWidth = 20;
-  ChannelState.SideSlopeLeft = 2;
-  ChannelState.SideSlopeRight = 3;
-}
-
-void Circle() {
-  Begin(ChannelTypes::Circular, 0.002, 0.013);
-  ChannelState.Diameter = 6;
-}
-
-/// A valley of 100 points, uneven at the bottom, with a channel between flood plains.
-void Valley() {
-  Begin(ChannelTypes::Irregular, 0.001, 0);
-  ChannelState.IrregPointCount = 100;
-  for (int i = 0; i < 100; ++i) {
-    const double fromMiddle = i - 49.5;
-    auto& point = ChannelState.IrregEnginePoints[static_cast<std::size_t>(i) + 1];
-    point[1] = 4.0 * i + std::sin(i);
-    point[2] = 100 + fromMiddle * fromMiddle / 60 + std::sin(3.0 * i);
-  }
-  ChannelState.IrregEnginePoints[1][3] = 0.06;
-  ChannelState.IrregEnginePoints[36][3] = 0.03;
-  ChannelState.IrregEnginePoints[66][3] = 0.07;
-}
-
-/// So many flows up to the last one.
-void SetRange(int points, double lastFlow) {
-  const double step = lastFlow / points;
-  RatingRange = {Units::Flow, 2, step, lastFlow, step, false};
-}
 
 void Operations(benchmark::State& state) {
   const double step = RatingRange.RangeStep.Number();
