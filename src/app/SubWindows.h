@@ -12,4 +12,8 @@ class SubWindows {
   virtual void OpenTable() = 0;
   virtual void PrintReport() = 0;
   virtual void PreviewReport() = 0;
+  virtual void OpenHelpContents() = 0;
+  virtual void OpenHelpIndex() = 0;
+  virtual void CloseHelp() = 0;
+  virtual void OpenAbout() = 0;
 };

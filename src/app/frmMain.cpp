@@ -128,12 +128,13 @@ void frmMain::JoinCommands() {
                                       {mnuOptionsUnitsEnglish, &frmMain::mnuOptionsUnitsEnglish_Click},
                                       {mnuOptionsUnitsMetric, &frmMain::mnuOptionsUnitsMetric_Click},
                                       {mnuOptionsDigits, &frmMain::mnuOptionsDigits_Click},
+                                      {mnuHelpContents, &frmMain::mnuHelpContents_Click},
+                                      {mnuHelpIndex, &frmMain::mnuHelpIndex_Click},
+                                      {mnuHelpAbout, &frmMain::mnuHelpAbout_Click},
                                       {cmdIrreg, &frmMain::cmdIrreg_Click},
                                       {cmdMannParams, &frmMain::cmdMannParams_Click}}) {
     each.Of.Click = [this, run = each.Run] { (this->*run)(); };
   }
-  // Commands whose windows are still to come.
-  for (MenuItem* const item : {&mnuHelpContents, &mnuHelpIndex, &mnuHelpAbout}) item->Visible = false;
 }
 
 void frmMain::Form_Load() {
@@ -149,5 +150,16 @@ void frmMain::Form_Activate() {
 bool frmMain::Form_QueryUnload() {
   if (!ChecknSave()) return false;
   InitialFile::SavePreferences();
+  windows_.CloseHelp();
   return true;
+}
+
+void frmMain::mnuHelpContents_Click() {
+  windows_.OpenHelpContents();
+}
+void frmMain::mnuHelpIndex_Click() {
+  windows_.OpenHelpIndex();
+}
+void frmMain::mnuHelpAbout_Click() {
+  windows_.OpenAbout();
 }

@@ -134,6 +134,9 @@ class frmMain : public Form {
   void mnuSolveGraph_Click();
   void mnuSolveTable_Click();
   void mnuSolveSection_Click();
+  void mnuHelpContents_Click();
+  void mnuHelpIndex_Click();
+  void mnuHelpAbout_Click();
   void cmdMannParams_Click();
   void cmdIrreg_Click();
 

@@ -14,11 +14,11 @@ FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent) {
 }
 
 void FormDialog::AddButtons(QVBoxLayout* layout, QPushButton* ok, QPushButton* cancel) {
-  cancel_ = cancel;
+  cancel_ = cancel == nullptr ? ok : cancel;
   ok->setDefault(true);
   auto* const row = new QDialogButtonBox(this);
   row->addButton(ok, QDialogButtonBox::AcceptRole);
-  row->addButton(cancel, QDialogButtonBox::RejectRole);
+  if (cancel != nullptr) row->addButton(cancel, QDialogButtonBox::RejectRole);
   layout->addStretch();
   layout->addWidget(row);
 }

@@ -16,7 +16,8 @@ class FormDialog : public QDialog {
 
  protected:
   /// Puts the buttons into a row at the end of the layout; Enter is `ok` unless another button has the focus.
-  void AddButtons(QVBoxLayout* layout, QPushButton* ok, QPushButton* cancel);
+  /// Without `cancel` Escape is `ok` too.
+  void AddButtons(QVBoxLayout* layout, QPushButton* ok, QPushButton* cancel = nullptr);
 
  private:
   QPushButton* cancel_ = nullptr;

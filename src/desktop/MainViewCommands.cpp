@@ -93,7 +93,7 @@ void MainView::AddMenus() {
             {Separator},
             {&frmMain::mnuOptionsDigits, "d"}});
   MakeMenu(form_, bar, "&Help",
-           {{&frmMain::mnuHelpContents, "c", QKeySequence::HelpContents},
+           {{&frmMain::mnuHelpContents, "c"},
             {&frmMain::mnuHelpIndex, "i"},
             {Separator},
             {&frmMain::mnuHelpAbout, "a"}});

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QShortcut>
 
+#include "desktop/AboutView.h"
 #include "desktop/Bind.h"
 #include "desktop/DigitsView.h"
 #include "desktop/GraphSettingsView.h"
@@ -16,6 +18,7 @@
 #include "desktop/TableSettingsView.h"
 #include "desktop/TableView.h"
 #include "desktop/Text.h"
+#include "help/HTMLHelp.h"
 
 namespace {
 
@@ -30,7 +33,7 @@ constexpr QWidget* (*Makers[])(Form&, QWidget*) = {
     Make<frmMannParam, MannParamView>, Make<frmGraphSettings, GraphSettingsView>,
     Make<frmGraph, GraphView>,         Make<frmTableSettings, TableSettingsView>,
     Make<frmTable, TableView>,         Make<frmIrreg, IrregView>,
-    Make<frmSection, SectionView>};
+    Make<frmSection, SectionView>,     Make<frmAbout, AboutView>};
 
 QWidget* MakeView(Form& form, QWidget* parent) {
   for (const auto make : Makers) {
@@ -83,6 +86,8 @@ void QtWindowHost::Open(Form& form) {
     w.setWindowTitle(ToQt(caption).replace(mark, mark + mark) + mark);
   });
   window->installEventFilter(new CloseAsksForm(form, window));
+  auto* const help = new QShortcut(QKeySequence::HelpContents, window);
+  QObject::connect(help, &QShortcut::activated, window, [&form] { HTMLHelp::ShowFor(form); });
   form.UnloadView = [window] {
     window->hide();
     window->deleteLater();

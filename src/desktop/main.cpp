@@ -8,6 +8,7 @@
 
 #include "app/Declarations.h"
 #include "app/SettingsFile.h"
+#include "desktop/QtHelpViewer.h"
 #include "desktop/QtPrinter.h"
 #include "desktop/QtServices.h"
 #include "desktop/QtWindowHost.h"
@@ -35,7 +36,8 @@ int main(int argc, char* argv[]) {
   QtPrinterDialog printerDialog;
   QtClock clock;
   QtProgress progress;
-  Program program({clipboard, messageBox, fileDialog, windows, printerDialog, clock, progress});
+  QtHelpViewer helpViewer(QtHelpViewer::Paths());
+  Program program({clipboard, messageBox, fileDialog, windows, printerDialog, clock, progress, helpViewer});
   program.Start();
   Recovery recovery(program.Main);
   QObject::connect(windows.WindowOf(program.Main), &QObject::destroyed, &application,

@@ -103,6 +103,19 @@ class Progress {
   virtual bool Show(const std::string& text, int done, int total) = 0;
 };
 
+/// The window that shows the help file, beside whatever form is open.
+class HelpViewer {
+ public:
+  virtual ~HelpViewer() = default;
+  // Each brings the window to the front, opened where it was left, and is false when no help file can be
+  // read.
+  virtual bool ShowContents() = 0;
+  virtual bool ShowIndex() = 0;
+  /// The page, at the element with the id `anchor` where it has one.
+  virtual bool ShowPage(const std::string& page, const std::string& anchor) = 0;
+  virtual void Close() = 0;
+};
+
 /// Shows forms and keeps the order in which they lie above each other.
 class WindowHost {
  public:
@@ -133,6 +146,7 @@ struct Services {
   PrinterDialog& printerDialog;
   Clock& clock;
   Progress& progress;
+  HelpViewer& helpViewer;
 };
 
 /// Makes these the services of the program; they must outlive its windows.

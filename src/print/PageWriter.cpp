@@ -14,11 +14,6 @@ constexpr int CellGap = 60;  // so that a condensed text does not touch its neig
 constexpr PrintFont TitleFont{"Arial", 12, true};
 constexpr PrintFont FooterFont{"Arial", 8, false, true};
 
-std::string ProgramVersion() {
-  return "v" + std::to_string(VersionMajor) + "." + std::to_string(VersionMinor) + "." +
-         std::to_string(VersionRevision);
-}
-
 }  // namespace
 
 PageWriter::PageWriter(Printer& printer, const frmMain& main) : printer_(printer), main_(main) {
@@ -61,7 +56,7 @@ void PageWriter::Footer() {
   printer_.Line(Layout::LeftMargin, FooterRule(), Right(), FooterRule(), RuleWidth);
   MoveTo(printer_.PageHeight() - FooterText);
   Line(Declarations::FilePath + "    " + TheServices().clock.ShortDate());
-  Line(ProgramVersion());
+  Line(std::string("v") + VersionName);
 }
 
 void PageWriter::NextPage() {

@@ -5,6 +5,8 @@
 #include "app/InitialFile.h"
 #include "app/frmDigits.h"
 #include "app/frmMannParam.h"
+#include "help/HTMLHelp.h"
+#include "help/frmAbout.h"
 #include "print/Print.h"
 #include "rating/OpenRating.h"
 #include "section/frmIrreg.h"
@@ -53,4 +55,16 @@ void Program::PrintReport() {
 }
 void Program::PreviewReport() {
   Print::ToPreview(Print::Report(Main));
+}
+void Program::OpenHelpContents() {
+  HTMLHelp::ShowContents();
+}
+void Program::OpenHelpIndex() {
+  HTMLHelp::ShowIndex();
+}
+void Program::CloseHelp() {
+  HTMLHelp::Close();
+}
+void Program::OpenAbout() {
+  ShowModal<frmAbout>();
 }

@@ -26,4 +26,8 @@ class Program : private SubWindows {
   void OpenTable() override;
   void PrintReport() override;
   void PreviewReport() override;
+  void OpenHelpContents() override;
+  void OpenHelpIndex() override;
+  void CloseHelp() override;
+  void OpenAbout() override;
 };

@@ -29,6 +29,7 @@ class Windows : public Desk {
     check(main_);
     InModal(main_.mnuOptionsDigits, check);
     InModal(main_.cmdMannParams, check);
+    InModal(main_.mnuHelpAbout, check);
   }
 
   void InEveryType(const std::function<void()>& check) {

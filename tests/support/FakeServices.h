@@ -96,6 +96,26 @@ class FakeProgress : public Progress {
   std::vector<std::string> Reports;  ///< "text done/total"
 };
 
+/// Remembers what was shown, a line each.
+class FakeHelpViewer : public HelpViewer {
+ public:
+  bool ShowContents() override { return Show("contents"); }
+  bool ShowIndex() override { return Show("index"); }
+  bool ShowPage(const std::string& page, const std::string& anchor) override {
+    return Show(page + "#" + anchor);
+  }
+  void Close() override { Calls.emplace_back("close"); }
+
+  bool HasFile = true;
+  std::vector<std::string> Calls;
+
+ private:
+  bool Show(const std::string& what) {
+    Calls.push_back(what);
+    return HasFile;
+  }
+};
+
 struct FakeServices {
   FakeClipboard clipboard;
   FakeMessageBox messageBox;
@@ -103,8 +123,9 @@ struct FakeServices {
   FakePrinterDialog printerDialog;
   FakeClock clock;
   FakeProgress progress;
+  FakeHelpViewer helpViewer;
 
   Services With(WindowHost& windows) {
-    return {clipboard, messageBox, fileDialog, windows, printerDialog, clock, progress};
+    return {clipboard, messageBox, fileDialog, windows, printerDialog, clock, progress, helpViewer};
   }
 };

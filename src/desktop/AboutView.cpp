@@ -1,0 +1,69 @@
+// See AboutView.h.
+#include "desktop/AboutView.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "desktop/Appearance.h"
+#include "desktop/Bind.h"
+
+namespace {
+
+/// The text with its lines kept and its addresses as links.
+QString WithLinks(const QString& text, const QPalette& palette) {
+  static const QRegularExpression address(QStringLiteral("(https?://[^\\s)]+)"));
+  return text.toHtmlEscaped()
+      .replace(address, QStringLiteral("<a style=\"color: %1\" href=\"\\1\">\\1</a>")
+                            .arg(Appearance::Neutral(palette).name()))
+      .replace(QLatin1Char('\n'), QLatin1String("<br>"));
+}
+
+QLabel* Paragraph(Label& label, QWidget* parent) {
+  QLabel* const text = Bind::Caption(label, parent);
+  text->setTextFormat(Qt::RichText);
+  text->setText(WithLinks(text->text(), text->palette()));
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+  text->setOpenExternalLinks(true);
+  const int em = text->fontMetrics().height();
+  text->setMinimumWidth(
+      qMin(text->fontMetrics().averageCharWidth() * 78, text->screen()->availableSize().width() - 4 * em));
+  return text;
+}
+
+}  // namespace
+
+AboutView::AboutView(frmAbout& form, QWidget* parent) : FormDialog(form, parent) {
+  auto* const column = new QVBoxLayout(this);
+  const int em = fontMetrics().height();
+  auto* const head = new QHBoxLayout;
+  head->setSpacing(em);
+  auto* const picture = new QLabel(this);
+  picture->setPixmap(QApplication::windowIcon().pixmap(4 * em));
+  head->addWidget(picture);
+  auto* const titles = new QVBoxLayout;
+  QLabel* const name = Bind::Caption(form.lblName, this);
+  QFont large = name->font();
+  large.setPointSizeF(large.pointSizeF() * 1.6);
+  large.setBold(true);
+  name->setFont(large);
+  titles->addWidget(name);
+  QLabel* const version = Bind::Caption(form.lblVersion, this);
+  version->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  titles->addWidget(version);
+  head->addLayout(titles, 1);
+  column->addLayout(head);
+  column->setSpacing(em);
+  for (Label* const text : {&form.lblPurpose, &form.lblLicence, &form.lblLibraries})
+    column->addWidget(Paragraph(*text, this));
+  QPushButton* const ok = Bind::Push(form.cmdOK, this);
+  AddButtons(column, ok);
+  ok->setFocus();
+  // Large texts take more than the share of the screen that a dialog is given by itself.
+  const int width = sizeHint().width();
+  resize(width, column->totalHeightForWidth(width));
+}

@@ -1,0 +1,290 @@
+// The help window on a small help file of its own, by keys and clicks, beside the windows that ask for it.
+#include <QAction>
+#include <QDesktopServices>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTextBlock>
+
+#include "desktop/Appearance.h"
+#include "desktop/Desk.h"
+#include "desktop/HelpBrowser.h"
+#include "desktop/QtHelpViewer.h"
+#include "desktop/TopicTree.h"
+#include "help/HTMLHelp.h"
+
+#ifdef HELP_FILE
+
+namespace {
+
+class Help : public Desk {
+ protected:
+  Help() { Use(viewer_); }
+
+  void Use(HelpViewer& viewer) {
+    InstallServices({services_.clipboard, services_.messageBox, services_.fileDialog, windows_,
+                     services_.printerDialog, services_.clock, services_.progress, viewer});
+  }
+
+  HelpWindow& Window() { return *viewer_.Window(); }
+  HelpBrowser& Page() { return *Window().findChild<HelpBrowser*>(); }
+  std::string Shown() { return Page().source().toString().toStdString(); }
+  QTabWidget& Tabs() { return *Window().findChild<QTabWidget*>(); }
+  template <class Widget>
+  Widget& InTab() {
+    auto* const widget = dynamic_cast<Widget*>(Tabs().currentWidget());
+    return widget != nullptr ? *widget : *Tabs().currentWidget()->findChild<Widget*>();
+  }
+  /// The topics of the tab that are shown, one behind the other.
+  std::string Topics() {
+    QStringList topics;
+    for (QTreeWidgetItemIterator each(&InTab<TopicTree>(), QTreeWidgetItemIterator::NotHidden);
+         *each != nullptr; ++each) {
+      topics << (*each)->text(0);
+    }
+    return topics.join(QLatin1Char('|')).toStdString();
+  }
+  void ClickTopic(const char* title) {
+    auto& tree = InTab<TopicTree>();
+    const auto found = tree.findItems(QLatin1String(title), Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(found.size(), 1) << title;
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(found.first()).center());
+  }
+  void Open(HasClick& command) {
+    command.Click();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  }
+  void OpenPage(const char* page) {
+    viewer_.ShowPage(page, "");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  }
+
+  QtHelpViewer viewer_{{QStringLiteral("/no such folder/pages.chm"), QStringLiteral(HELP_FILE)}};
+};
+
+TEST_F(Help, IsNotMadeBeforeItIsAskedFor) {
+  EXPECT_EQ(viewer_.Window(), nullptr);
+  viewer_.Close();
+  EXPECT_EQ(viewer_.Window(), nullptr);
+}
+
+TEST_F(Help, ContentsLeadToPagesAndFollowThem) {
+  Open(main_.mnuHelpContents);
+  EXPECT_EQ(Topics(), "Start|Windows|Main window|Digits & decimals|Pipes");
+  EXPECT_EQ(Shown(), "help:/start.html");
+  ClickTopic("Digits & decimals");
+  EXPECT_EQ(Shown(), "help:/frmDigits.html");
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Shown(), "help:/pipes.html");
+  Key(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(Shown(), "help:/frmDigits.html");
+  EXPECT_EQ(InTab<TopicTree>().currentItem()->text(0), QStringLiteral("Digits & decimals"));
+  Key(Qt::Key_Left, Qt::AltModifier);
+  Key(Qt::Key_Right, Qt::AltModifier);
+  EXPECT_EQ(Shown(), "help:/frmDigits.html");
+  Key(Qt::Key_Home, Qt::AltModifier);
+  EXPECT_EQ(Shown(), "help:/start.html");
+}
+
+TEST_F(Help, TheIndexIsSortedAndFiltered) {
+  Open(main_.mnuHelpIndex);
+  EXPECT_EQ(Topics(), "culvert|depth|critical|full pipe|slope");
+  EXPECT_EQ(QApplication::focusWidget(), &InTab<QLineEdit>());
+  Keys("crit");
+  EXPECT_EQ(Topics(), "depth|critical");
+  InTab<QLineEdit>().clear();
+  Keys("DEPTH");
+  EXPECT_EQ(Topics(), "depth|critical");
+  InTab<QLineEdit>().clear();
+  Keys("ull");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Shown(), "help:/pipes.html#full");
+  EXPECT_GT(Page().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(Help, SearchFindsThePagesThatHaveEveryWordAndMarksThem) {
+  Open(main_.mnuHelpContents);
+  Key(Qt::Key_S, Qt::AltModifier);
+  Keys("slope");
+  EXPECT_EQ(Topics(), "Main window|Pipes|Start");
+  Keys(" pipe");
+  EXPECT_EQ(Topics(), "Pipes");
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Shown(), "help:/pipes.html");
+  QStringList marked;
+  for (const QTextEdit::ExtraSelection& mark : Page().extraSelections()) marked << mark.cursor.selectedText();
+  EXPECT_EQ(marked.join(QLatin1Char(' ')).toStdString(), "slope Pipe pipe pipe");
+  Keys(" submarine");
+  EXPECT_EQ(Topics(), "");
+  EXPECT_TRUE(InTab<TopicTree>().findChild<QLabel*>()->isVisible());
+}
+
+TEST_F(Help, FindsOnThePageForwardAndBackAndRoundItsEnd) {
+  OpenPage("frmMain.html");
+  Key(Qt::Key_F, Qt::ControlModifier);
+  auto& line = *qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  const auto found = [this] { return Page().textCursor().block().text().toStdString(); };
+  Keys("Paragraph");
+  EXPECT_THAT(found(), testing::StartsWith("Paragraph 1"));
+  Key(Qt::Key_Return);
+  EXPECT_THAT(found(), testing::StartsWith("Paragraph 2"));
+  Key(Qt::Key_F3, Qt::ShiftModifier);
+  Key(Qt::Key_F3, Qt::ShiftModifier);
+  EXPECT_THAT(found(), testing::StartsWith("Paragraph 8"));
+  Key(Qt::Key_F3);
+  EXPECT_THAT(found(), testing::StartsWith("Paragraph 1"));
+  EXPECT_EQ(line.palette().color(QPalette::Base), Window().palette().color(QPalette::Base));
+  Keys("x");
+  EXPECT_EQ(line.palette().color(QPalette::Base), Appearance::OffendingGround(Window().palette()));
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(line.isVisible());
+  EXPECT_TRUE(Window().isVisible());
+}
+
+TEST_F(Help, FirstKeyOpensThePageOfAModalWindowAtItsControlAndLeavesBothUsable) {
+  InModal(main_.mnuOptionsDigits, [this](Form& form) {
+    hands_.Window(form);
+    Key(Qt::Key_F1);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    EXPECT_EQ(Shown(), "help:/frmDigits.html#optSigDigs_3");
+    ClickTopic("Pipes");
+    EXPECT_EQ(Shown(), "help:/pipes.html");
+    hands_.Window(form);
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(form.IsLoaded());
+  });
+  EXPECT_TRUE(Window().isVisible());
+  hands_.Focus(main_.tbSlope);
+  hands_.Window(main_);
+  Key(Qt::Key_F1);
+  EXPECT_EQ(Shown(), "help:/frmMain.html#tbSlope");
+}
+
+TEST_F(Help, KeepsPlaceAndTextSizeWhenOpenedAgain) {
+  OpenPage("pipes.html");
+  const qreal usual = Page().font().pointSizeF();
+  Key(Qt::Key_Plus, Qt::ControlModifier);
+  Key(Qt::Key_Equal, Qt::ControlModifier);
+  EXPECT_EQ(Page().font().pointSizeF(), usual + 2);
+  const QRect place = Window().geometry().translated(30, 20);
+  Window().setGeometry(place);
+  Key(Qt::Key_Escape);
+  EXPECT_FALSE(Window().isVisible());
+  Open(main_.mnuHelpContents);
+  EXPECT_EQ(Shown(), "help:/pipes.html");
+  EXPECT_EQ(Page().font().pointSizeF(), usual + 2);
+  EXPECT_EQ(Window().geometry(), place);
+  Key(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(Page().font().pointSizeF(), usual);
+}
+
+TEST_F(Help, ClosesWithTheProgram) {
+  Open(main_.mnuHelpContents);
+  hands_.Close(main_);
+  EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(Help, LinksLeadToPlacesToAWordForWhatIsGoneAndOut) {
+  OpenPage("start.html");
+  Key(Qt::Key_Tab);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Shown(), "help:/frmMain.html#tbSlope");
+  EXPECT_GT(Page().verticalScrollBar()->value(), 0);
+  Key(Qt::Key_Left, Qt::AltModifier);
+  QTextBrowser elsewhere;
+  QDesktopServices::setUrlHandler(QStringLiteral("https"), &elsewhere, "setSource");
+  Page().setSource(QUrl(QStringLiteral("https://www.example.org/")));
+  QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+  EXPECT_EQ(elsewhere.source().toString(), QStringLiteral("https://www.example.org/"));
+  EXPECT_EQ(Shown(), "help:/start.html");
+  Page().setSource(QUrl(QStringLiteral("gone.html")));
+  EXPECT_THAT(Page().toPlainText().toStdString(), testing::HasSubstr("no page"));
+}
+
+TEST_F(Help, PicturesFitAndWordsAreReadOnLightAndDark) {
+  OpenPage("start.html");
+  for (const int width : {1000, 640}) {
+    Window().resize(width, 500);
+    QTest::qWait(1);
+    EXPECT_EQ(Page().horizontalScrollBar()->maximum(), 0) << width;
+  }
+  const QPalette usual = QApplication::palette();
+  for (const bool dark : {false, true}) {
+    QApplication::setPalette(dark ? QPalette(QColor(40, 44, 48)) : usual);
+    QTest::qWait(1);
+    const QTextCursor link = Page().document()->find(QStringLiteral("slope"));
+    const int difference = link.charFormat().foreground().color().lightness() -
+                           Page().palette().color(QPalette::Base).lightness();
+    EXPECT_GT(dark ? difference : -difference, 80);
+  }
+  QApplication::setPalette(usual);
+}
+
+TEST_F(Help, AFileThatIsMissingIsToldOnce) {
+  QtHelpViewer none({QStringLiteral("/no such folder/pages.chm")});
+  Use(none);
+  main_.mnuHelpContents.Click();
+  EXPECT_EQ(none.Window(), nullptr);
+  EXPECT_EQ(services_.messageBox.Boxes.size(), 1U);
+}
+
+TEST_F(Help, AFileThatIsCutOffOrChangedAnywhereIsNotRead) {
+  QFile file(QStringLiteral(HELP_FILE));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray whole = file.readAll();
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("pages.chm"));
+  const auto opens = [&path](const QByteArray& bytes) {
+    QFile copy(path);
+    EXPECT_TRUE(copy.open(QIODevice::WriteOnly));
+    copy.write(bytes);
+    copy.close();
+    return HelpFile::Open(path) != nullptr;
+  };
+  EXPECT_TRUE(opens(whole));
+  for (const qsizetype length :
+       {qsizetype{0}, qsizetype{10}, qsizetype{64}, whole.size() / 2, whole.size() - 64, whole.size() - 1}) {
+    EXPECT_FALSE(opens(whole.left(length))) << length;
+  }
+  for (qsizetype at = 0; at < whole.size(); at += 997) {
+    QByteArray changed = whole;
+    changed[at] = static_cast<char>(changed[at] ^ 0x10);
+    EXPECT_FALSE(opens(changed)) << at;
+  }
+  // Whole, but nothing that the decoder knows.
+  EXPECT_FALSE(opens("e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855"));
+}
+
+TEST(HelpTopics, AreReadFromWhateverStandsThere) {
+  struct Case {
+    const char* Text;
+    const char* Read;  // "level title>page;"
+  };
+  const Case cases[] = {
+      {"", ""},
+      {"<ul><li><object><param name=\"Name\" value=\"A &amp; B\"><param name='x'><param NAME=\"Local\" "
+       "VALUE=\"a.html#b\"></object></ul>",
+       "0 A & B>a.html#b;"},
+      {"<UL><OBJECT><param name=\"Name\" value=\"A\"></OBJECT><UL><UL><UL><OBJECT><param name=\"Name\" "
+       "value=\"B\"></OBJECT></UL></UL></UL><OBJECT><param name=\"Name\" value=\"C\"></OBJECT></UL>",
+       "0 A>;1 B>;0 C>;"},
+      {"</ul></ul><object><param name=\"Name\" value=\"A\"></object>", "0 A>;"},
+      {"<ul><object><param name=\"Local\" value=\"a.html\"></object>", ""},
+      {"<ul><object><param name=\"Name\" value=\"A\">", ""},
+      {"<ul><object><param name=\"Name\" value=\"A", ""},
+  };
+  for (const Case& each : cases) {
+    QString read;
+    for (const HelpTopic& topic : ReadHelpTopics(QLatin1String(each.Text)))
+      read += QStringLiteral("%1 %2>%3;").arg(QString::number(topic.Level), topic.Title, topic.Page);
+    EXPECT_EQ(read.toStdString(), each.Read) << each.Text;
+  }
+}
+
+}  // namespace
+
+#endif
