@@ -48,7 +48,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   const QByteArray bytes = file_.Read(PageOf(name));
   switch (type) {
     case QTextDocument::ImageResource: {
-      const QImage picture = QImage::fromData(bytes);
+      const QImage picture = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32_Premultiplied);
       widestPicture_ = qMax(widestPicture_, picture.width());
       pictureRoom_ = PictureRoom();
       return picture.width() <= pictureRoom_ ? picture

@@ -9,6 +9,7 @@
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -32,7 +33,7 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file)
   MakeContents();
   MakeIndex();
   MakeSearch();
-  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) { entries_[tab]->setFocus(); });
+  tabs_->tabBar()->installEventFilter(this);
   MakeTools();
 
   auto* const right = new QWidget(this);
@@ -197,6 +198,13 @@ void HelpWindow::ShowPage(const QString& page, const QString& place) {
   if (!file_->Read(page).isEmpty()) page_->Go(place.isEmpty() ? page : page + QLatin1Char('#') + place);
   BringToFront();
   page_->setFocus();
+}
+
+/// A tab that is chosen, by its letter or the mouse, has the keyboard, also when it was in front already.
+bool HelpWindow::eventFilter(QObject* tabBar, QEvent* event) {
+  if (event->type() == QEvent::Shortcut || event->type() == QEvent::MouseButtonRelease)
+    QTimer::singleShot(0, this, [this] { entries_[tabs_->currentIndex()]->setFocus(); });
+  return QMainWindow::eventFilter(tabBar, event);
 }
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {

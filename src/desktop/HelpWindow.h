@@ -28,6 +28,7 @@ class HelpWindow : public QMainWindow {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* tabBar, QEvent* event) override;
 
  private:
   QList<HelpTopic> Topics(const QString& suffix) const;

@@ -109,6 +109,7 @@ TEST_F(Help, TheIndexIsSortedAndFiltered) {
 TEST_F(Help, SearchFindsThePagesThatHaveEveryWordAndMarksThem) {
   Open(main_.mnuHelpContents);
   Key(Qt::Key_S, Qt::AltModifier);
+  QTest::qWait(1);
   Keys("slope");
   EXPECT_EQ(Topics(), "Main window|Pipes|Start");
   Keys(" pipe");
