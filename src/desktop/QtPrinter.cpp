@@ -3,7 +3,6 @@
 
 #include <qcustomplot.h>
 
-#include <QApplication>
 #include <QFontMetricsF>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -11,6 +10,7 @@
 #include <cmath>
 
 #include "app/Declarations.h"
+#include "desktop/FrontWindow.h"
 #include "desktop/PaperChart.h"
 #include "desktop/Text.h"
 
@@ -103,7 +103,7 @@ QPrinter& QtPrinterDialog::Device(const PrintRequest& request) {
 
 Printer* QtPrinterDialog::Choose(const PrintRequest& request) {
   QPrinter& device = Device(request);
-  QPrintDialog dialog(&device, QApplication::activeWindow());
+  QPrintDialog dialog(&device, FrontWindow());
   dialog.setWindowTitle(ToQt(request.Title));
   dialog.setWindowModality(Qt::WindowModal);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
@@ -112,7 +112,7 @@ Printer* QtPrinterDialog::Choose(const PrintRequest& request) {
 }
 
 void QtPrinterDialog::Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) {
-  QPrintPreviewDialog dialog(&Device(request), QApplication::activeWindow());
+  QPrintPreviewDialog dialog(&Device(request), FrontWindow());
   dialog.setWindowModality(Qt::WindowModal);
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&write](QPrinter* device) {
     QtPrinter printer(*device);

@@ -1,15 +1,16 @@
 // See QtServices.h.
 #include "desktop/QtServices.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QDate>
 #include <QDir>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QMessageBox>
 #include <QRegularExpression>
 
+#include "desktop/FrontWindow.h"
 #include "desktop/Text.h"
 
 namespace {
@@ -37,10 +38,9 @@ void QtClipboard::SetText(const std::string& text) {
 BoxAnswer QtMessageBox::Show(const std::string& text, const std::string& title, BoxIcon icon,
                              BoxButtons buttons) {
   const bool asks = buttons == BoxButtons::YesNoCancel;
-  QMessageBox box(icon == BoxIcon::Exclamation ? QMessageBox::Warning : QMessageBox::Information, ToQt(title),
-                  ToQt(text),
-                  asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel : QMessageBox::Ok,
-                  QApplication::activeWindow());
+  QMessageBox box(
+      icon == BoxIcon::Exclamation ? QMessageBox::Warning : QMessageBox::Information, ToQt(title), ToQt(text),
+      asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel : QMessageBox::Ok, FrontWindow());
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::WindowModal);
   switch (box.exec()) {
@@ -78,7 +78,7 @@ QString SuffixOf(const QString& nameFilter) {
 
 std::optional<std::string> QtFileDialog::Choose(const FileDialogRequest& request) {
   const QString folder = ToQt(request.Folder);
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(request.Title),
+  QFileDialog dialog(FrontWindow(), ToQt(request.Title),
                      !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath());
   dialog.setWindowModality(Qt::WindowModal);
   dialog.setNameFilters(NameFilters(request.Filter));
@@ -107,8 +107,8 @@ bool QtProgress::Show(const std::string& text, int done, int total) {
     return true;
   }
   if (!dialog_) {
-    dialog_ = std::make_unique<QProgressDialog>(ToQt(text), QProgressDialog::tr("Cancel"), 0, total,
-                                                QApplication::activeWindow());
+    dialog_ =
+        std::make_unique<QProgressDialog>(ToQt(text), QProgressDialog::tr("Cancel"), 0, total, FrontWindow());
     dialog_->setWindowModality(Qt::WindowModal);
     dialog_->setMinimumDuration(500);
   }

@@ -9,6 +9,7 @@
 #include "desktop/AboutView.h"
 #include "desktop/Bind.h"
 #include "desktop/DigitsView.h"
+#include "desktop/FrontWindow.h"
 #include "desktop/GraphSettingsView.h"
 #include "desktop/GraphView.h"
 #include "desktop/IrregView.h"
@@ -78,7 +79,7 @@ QWidget* QtWindowHost::WindowOf(const Form& form) const {
 
 void QtWindowHost::Open(Form& form) {
   if (!form.IsLoaded()) return;
-  QWidget* const window = MakeView(form, QApplication::activeWindow());
+  QWidget* const window = MakeView(form, FrontWindow());
   windows_[&form] = window;
   Bind::Join(form.Caption, window, [](QWidget& w, const std::string& caption) {
     // "[*]" is where Qt marks a changed document; one in the caption itself is doubled to stay as it is.

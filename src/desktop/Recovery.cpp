@@ -1,7 +1,6 @@
 // See Recovery.h.
 #include "desktop/Recovery.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -12,6 +11,7 @@
 #include <exception>
 
 #include "app/Declarations.h"
+#include "desktop/FrontWindow.h"
 #include "desktop/Text.h"
 
 namespace {
@@ -34,7 +34,7 @@ std::optional<bool> Ask(const QString& projectName, const QDateTime& time) {
                   QStringLiteral("Flumewise ended without saving your work on %1.")
                       .arg(projectName.isEmpty() ? QStringLiteral("a project without a name")
                                                  : QStringLiteral("\"%1\"").arg(projectName)),
-                  QMessageBox::NoButton, QApplication::activeWindow());
+                  QMessageBox::NoButton, FrontWindow());
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::WindowModal);
   box.setInformativeText(

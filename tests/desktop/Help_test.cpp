@@ -11,6 +11,7 @@
 
 #include "desktop/Appearance.h"
 #include "desktop/Desk.h"
+#include "desktop/FrontWindow.h"
 #include "desktop/HelpBrowser.h"
 #include "desktop/QtHelpViewer.h"
 #include "desktop/TopicTree.h"
@@ -163,6 +164,16 @@ TEST_F(Help, FirstKeyOpensThePageOfAModalWindowAtItsControlAndLeavesBothUsable) 
   hands_.Window(main_);
   Key(Qt::Key_F1);
   EXPECT_EQ(Shown(), "help:/frmMain.html#tbSlope");
+}
+
+TEST_F(Help, OwnsNoQuestionOfTheProgramWhileItHasTheKeyboard) {
+  Open(main_.mnuHelpContents);
+  EXPECT_EQ(FrontWindow(), windows_.WindowOf(main_));
+  InModal(main_.mnuOptionsDigits, [this](Form& form) {
+    EXPECT_EQ(windows_.WindowOf(form)->parentWidget(), windows_.WindowOf(main_));
+    Open(main_.mnuHelpContents);
+    EXPECT_EQ(FrontWindow(), windows_.WindowOf(form));
+  });
 }
 
 TEST_F(Help, KeepsPlaceAndTextSizeWhenOpenedAgain) {
