@@ -1,6 +1,7 @@
 // See HelpBrowser.h.
 #include "desktop/HelpBrowser.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QEvent>
 #include <QImage>
@@ -13,9 +14,6 @@ namespace {
 
 // A scheme of our own: a page or picture is never looked for among the files of the machine.
 const QString Scheme = QStringLiteral("help");
-
-constexpr int MostSteps = 10;
-constexpr int LeastSteps = -4;
 
 }  // namespace
 
@@ -104,9 +102,9 @@ void HelpBrowser::Highlight(const QStringList& words) {
 }
 
 void HelpBrowser::ScaleText(int steps) {
-  const int before = steps_;
-  steps_ = steps == 0 ? 0 : qBound(LeastSteps, steps_ + steps, MostSteps);
-  zoomIn(steps_ - before);
+  const double usual = QApplication::font(this).pointSizeF();
+  const double now = font().pointSizeF();  // the wheel changes it too
+  zoomInF(static_cast<float>((steps == 0 ? usual : qBound(usual / 2, now + steps, usual * 3)) - now));
 }
 
 /// Builds the page anew, at the same place.

@@ -19,7 +19,7 @@ class HelpBrowser : public QTextBrowser {
   /// Marks the words wherever they stand on the page and brings the first into sight.
   void Highlight(const QStringList& words);
 
-  /// Larger or smaller by so many steps; 0 is the size of the desktop again.
+  /// Larger or smaller by so many points; 0 is the size of the desktop again.
   void ScaleText(int steps);
 
  protected:
@@ -37,7 +37,6 @@ class HelpBrowser : public QTextBrowser {
 
   const HelpFile& file_;
   QStringList words_;  // marked on the page
-  int steps_ = 0;
   int widestPicture_ = 0;  // of the page, in pixels of its own
   int pictureRoom_ = 0;    // that the pictures were fitted into
 };

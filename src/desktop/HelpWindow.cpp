@@ -100,7 +100,6 @@ void HelpWindow::MakeIndex() {
   index_ = new TopicTree(
       tr("Index"), [this](const QString& page) { page_->Go(page); }, tabs_);
   index_->Show(Topics(QStringLiteral(".hhk")));
-  index_->sortItems(0, Qt::AscendingOrder);
   index_->expandAll();
   connect(filter_, &QLineEdit::textChanged, index_, &TopicTree::Filter);
   AddTab(tr("&Index"), tr("&Keyword"), filter_, index_);

@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextBlock>
+#include <QWheelEvent>
 
 #include "desktop/Appearance.h"
 #include "desktop/Desk.h"
@@ -91,7 +92,7 @@ TEST_F(Help, ContentsLeadToPagesAndFollowThem) {
   EXPECT_EQ(Shown(), "help:/start.html");
 }
 
-TEST_F(Help, TheIndexIsSortedAndFiltered) {
+TEST_F(Help, TheIndexIsFiltered) {
   Open(main_.mnuHelpIndex);
   EXPECT_EQ(Topics(), "culvert|depth|critical|full pipe|slope");
   EXPECT_EQ(QApplication::focusWidget(), &InTab<QLineEdit>());
@@ -190,6 +191,11 @@ TEST_F(Help, KeepsPlaceAndTextSizeWhenOpenedAgain) {
   EXPECT_EQ(Shown(), "help:/pipes.html");
   EXPECT_EQ(Page().font().pointSizeF(), usual + 2);
   EXPECT_EQ(Window().geometry(), place);
+  // The wheel changes the size too.
+  QWheelEvent wheel({9, 9}, Page().viewport()->mapToGlobal(QPointF(9, 9)), {}, {0, 120}, {},
+                    Qt::ControlModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(Page().viewport(), &wheel);
+  EXPECT_GT(Page().font().pointSizeF(), usual + 2);
   Key(Qt::Key_0, Qt::ControlModifier);
   EXPECT_EQ(Page().font().pointSizeF(), usual);
 }

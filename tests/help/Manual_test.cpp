@@ -1,5 +1,7 @@
 // The manual is whole and true: its links lead somewhere, every window and control is explained, and the
 // answers of its worked examples are those of the program.
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -90,6 +92,17 @@ TEST(Manual, ContentsAndIndexLeadToPagesAndNoPageIsLeftOut) {
       for (const std::string& lead : leads) unlisted.erase(lead.substr(0, lead.find('#')));
   }
   EXPECT_THAT(unlisted, IsEmpty());
+}
+
+TEST(Manual, TheIndexIsInTheOrderOfTheAlphabet) {
+  const auto index = Files({".hhk"});
+  ASSERT_EQ(index.size(), 1U);
+  Texts keywords = Matches(index.begin()->second, R"re(<param\s+name="Name"\s+value="([^"]*)")re");
+  EXPECT_GT(keywords.size(), 100U);
+  for (std::string& keyword : keywords)
+    std::transform(keyword.begin(), keyword.end(), keyword.begin(),
+                   [](unsigned char c) { return std::tolower(c); });
+  EXPECT_EQ(std::is_sorted_until(keywords.begin(), keywords.end()), keywords.end());
 }
 
 TEST(Manual, TheProjectNamesEveryFileAsItIsSpelled) {
