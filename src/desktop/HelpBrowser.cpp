@@ -10,13 +10,6 @@
 
 #include "desktop/Appearance.h"
 
-namespace {
-
-// A scheme of our own: a page or picture is never looked for among the files of the machine.
-const QString Scheme = QStringLiteral("help");
-
-}  // namespace
-
 HelpBrowser::HelpBrowser(const HelpFile& file, QWidget* parent) : QTextBrowser(parent), file_(file) {
   setAccessibleName(tr("Help page"));
   document()->setDocumentMargin(fontMetrics().height());
@@ -25,8 +18,9 @@ HelpBrowser::HelpBrowser(const HelpFile& file, QWidget* parent) : QTextBrowser(p
   TakeColours();
 }
 
+// With a scheme of its own no page or picture is ever looked for among the files of the machine.
 void HelpBrowser::Go(const QString& page) {
-  setSource(QUrl(Scheme + QLatin1String(":/") + page));
+  setSource(QUrl(QLatin1String("help:/") + page));
 }
 
 QString HelpBrowser::PageOf(const QUrl& url) {

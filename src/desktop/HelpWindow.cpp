@@ -194,7 +194,11 @@ void HelpWindow::ShowTab(QWidget* entry) {
 }
 
 void HelpWindow::ShowPage(const QString& page, const QString& place) {
-  if (!file_->Read(page).isEmpty()) page_->Go(place.isEmpty() ? page : page + QLatin1Char('#') + place);
+  if (!file_->Read(page).isEmpty()) {
+    page_->Go(place.isEmpty() ? page : page + QLatin1Char('#') + place);
+  } else if (page_->source().isEmpty()) {
+    GoHome();
+  }
   BringToFront();
   page_->setFocus();
 }

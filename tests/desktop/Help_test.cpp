@@ -177,6 +177,11 @@ TEST_F(Help, OwnsNoQuestionOfTheProgramWhileItHasTheKeyboard) {
   });
 }
 
+TEST_F(Help, AWindowWithoutAPageIsSentToTheFirst) {
+  OpenPage("frmNobody.html");
+  EXPECT_EQ(Shown(), "help:/start.html");
+}
+
 TEST_F(Help, KeepsPlaceAndTextSizeWhenOpenedAgain) {
   OpenPage("pipes.html");
   const qreal usual = Page().font().pointSizeF();
