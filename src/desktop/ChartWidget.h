@@ -15,6 +15,7 @@ class EmptyNote;
 class QAction;
 class QCPItemText;
 class QCPItemTracer;
+class QCPPainter;
 
 class ChartWidget : public QWidget {
  public:
@@ -31,8 +32,11 @@ class ChartWidget : public QWidget {
   QAction* LogarithmicAction() const { return logarithmic_; }
   const QList<QAction*>& ZoomActions() const { return zooms_; }
 
-  /// Draws the part that is shown over `size` pixels of the device, in the colours of a light desktop.
-  void PaintOn(QPaintDevice& device, QSize size) const;
+  /// The widget that shows the chart; null when none does.
+  static const ChartWidget* Of(const XYChart& chart);
+
+  /// Draws the part that is shown over `size` pixels, in the colours of a light desktop.
+  void Paint(QCPPainter& painter, QSize size, const QFont& font) const;
 
   ChartPlot& Plot() const { return *plot_; }
   /// The point read off, in words; empty when there is none.

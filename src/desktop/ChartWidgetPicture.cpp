@@ -1,7 +1,7 @@
 // The pictures of a chart for paper, clipboard and files. See ChartWidget.h.
+#include <QApplication>
 #include <QBuffer>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QMimeData>
 #include <QPageSize>
 #include <QPdfWriter>
@@ -18,12 +18,15 @@ namespace {
 constexpr int DotsPerPixel = 2;  // of a picture made of dots, so that it stays sharp in print
 constexpr double PointsPerInch = 72;
 
-using Paint = std::function<void(QPaintDevice&, QSize)>;
+void PaintOn(QPaintDevice& device, const ChartWidget& chart) {
+  QCPPainter painter(&device);
+  chart.Paint(painter, chart.Plot().size(), chart.font());
+}
 
-QImage Dots(const Paint& paint, QSize size) {
-  QImage image(size * DotsPerPixel, QImage::Format_RGB32);
+QImage Dots(const ChartWidget& chart) {
+  QImage image(chart.Plot().size() * DotsPerPixel, QImage::Format_RGB32);
   image.setDevicePixelRatio(DotsPerPixel);
-  paint(image, size);
+  PaintOn(image, chart);
   return image;
 }
 
@@ -32,49 +35,58 @@ int DotsPerInch() {
   return qRound(QGuiApplication::primaryScreen()->logicalDotsPerInch());
 }
 
-void WritePng(const Paint& paint, QSize size, QBuffer& file) {
-  Dots(paint, size).save(&file, "png");
+void WritePng(const ChartWidget& chart, QBuffer& file) {
+  Dots(chart).save(&file, "png");
 }
 
-void WriteSvg(const Paint& paint, QSize size, QBuffer& file) {
+void WriteSvg(const ChartWidget& chart, QBuffer& file) {
   QSvgGenerator drawing;
   drawing.setOutputDevice(&file);
   drawing.setResolution(DotsPerInch());
-  drawing.setSize(size);
-  drawing.setViewBox(QRect({}, size));
+  drawing.setSize(chart.Plot().size());
+  drawing.setViewBox(QRect({}, chart.Plot().size()));
   drawing.setTitle(QLatin1String(Declarations::AppTitle));
-  paint(drawing, size);
+  PaintOn(drawing, chart);
 }
 
-void WritePdf(const Paint& paint, QSize size, QBuffer& file) {
+void WritePdf(const ChartWidget& chart, QBuffer& file) {
   QPdfWriter document(&file);
   document.setResolution(DotsPerInch());
-  document.setPageSize(QPageSize(QSizeF(size) * PointsPerInch / DotsPerInch(), QPageSize::Point));
+  document.setPageSize(
+      QPageSize(QSizeF(chart.Plot().size()) * PointsPerInch / DotsPerInch(), QPageSize::Point));
   document.setPageMargins({});
   document.setCreator(QLatin1String(Declarations::AppTitle));
-  paint(document, size);
+  PaintOn(document, chart);
 }
 
 struct Format {
   const char* Extension;
   const char* MimeType;
-  void (*Write)(const Paint& paint, QSize size, QBuffer& file);
+  void (*Write)(const ChartWidget& chart, QBuffer& file);
 };
 constexpr Format Formats[] = {
     {"png", "image/png", WritePng}, {"svg", "image/svg+xml", WriteSvg}, {"pdf", "application/pdf", WritePdf}};
 
-QByteArray Written(const Format& format, const Paint& paint, QSize size) {
+QByteArray Written(const Format& format, const ChartWidget& chart) {
   QBuffer file;
   file.open(QIODevice::WriteOnly);
-  format.Write(paint, size, file);
+  format.Write(chart, file);
   return file.data();
 }
 
 }  // namespace
 
-void ChartWidget::PaintOn(QPaintDevice& device, QSize size) const {
+const ChartWidget* ChartWidget::Of(const XYChart& chart) {
+  for (const QWidget* const widget : QApplication::allWidgets()) {
+    const auto* const shown = dynamic_cast<const ChartWidget*>(widget);
+    if (shown != nullptr && &shown->chart_ == &chart) return shown;
+  }
+  return nullptr;
+}
+
+void ChartWidget::Paint(QCPPainter& painter, QSize size, const QFont& font) const {
   ChartPlot paper(chart_, nullptr);
-  paper.setFont(font());
+  paper.setFont(font);
   paper.SetColours(Appearance::Paper());
   if (dress_) {
     dress_(paper);
@@ -84,27 +96,21 @@ void ChartWidget::PaintOn(QPaintDevice& device, QSize size) const {
   paper.ShowAs(*plot_);
   if (!chart_.Marked.Get().empty()) paper.ShowLegend(marked_);
   paper.LayOut(size);
-  QCPPainter painter(&device);
   painter.setModes(QCPPainter::PainterModes(QCPPainter::pmNoCaching) | QCPPainter::pmVectorized);
   paper.toPainter(&painter, size.width(), size.height());
 }
 
 std::string ChartWidget::Picture(const std::string& extension) const {
   for (const Format& format : Formats) {
-    if (extension != format.Extension) continue;
-    return Written(
-               format, [this](QPaintDevice& device, QSize size) { PaintOn(device, size); }, plot_->size())
-        .toStdString();
+    if (extension == format.Extension) return Written(format, *this).toStdString();
   }
   return {};
 }
 
 void ChartWidget::Copy() const {
-  const Paint paint = [this](QPaintDevice& device, QSize size) { PaintOn(device, size); };
   auto* const picture = new QMimeData;
-  picture->setImageData(Dots(paint, plot_->size()));
-  for (const Format& format : Formats) {
-    picture->setData(QLatin1String(format.MimeType), Written(format, paint, plot_->size()));
-  }
+  picture->setImageData(Dots(*this));
+  for (const Format& format : Formats)
+    picture->setData(QLatin1String(format.MimeType), Written(format, *this));
   QGuiApplication::clipboard()->setMimeData(picture);
 }

@@ -3,15 +3,18 @@
 
 #include <qcustomplot.h>
 
+#include <QFile>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScreen>
 #include <cmath>
 
 #include "app/Declarations.h"
+#include "desktop/ChartWidget.h"
 #include "desktop/FrontWindow.h"
-#include "desktop/PaperChart.h"
 #include "desktop/Text.h"
 
 namespace {
@@ -19,6 +22,8 @@ namespace {
 constexpr double TwipsOfInch = 1440;
 constexpr double MillimetresOfInch = 25.4;
 constexpr int TwipsOfPoint = 20;
+constexpr int TwipsOfPixel = 15;   // of a screen of 96 dots to the inch, as which a picture is laid out
+constexpr int PicturePixels = 12;  // size of its letters
 
 int Twips(double millimetres) {
   return static_cast<int>(std::lround(millimetres * TwipsOfInch / MillimetresOfInch));
@@ -26,6 +31,20 @@ int Twips(double millimetres) {
 
 QRectF Paper(const QPrinter& device) {
   return device.pageLayout().fullRect(QPageLayout::Millimeter);
+}
+
+QFont SansSerif(const QString& family, int pixels) {
+  QFont font;
+  font.setFamilies({family, QStringLiteral("Liberation Sans")});  // which has the widths of Arial
+  font.setStyleHint(QFont::SansSerif);
+  font.setPixelSize(pixels);
+  return font;
+}
+
+/// Asks the file itself, as Qt does not tell when the disk is full.
+bool IsWhole(const QString& name) {
+  QFile file(name);
+  return file.open(QIODevice::ReadOnly) && file.readAll().trimmed().endsWith("%%EOF");
 }
 
 }  // namespace
@@ -39,10 +58,7 @@ int QtPrinter::PageHeight() const {
 }
 
 void QtPrinter::SetFont(const PrintFont& font) {
-  // Liberation Sans has the widths of Arial.
-  font_.setFamilies({ToQt(font.Name), QStringLiteral("Liberation Sans")});
-  font_.setStyleHint(QFont::SansSerif);
-  font_.setPixelSize(font.Size * TwipsOfPoint);
+  font_ = SansSerif(ToQt(font.Name), font.Size * TwipsOfPoint);
   font_.setBold(font.Bold);
   font_.setItalic(font.Italic);
   font_.setUnderline(font.Underline);
@@ -73,19 +89,34 @@ void QtPrinter::Line(int x1, int y1, int x2, int y2, int penWidth) {
 }
 
 void QtPrinter::Picture(const XYChart& chart, int x, int y, int width, int height) {
-  pages_.back().push_back(
-      [=, &chart](QCPPainter& painter) { PaintChart(painter, chart, QRectF(x, y, width, height)); });
+  const ChartWidget* const shown = ChartWidget::Of(chart);
+  if (shown == nullptr) return;
+  pages_.back().push_back([=](QCPPainter& painter) {
+    painter.save();
+    painter.translate(x, y);
+    painter.scale(TwipsOfPixel, TwipsOfPixel);
+    shown->Paint(painter, QSize(width, height) / TwipsOfPixel,
+                 SansSerif(QStringLiteral("Arial"), PicturePixels));
+    painter.restore();
+  });
 }
 
 bool QtPrinter::End() {
   QCPPainter painter;
   if (!painter.begin(&device_)) return false;
   painter.scale(device_.logicalDpiX() / TwipsOfInch, device_.logicalDpiY() / TwipsOfInch);
-  for (std::size_t page = 0; page < pages_.size(); ++page) {
-    if (page > 0 && !device_.newPage()) return false;
-    for (const Stroke& stroke : pages_[page]) stroke(painter);
+  const int pages = static_cast<int>(pages_.size());
+  bool works = true;
+  bool cancelled = false;
+  for (int page = 0; page < pages && works && !cancelled; ++page) {
+    works = page == 0 || device_.newPage();
+    for (const Stroke& stroke : pages_[static_cast<std::size_t>(page)]) stroke(painter);
+    cancelled = !TheServices().progress.Show("Preparing the pages", page + 1, pages);
   }
-  return painter.end() && device_.printerState() != QPrinter::Error;
+  works = painter.end() && works && device_.printerState() != QPrinter::Error &&
+          (file_.isEmpty() || IsWhole(file_));
+  if ((cancelled || !works) && QFileInfo(file_).isFile()) QFile::remove(file_);
+  return works || cancelled;
 }
 
 QtPrinterDialog::QtPrinterDialog() = default;
@@ -108,14 +139,15 @@ Printer* QtPrinterDialog::Choose(const PrintRequest& request) {
   dialog.setWindowModality(Qt::WindowModal);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   if (dialog.exec() != QDialog::Accepted) return nullptr;
-  return &printer_.emplace(device);
+  return &printer_.emplace(device, device.outputFileName());
 }
 
 void QtPrinterDialog::Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) {
   QPrintPreviewDialog dialog(&Device(request), FrontWindow());
   dialog.setWindowModality(Qt::WindowModal);
+  dialog.resize(dialog.screen()->availableSize() * 4 / 5);
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&write](QPrinter* device) {
-    QtPrinter printer(*device);
+    QtPrinter printer(*device, {});
     write(printer);
   });
   dialog.exec();

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QFont>
+#include <QString>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/Services.h"
@@ -12,10 +14,12 @@
 class QCPPainter;
 class QPrinter;
 
-/// Keeps the pages until the end of the document: one given up reaches no printer and no file.
+/// Keeps the pages until the end of the document. What is cancelled then leaves no file; a printer gets the
+/// pages until there.
 class QtPrinter : public Printer {
  public:
-  explicit QtPrinter(QPrinter& device) : device_(device) {}
+  /// `file`: where the pages go; empty for a printer or the screen.
+  QtPrinter(QPrinter& device, QString file) : device_(device), file_(std::move(file)) {}
 
   int PageWidth() const override;
   int PageHeight() const override;
@@ -25,12 +29,12 @@ class QtPrinter : public Printer {
   void Picture(const XYChart& chart, int x, int y, int width, int height) override;
   void NewPage() override { pages_.emplace_back(); }
   bool End() override;
-  void Abandon() override { pages_.assign(1, {}); }
 
  private:
   using Stroke = std::function<void(QCPPainter&)>;
 
   QPrinter& device_;
+  const QString file_;
   QFont font_;
   std::vector<std::vector<Stroke>> pages_{1};
 };

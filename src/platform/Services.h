@@ -67,10 +67,9 @@ class Printer {
   /// The chart as it is now, in light colours; it must live until the end of the document.
   virtual void Picture(const XYChart& chart, int x, int y, int width, int height) = 0;
   virtual void NewPage() = 0;
-  /// Ends the document and sends its pages; false when they cannot be printed.
+  /// Ends the document and sends its pages, telling how far it has come; false when they cannot be printed.
+  /// That the person cancels is no failure.
   virtual bool End() = 0;
-  /// Gives the document up: nothing of it is printed.
-  virtual void Abandon() = 0;
 };
 
 struct PrintRequest {

@@ -119,20 +119,13 @@ class TableWriter {
     for (int row = 1; row <= last; ++row) {
       Row(row);
       if (row == last || page_.Y() <= printer_.PageHeight() - TableBottom) continue;
-      if (!Tell(row, last)) {
-        printer_.Abandon();
-        return;
-      }
       page_.NextPage();
       Heads();
     }
-    Tell(last, last);
     End(page_, printer_);
   }
 
  private:
-  static bool Tell(int row, int last) { return TheServices().progress.Show("Printing the table", row, last); }
-
   void Heads() {
     page_.SetFont(TableHeadFont);
     Row(0);

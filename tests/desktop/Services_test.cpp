@@ -9,21 +9,11 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
-#include <QTimer>
 
+#include "desktop/Dialogs.h"
 #include "desktop/QtServices.h"
 
 namespace {
-
-/// Runs `act` on the dialog that is about to open.
-template <class Dialog>
-void WhenOpen(const std::function<void(Dialog&)>& act) {
-  QTimer::singleShot(0, qApp, [act] {
-    auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    act(*dialog);
-  });
-}
 
 TEST(DesktopServices, AnswersOfAMessageBox) {
   QtMessageBox boxes;

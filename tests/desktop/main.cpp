@@ -5,6 +5,7 @@
 
 int main(int argc, char* argv[]) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("CUPS_SERVER", "/no/printer");  // no test may reach a printer of this machine
   testing::InitGoogleTest(&argc, argv);
   const QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);

@@ -111,18 +111,6 @@ TEST_P(RatingPages, AGridOfTooManyColumnsIsAFault) {
   EXPECT_THROW(Print::ToPrinter(Print::Table(Main, form.Grid)), std::out_of_range);
 }
 
-TEST_P(RatingPages, AGreatTableTellsItsProgressAndCanBeGivenUp) {
-  PrintGrid(10000);
-  EXPECT_EQ(Pages(), 173);  // 10000 / 58
-  EXPECT_EQ(Fakes.progress.Reports.size(), 173U);
-  EXPECT_EQ(Fakes.progress.Reports.front(), "Printing the table 58/10000");
-  EXPECT_EQ(Fakes.progress.Reports.back(), "Printing the table 10000/10000") << "else the bar stays";
-  Fakes.progress.CancelAt = 580;
-  PrintGrid(10000);
-  EXPECT_THAT(Paper.Calls, IsEmpty()) << "nothing is printed of what was given up";
-  EXPECT_THAT(Fakes.messageBox.Boxes, IsEmpty());
-}
-
 TEST_P(RatingPages, TheTableWindowPrintsItsCells) {
   TypeRectangle();
   RatingRange.VaryCode = 1;

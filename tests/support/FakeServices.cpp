@@ -58,18 +58,12 @@ void FakePrinter::Picture(const XYChart&, int x, int y, int width, int height) {
 
 bool FakePrinter::End() {
   Calls.emplace_back("end");
-  ended_ = Calls.size();
   return Works;
 }
 
 std::vector<std::string> FakePrinter::TakeCalls() {
-  ended_ = 0;
   Texts.clear();
   return std::exchange(Calls, {});
-}
-
-void FakePrinter::Abandon() {
-  Calls.resize(ended_);
 }
 
 Printer* FakePrinterDialog::Choose(const PrintRequest& request) {

@@ -41,7 +41,7 @@ class FakeFileDialog : public FileDialog {
   std::vector<FileDialogRequest> Requests;
 };
 
-/// Writes down what it is told, a line each, and forgets a document that is given up.
+/// Writes down what it is told, a line each.
 class FakePrinter : public Printer {
  public:
   int Width = 12240, Height = 15840;  ///< twips: Letter
@@ -65,10 +65,6 @@ class FakePrinter : public Printer {
   void Picture(const XYChart& chart, int x, int y, int width, int height) override;
   void NewPage() override { Calls.emplace_back("newpage"); }
   bool End() override;
-  void Abandon() override;
-
- private:
-  std::size_t ended_ = 0;  // calls of documents that are complete
 };
 
 class FakePrinterDialog : public PrinterDialog {
