@@ -7,12 +7,6 @@
 
 namespace {
 
-Console::Stage WidgetStage(std::function<void(Form&)> wait) {
-  auto windows = std::make_unique<TestHost>(std::move(wait));
-  auto hands = std::make_unique<WidgetHands>(*windows);
-  return {std::move(windows), std::move(hands)};
-}
-
 class Replay : public testing::TestWithParam<const char*> {};
 
 TEST_P(Replay, GoesAsWritten) {

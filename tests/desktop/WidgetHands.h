@@ -3,9 +3,10 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <utility>
 
-#include "console/Hands.h"
+#include "console/Console.h"
 #include "desktop/QtWindowHost.h"
 
 /// Real windows whose modal ones wait by calling a function, so that a test can go on.
@@ -51,3 +52,10 @@ class WidgetHands : public Hands {
 
   const QtWindowHost& windows_;
 };
+
+/// The stage of a conversation with the real widgets.
+inline Console::Stage WidgetStage(std::function<void(Form&)> wait) {
+  auto windows = std::make_unique<TestHost>(std::move(wait));
+  auto hands = std::make_unique<WidgetHands>(*windows);
+  return {std::move(windows), std::move(hands)};
+}
