@@ -237,6 +237,17 @@ TEST_F(Windows, KeysWorkTheDialogs) {
   EXPECT_EQ(main_.tbMann.Text.Get(), "0.100");
 }
 
+TEST_F(Windows, TheAboutBoxHasLinksAndEndsByEscape) {
+  InModal(main_.mnuHelpAbout, [this](Form& form) {
+    const auto* const licence = hands_.Window(form).findChild<QLabel*>(QStringLiteral("lblLicence"));
+    EXPECT_THAT(licence->text().toStdString(),
+                testing::HasSubstr("href=\"https://www.gnu.org/licenses/gpl-3.0.html\""));
+    EXPECT_TRUE(licence->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(form.IsLoaded());
+  });
+}
+
 TEST_F(Windows, TheTitleBarBoxAsksAndMayBeRefused) {
   QWidget& window = hands_.Window(main_);
   Keys("4");
