@@ -15,8 +15,7 @@ enum Column { CaptionColumn, SymbolColumn, BoxColumn, UnitColumn };
 QString SymbolText(const FieldPanel::Field& field) {
   const QString symbols = QLatin1String(field.Symbol);
   const bool elevation = field.Caption.Caption.Get().find("WSElev") != std::string::npos;
-  return QStringLiteral("<i>%1</i>")
-      .arg(symbols.section(QLatin1Char('|'), elevation ? -1 : 0, elevation ? -1 : 0));
+  return symbols.section(QLatin1Char('|'), elevation ? -1 : 0, elevation ? -1 : 0);
 }
 
 /// What a screen reader adds to the name of the box: its unit, and why it cannot be used.
@@ -53,6 +52,10 @@ BoxEdit* FieldPanel::AddField(const Field& field) {
   caption->setBuddy(box);
   box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* const symbol = new QLabel(this);
+  // Not as rich text where it can be helped, which takes the window longer to show.
+  QFont italic = symbol->font();
+  italic.setItalic(true);
+  symbol->setFont(italic);
   auto* const unit = field.Unit != nullptr ? Bind::Caption(*field.Unit, this) : new QLabel(this);
   if (field.FixedUnit != nullptr) unit->setText(QLatin1String(field.FixedUnit));
   Bind::Follow(field.Caption.Caption, this, [field, symbol] { symbol->setText(SymbolText(field)); });

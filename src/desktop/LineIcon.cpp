@@ -1,14 +1,13 @@
 // See LineIcon.h.
 #include "desktop/LineIcon.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
-#include <QImageReader>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
+#include <QSvgRenderer>
 
 namespace {
 
@@ -47,11 +46,12 @@ class LineIconEngine : public QIconEngine {
   QPixmap Drawn(const QSize& size, const QString& colour) const {
     QFile file(file_);
     if (!file.open(QIODevice::ReadOnly)) return {};
-    QByteArray drawing = file.readAll().replace("currentColor", colour.toLatin1());
-    QBuffer buffer(&drawing);
-    QImageReader reader(&buffer, "svg");
-    reader.setScaledSize(size);
-    return QPixmap::fromImage(reader.read());
+    QSvgRenderer drawing(file.readAll().replace("currentColor", colour.toLatin1()));
+    QPixmap drawn(size);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    drawing.render(&painter);
+    return drawn;
   }
 
   QString file_;

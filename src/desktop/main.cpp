@@ -1,13 +1,16 @@
 // The program with its window: the calculator on the services of the desktop.
+#include <fontconfig/fontconfig.h>
+
 #include <QApplication>
 #include <QFileInfo>
-#include <QIcon>
 #include <QLocale>
 #include <QSessionManager>
 #include <QTimer>
+#include <thread>
 
 #include "app/Declarations.h"
 #include "app/SettingsFile.h"
+#include "desktop/LineIcon.h"
 #include "desktop/QtHelpViewer.h"
 #include "desktop/QtPrinter.h"
 #include "desktop/QtServices.h"
@@ -18,10 +21,13 @@
 #include "program/Program.h"
 
 int main(int argc, char* argv[]) {
+  // The toolkit reads the fonts' settings when it meets the first text. Here they are read while the display
+  // answers, so that the window shows a tenth sooner.
+  const std::jthread fonts(FcInit);
   QApplication application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(Declarations::AppTitle));
   QApplication::setDesktopFileName(QStringLiteral(FLUMEWISE_ID));
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/flumewise.svg")));
+  QApplication::setWindowIcon(LineIcon("flumewise"));
   // The main window alone ends the program; a message box that closes beside it does not.
   QApplication::setQuitOnLastWindowClosed(false);
 

@@ -19,7 +19,7 @@ MAY_INCLUDE = {
     "program": ["rating", "section", "print", "help", *CALCULATOR],
     "desktop": ["program", "rating", "section", "print", "help", *CALCULATOR],
 }
-WITH_QT = ["src/desktop/", "tests/desktop/"]
+WITH_QT = ["src/desktop/", "tests/desktop/", "bench/desktop/"]
 QT = re.compile(r"Q[A-Z]|Qt|q[a-z]+\.h$|qcustomplot")
 STANDARD = set("""
     algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes climits
