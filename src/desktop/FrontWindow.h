@@ -3,6 +3,6 @@
 
 class QWidget;
 
-/// The newest of the open dialogs, else the main window; null when there is none. Never the help window, which
-/// may have the keyboard: what belonged to it would leave the others free to be changed meanwhile.
+/// The newest of the open dialogs, else the main window; null when there is none. Never the help window,
+/// which may have the keyboard: what belonged to it would leave the others free to be changed meanwhile.
 QWidget* FrontWindow();

@@ -36,7 +36,7 @@ class HelpBrowser : public QTextBrowser {
   void Redraw();
 
   const HelpFile& file_;
-  QStringList words_;  // marked on the page
+  QStringList words_;      // marked on the page
   int widestPicture_ = 0;  // of the page, in pixels of its own
   int pictureRoom_ = 0;    // that the pictures were fitted into
 };

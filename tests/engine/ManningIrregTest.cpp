@@ -5,6 +5,7 @@
 #include <random>
 
 #include "Problem.h"
+#include "engine/Constants.h"
 #include "engine/ManningTrap.h"
 
 namespace {
@@ -140,6 +141,21 @@ TEST_F(ManningIrregTest, SameAsTheTrapezoidOfItsOutline) {
     ASSERT_NEAR(ChannelState.Depth.Number(), datum + y, 1e-6);
     ASSERT_EQ(ChannelState.Flow, Q);
   }
+}
+
+// One bank of 1:1 from the first point up: A = y^2/2 and P = y sqrt 2, so that depth and critical depth have
+// closed forms.
+TEST_F(ManningIrregTest, TheFirstPointMayBeTheLowest) {
+  const double Q = 50, n = 0.03, S = 0.002, datum = 100;
+  SetSection({{0, datum, n}, {40, datum + 40}}, S);
+  ChannelState.Flow = Q;
+  ManningIrreg::IrregDepthFromFlow();
+  const double hydraulicRadiusOfUnitDepth = 1 / (2 * std::sqrt(2.0));
+  const double unitFlow =
+      Constants::ManningK / n / 2 * std::pow(hydraulicRadiusOfUnitDepth, 2 / 3.0) * std::sqrt(S);
+  EXPECT_NEAR(ChannelState.Depth.Number(), datum + std::pow(Q / unitFlow, 3 / 8.0), 2e-6);
+  EXPECT_NEAR(ChannelState.CriticalDepth.Number(), datum + std::pow(8 * Q * Q / Constants::Gravity, 1 / 5.0),
+              2e-6);
 }
 
 TEST_F(ManningIrregTest, LowPoint) {
