@@ -46,15 +46,19 @@ on_the_copy() {
   test -f "$HOME/.config/flumewise/settings.ini"
 }
 
-# copy_of_the_machine FOLDER: a copy on which only new files take room, under FOLDER/root
+# copy_of_the_machine FOLDER: a copy on which only new files take room, under FOLDER/root. It has no other partitions.
 copy_of_the_machine() {
-  mount -t tmpfs tmpfs "$1" && mkdir "$1"/{upper,work,root} &&
+  ! mountpoint -q /usr && ! mountpoint -q /var && mount -t tmpfs tmpfs "$1" && mkdir "$1"/{upper,work,root} &&
     mount -t overlay -o "lowerdir=/,upperdir=$1/upper,workdir=$1/work" overlay "$1/root" &&
     mount --rbind /dev "$1/root/dev" && mount -t proc proc "$1/root/proc"
 }
 
 if [ "$(id -u)" -ne 0 ]; then
   echo "left out: only root can install a package"
+  exit
+fi
+if ! unshare --mount --pid --fork true 2>/dev/null; then
+  echo "left out: this machine lets nobody mount"
   exit
 fi
 folder=$(mktemp -d)
