@@ -23,11 +23,10 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-/// Length of the group separator, or of the plain blank typed for one, that `rest` begins with: 0 unless a
-/// digit follows, as after a blank at the end of the number.
-size_t SeparatorLength(std::string_view rest, std::string_view separator) {
-  const bool itself = !separator.empty() && rest.starts_with(separator);
-  const size_t length = itself ? separator.size() : size_t{rest.starts_with(' ')};
+/// Length of the group separator that `rest` begins with: 0 unless a digit follows, as after a blank at the
+/// end of the number.
+size_t SeparatorLength(std::string_view rest, const NumberLocale& locale) {
+  const size_t length = GroupSeparatorLength(rest, locale);
   return length < rest.size() && IsDigit(rest[length]) ? length : 0;
 }
 
@@ -36,7 +35,7 @@ std::string Respelled(const std::string& text, const NumberLocale& from, const N
   std::string spelled;
   for (std::string_view rest = text; !rest.empty();) {
     const bool afterDigit = !spelled.empty() && IsDigit(spelled.back());
-    const size_t separator = afterDigit ? SeparatorLength(rest, from.GroupSeparator) : 0;
+    const size_t separator = afterDigit ? SeparatorLength(rest, from) : 0;
     if (rest.starts_with(from.DecimalSign)) {
       spelled += to.DecimalSign;
       rest.remove_prefix(from.DecimalSign.size());

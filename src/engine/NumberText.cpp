@@ -32,15 +32,6 @@ size_t DigitsFrom(std::string_view text, size_t start) {
   return end - start;
 }
 
-// Length of the group separator at this place of the text, 0 if there is none. No keyboard has a key for
-// the no-break spaces, so a plain blank stands for them.
-size_t SeparatorAt(std::string_view text, size_t at, std::string_view separator) {
-  if (separator.empty()) return 0;
-  if (text.substr(at).starts_with(separator)) return separator.size();
-  const bool noBreakSpace = separator == "\u00A0" || separator == "\u202F";
-  return noBreakSpace && text.substr(at).starts_with(' ') ? 1 : 0;
-}
-
 // The longest leading number of a text, respelled for from_chars.
 struct ScannedNumber {
   std::string spelling;  // digits, ".", digits, "e", exponent; empty if there is no number
@@ -50,13 +41,13 @@ struct ScannedNumber {
 
 // Whole digits, grouped or plain. A first group that starts with 0 is no group: "0,500" is somebody's
 // decimal comma, not five hundred.
-size_t ScanWholePart(std::string_view text, size_t at, std::string_view separator, std::string& spelling) {
+size_t ScanWholePart(std::string_view text, size_t at, const NumberLocale& locale, std::string& spelling) {
   const size_t count = DigitsFrom(text, at);
   spelling.append(text.substr(at, count));
   const bool mayGroup = count >= 1 && count <= 3 && text[at] != '0';
   at += count;
   while (mayGroup) {
-    const size_t skip = SeparatorAt(text, at, separator);
+    const size_t skip = GroupSeparatorLength(text.substr(at), locale);
     if (skip == 0 || DigitsFrom(text, at + skip) != 3) break;
     spelling.append(text.substr(at + skip, 3));
     at += skip + 3;
@@ -80,7 +71,7 @@ ScannedNumber Scan(std::string_view text, const NumberLocale& locale) {
   size_t at = 0;
   while (at < text.size() && IsBlank(text[at])) ++at;
   if (at < text.size() && (text[at] == '-' || text[at] == '+')) number.negative = text[at++] == '-';
-  at = ScanWholePart(text, at, locale.GroupSeparator, number.spelling);
+  at = ScanWholePart(text, at, locale, number.spelling);
   if (text.substr(at).starts_with(locale.DecimalSign)) {
     const size_t fraction = at + locale.DecimalSign.size();
     const size_t count = DigitsFrom(text, fraction);
@@ -145,6 +136,16 @@ void SetNumberLocale(NumberLocale locale) {
 
 const NumberLocale& CurrentNumberLocale() {
   return Locale();
+}
+
+std::size_t GroupSeparatorLength(std::string_view text, const NumberLocale& locale) {
+  constexpr std::string_view spaces[] = {"\u202F", "\u00A0", " "};
+  const std::string_view separator = locale.GroupSeparator;
+  if (std::find(std::begin(spaces), std::end(spaces), separator) == std::end(spaces))
+    return text.starts_with(separator) ? separator.size() : 0;
+  const auto* const found = std::find_if(std::begin(spaces), std::end(spaces),
+                                         [text](auto space) { return text.starts_with(space); });
+  return found == std::end(spaces) ? 0 : found->size();
 }
 
 std::optional<double> NumericValue(std::string_view text) {

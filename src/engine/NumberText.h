@@ -1,6 +1,7 @@
 // Numbers as people write them: reading them from text boxes and spelling them plainly.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +16,11 @@ struct NumberLocale {
 // group separator equal to the decimal sign is dropped: with it no number could be read back.
 void SetNumberLocale(NumberLocale locale);
 const NumberLocale& CurrentNumberLocale();
+
+// Length of the group separator that the text begins with, 0 if there is none. No keyboard has a key for the
+// no-break spaces, and programs differ in which one they write: each of them stands for the other, and so
+// does a plain blank.
+std::size_t GroupSeparatorLength(std::string_view text, const NumberLocale& locale);
 
 // True when the whole text is one number: blanks and TABs around it, one sign in front, plain digits or
 // proper groups of three, the decimal sign, an exponent. False for a value too large for a double.

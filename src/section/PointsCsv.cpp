@@ -16,6 +16,7 @@ namespace {
 
 const NumberLocale DecimalPoint{".", ","};
 const NumberLocale DecimalComma{",", "."};
+const std::string GroupSpace = "\u202F";  // beside either sign; the other spaces count as well
 
 struct Line {
   int Number;
@@ -98,11 +99,17 @@ void CheckFields(const Line& line) {
   if (fields.size() > 3) Refuse(line.Number, "A point is a station, an elevation and an n, and no more.");
 }
 
+/// The value of the field, its groups separated as the locale says or by spaces.
+std::optional<double> ValueIn(const NumberLocale& locale, const std::string& field) {
+  const std::optional<double> value = NumericValue(field, locale);
+  return value ? value : NumericValue(field, {locale.DecimalSign, GroupSpace});
+}
+
 /// Which decimal signs are possible when a text is the number `field`; neither: it is no number.
 struct Readings {
   std::optional<double> WithPoint, WithComma;
   explicit Readings(const std::string& field)
-      : WithPoint(NumericValue(field, DecimalPoint)), WithComma(NumericValue(field, DecimalComma)) {}
+      : WithPoint(ValueIn(DecimalPoint, field)), WithComma(ValueIn(DecimalComma, field)) {}
 };
 
 /// The spelling that every number of the text fits and no other does.
@@ -139,12 +146,15 @@ NumberLocale LocaleOf(const std::vector<Line>& lines, char separator) {
 /// The same digits in the user's locale, without groups.
 std::string Respelled(const std::string& field, const NumberLocale& locale) {
   std::string spelled;
-  for (const char c : field) {
-    if (c == locale.DecimalSign.front()) {
+  for (std::string_view rest = field; !rest.empty();) {
+    const std::size_t skipped =
+        std::max(GroupSeparatorLength(rest, locale), GroupSeparatorLength(rest, {"", GroupSpace}));
+    if (skipped == 0 && rest.starts_with(locale.DecimalSign)) {
       spelled += CurrentNumberLocale().DecimalSign;
-    } else if (c != locale.GroupSeparator.front()) {
-      spelled += c;
+    } else if (skipped == 0) {
+      spelled += rest.front();
     }
+    rest.remove_prefix(std::max<std::size_t>(skipped, 1));
   }
   return spelled;
 }

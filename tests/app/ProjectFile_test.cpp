@@ -224,6 +224,7 @@ TEST_F(ProjectFileTest, SpeaksTheSameNumbersInEveryLocale) {
            {NoBreak, "1.5", "1.5", "1.5"},
            {NoBreak, "1\u202F234\u202F567,8 ", "1,234,567.8 ", "1\u202F234\u202F567,8 "},
            {NoBreak, "1 234,5", "1,234.5", "1\u202F234,5"},
+           {NoBreak, "1\u00A0234,5", "1,234.5", "1\u202F234,5"},
            {Apostrophe, "1'234.5", "1,234.5", "1'234.5"},
            {Apostrophe, "1,234.5", "1,234.5", "1,234.5"},
            {Ungrouped, "1234,5", "1234.5", "1234,5"},

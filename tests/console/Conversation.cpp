@@ -28,13 +28,18 @@ bool IsDigit(char c) {
   return std::isdigit(static_cast<unsigned char>(c)) != 0;
 }
 
-/// Swaps "." and "," where they stand beside a digit; lists of fixed texts keep theirs.
-std::string Respelled(std::string text) {
-  std::string respelled = text;
+/// With the signs of the locale for "." and "," that stand beside a digit; lists of fixed texts keep theirs.
+std::string Respelled(const NumberLocale& locale, const std::string& text) {
+  std::string respelled;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool inNumber = (i > 0 && IsDigit(text[i - 1])) || (i + 1 < text.size() && IsDigit(text[i + 1]));
-    if (inNumber && text[i] == '.') respelled[i] = ',';
-    if (inNumber && text[i] == ',') respelled[i] = '.';
+    if (inNumber && text[i] == '.') {
+      respelled += locale.DecimalSign;
+    } else if (inNumber && text[i] == ',') {
+      respelled += locale.GroupSeparator;
+    } else {
+      respelled += text[i];
+    }
   }
   return respelled;
 }
@@ -66,16 +71,16 @@ std::vector<Exchange> ReadConversation(const std::string& path) {
   return conversation;
 }
 
-std::vector<Exchange> WithDecimalComma(const std::vector<Exchange>& conversation) {
-  std::vector<Exchange> respelled = {{"locale , .", "ok"}};
+std::vector<Exchange> InLocale(const NumberLocale& locale, const std::vector<Exchange>& conversation) {
+  std::vector<Exchange> respelled = {{"locale " + locale.DecimalSign + " " + locale.GroupSeparator, "ok"}};
   for (const Exchange& exchange : conversation) {
     const bool typed = exchange.Line.starts_with("type tb") || exchange.Line.starts_with("clipboard");
     const bool read = exchange.Line.starts_with("get tb") || exchange.Line.starts_with("get frmMain.tb") ||
                       exchange.Line.starts_with("cell ") || exchange.Line == "printed" ||
                       (exchange.Line.starts_with("record points") && exchange.Reply.starts_with("t:")) ||
                       exchange.Line.starts_with("clipboard");
-    respelled.push_back({typed ? Respelled(exchange.Line) : exchange.Line,
-                         read ? Respelled(exchange.Reply) : exchange.Reply});
+    respelled.push_back({typed ? Respelled(locale, exchange.Line) : exchange.Line,
+                         read ? Respelled(locale, exchange.Reply) : exchange.Reply});
   }
   return respelled;
 }

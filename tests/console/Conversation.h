@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "console/Console.h"
+#include "engine/NumberText.h"
 
 struct Exchange {
   std::string Line;
@@ -15,9 +16,8 @@ struct Exchange {
 /// remark.
 std::vector<Exchange> ReadConversation(const std::string& path);
 
-/// The same conversation where the decimal sign is "," and "." groups digits: what is typed into boxes and
-/// read off them is spelled that way.
-std::vector<Exchange> WithDecimalComma(const std::vector<Exchange>& conversation);
+/// The same conversation in another locale: what is typed into boxes and read off them is spelled that way.
+std::vector<Exchange> InLocale(const NumberLocale& locale, const std::vector<Exchange>& conversation);
 
 /// Holds the conversation and returns what went otherwise, a line each. "{version}" in a reply is the version
 /// of the program.

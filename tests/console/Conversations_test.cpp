@@ -1,4 +1,4 @@
-// Every kept conversation, held with the controllers under a decimal point and a decimal comma.
+// Every kept conversation, held with the controllers as people in several countries write numbers.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -16,7 +16,12 @@ TEST_P(Conversations, GoAsWritten) {
 }
 
 TEST_P(Conversations, GoTheSameWithDecimalComma) {
-  EXPECT_THAT(Differences(WithDecimalComma(ReadConversation(GetParam())), ControllerStage),
+  EXPECT_THAT(Differences(InLocale({",", "."}, ReadConversation(GetParam())), ControllerStage),
+              testing::IsEmpty());
+}
+
+TEST_P(Conversations, GoTheSameWithGroupsBetweenNoBreakSpaces) {
+  EXPECT_THAT(Differences(InLocale({",", "\u202F"}, ReadConversation(GetParam())), ControllerStage),
               testing::IsEmpty());
 }
 

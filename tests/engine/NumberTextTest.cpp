@@ -94,13 +94,16 @@ TEST_F(NumberText, GroupsAreOfThree) {
   for (const NumberLocale& locale : {French, NoBreak}) {
     ExpectReadings(locale, {{"1" + locale.GroupSeparator + "234,5", true, 1234.5},
                             {"1 234,5", true, 1234.5},
+                            {"1\u00A0234\u202F567,5", true, 1234567.5},
+                            {"1.234,5", false, 1},
                             {"1 234 567", true, 1234567},
                             {"1 23", false, 1},
                             {"1  234", false, 1},
                             {"1 234 m", false, 1234},
                             {"1 2345", false, 1}});
   }
-  ExpectReadings(Ungrouped, {{"1,234", false, 1}, {"1234", true, 1234}});
+  ExpectReadings({",", " "}, {{"1\u00A0234,5", true, 1234.5}, {"1\u202F234", true, 1234}});
+  ExpectReadings(Ungrouped, {{"1,234", false, 1}, {"1234", true, 1234}, {"1 234", false, 1}});
 }
 
 TEST_F(NumberText, RepairsALocaleThatNothingCouldBeReadIn) {

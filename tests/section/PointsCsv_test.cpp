@@ -32,6 +32,11 @@ TEST_P(PointLists, EverySpellingOfTheSamePointsIsRead) {
       "\xEF\xBB\xBFStation;Elev, m;n\n0; 10,5 ;0,03\n1.234,5;8\n;;\n",
       "\"Sta, ft\",\"Elev, ft\",n\n\"0\",10.5,0.03\n\"1,234.5\",8,,\n",
       "\"0\",\"10,5\",\"0,03\"\n\"1234,5\",\"8\"\n",
+      "0;10,5;0,03\n1 234,5;8\n",
+      "0;10,5;0,03\n1\u202F234,5;8\n",
+      "0;10,5;0,03\n1\xA0"
+      "234,5;8\n",  // Windows-1252
+      "0,10.5,0.03\n1 234.5,8\n",
   };
   for (const char* const text : texts) {
     ASSERT_EQ(RefusalOf(text), "accepted") << text;
@@ -56,6 +61,7 @@ TEST_P(PointLists, WhatIsDoubtfulIsRefusedWithItsLine) {
       {"0;1\n;2\n", "Line 2: A point needs a station and an elevation."},
       {"12 m,10 m\n", "Line 1: \"12 m\" is not a number."},
       {"0,1\nx,2\n", "Line 2: \"x\" is not a number."},
+      {"0;1\n1 23;2\n", "Line 2: \"1 23\" is not a number."},
       {"a,b\nc,d\n", "Line 2: \"c\" is not a number."},
       {"0,1e999\n", "Line 1: \"1e999\" is not a number."},
       {"\"0,1\n", "Line 1: A quotation mark is not closed."},
@@ -83,8 +89,9 @@ TEST_P(PointLists, WhatIsExportedIsImportedTheSame) {
   table[2] = {"", Spelled("1.234"), Spelled(" +10.50 "), ""};
   table[3] = {"", Spelled("2.345e2"), Spelled("-.5"), "2"};
   const std::string text = PointsCsv::Format(table);
-  EXPECT_EQ(text, GetParam() ? "Station;Elevation;n\r\n0;1609,3440;1\r\n1,2340;+10,50;\r\n2,3450e2;-,5;2\r\n"
-                             : "Station,Elevation,n\r\n0,1609.344,1\r\n1.234,+10.50,\r\n2.345e2,-.5,2\r\n");
+  EXPECT_EQ(text, DecimalComma()
+                      ? "Station;Elevation;n\r\n0;1609,3440;1\r\n1,2340;+10,50;\r\n2,3450e2;-,5;2\r\n"
+                      : "Station,Elevation,n\r\n0,1609.344,1\r\n1.234,+10.50,\r\n2.345e2,-.5,2\r\n");
   const Table again = PointsCsv::Parse(text);
   for (std::size_t row = 1; row <= 4; ++row) {
     for (std::size_t column = 1; column <= 3; ++column)

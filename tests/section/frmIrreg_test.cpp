@@ -97,8 +97,8 @@ TEST_P(PointEditor, PointsGoOutAndComeIn) {
   fakes_.fileDialog.Choices = {file_};
   editor_.mnuFileExport_Click();
   EXPECT_EQ(fakes_.fileDialog.Requests[0].FileName, "Untitled.csv");
-  EXPECT_EQ(WholeFile::Read(file_), GetParam() ? "Station;Elevation;n\r\n0;10,25;0,03\r\n1005,5;8;\r\n"
-                                               : "Station,Elevation,n\r\n0,10.25,0.03\r\n1005.5,8,\r\n");
+  EXPECT_EQ(WholeFile::Read(file_), DecimalComma() ? "Station;Elevation;n\r\n0;10,25;0,03\r\n1005,5;8;\r\n"
+                                                   : "Station,Elevation,n\r\n0,10.25,0.03\r\n1005.5,8,\r\n");
   Select({3, 1, 3, 3});
   Copied("7\t7\t7");
   editor_.cmdPaste_Click();
