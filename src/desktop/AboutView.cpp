@@ -31,19 +31,19 @@ QLabel* Paragraph(Label& label, QWidget* parent) {
   text->setOpenExternalLinks(true);
   const int em = text->fontMetrics().height();
   text->setMinimumWidth(
-      qMin(text->fontMetrics().averageCharWidth() * 78, text->screen()->availableSize().width() - 4 * em));
+      qMin(text->fontMetrics().averageCharWidth() * 78, text->screen()->availableSize().width() - 6 * em));
   return text;
 }
 
 }  // namespace
 
 AboutView::AboutView(frmAbout& form, QWidget* parent) : FormDialog(form, parent) {
-  auto* const column = new QVBoxLayout(this);
   const int em = fontMetrics().height();
   auto* const head = new QHBoxLayout;
   head->setSpacing(em);
   auto* const picture = new QLabel(this);
   picture->setPixmap(QApplication::windowIcon().pixmap(4 * em));
+  picture->setAccessibleName(tr("The icon of Flumewise"));
   head->addWidget(picture);
   auto* const titles = new QVBoxLayout;
   QLabel* const name = Bind::Caption(form.lblName, this);
@@ -56,14 +56,11 @@ AboutView::AboutView(frmAbout& form, QWidget* parent) : FormDialog(form, parent)
   version->setTextInteractionFlags(Qt::TextSelectableByMouse);
   titles->addWidget(version);
   head->addLayout(titles, 1);
-  column->addLayout(head);
-  column->setSpacing(em);
+  Column().addLayout(head);
+  Column().setSpacing(em);
   for (Label* const text : {&form.lblPurpose, &form.lblLicence, &form.lblLibraries})
-    column->addWidget(Paragraph(*text, this));
+    Column().addWidget(Paragraph(*text, this));
   QPushButton* const ok = Bind::Push(form.cmdOK, this);
-  AddButtons(column, ok);
+  AddButtons(ok);
   ok->setFocus();
-  // Large texts take more than the share of the screen that a dialog is given by itself.
-  const int width = sizeHint().width();
-  resize(width, column->totalHeightForWidth(width));
 }

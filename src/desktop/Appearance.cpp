@@ -47,6 +47,11 @@ QColor Bad(const QPalette& palette) {
   return Either(palette, 0xB3261E, 0xFF9A8F);
 }
 
+QColor Faint(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::Active, QPalette::Base),
+               palette.color(QPalette::Active, QPalette::Text), 0.7);
+}
+
 QColor Water(const QPalette& palette) {
   return Either(palette, 0xCFE6F8, 0x1F4A6B);
 }

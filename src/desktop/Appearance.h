@@ -24,6 +24,9 @@ QColor Good(const QPalette& palette);
 QColor Neutral(const QPalette& palette);
 QColor Bad(const QPalette& palette);
 
+/// Lines and notes that stay behind the others, on the ground of a text box.
+QColor Faint(const QPalette& palette);
+
 /// The drawing of a channel.
 QColor Water(const QPalette& palette);
 QColor WaterSurface(const QPalette& palette);

@@ -265,7 +265,7 @@ void ChartPlot::Restyle() {
   const double em = QFontMetricsF(font()).height();
   const QColor ground = colours_.color(QPalette::Base);
   const QColor ink = colours_.color(QPalette::Text);
-  const QColor thin = Appearance::Mixed(ground, ink, 0.6);
+  const QColor thin = Appearance::Faint(colours_);
   setBackground(QBrush(ground));
   for (QCPAxis* const axis : {xAxis, yAxis}) {
     axis->setTickLabelFont(font());

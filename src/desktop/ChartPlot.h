@@ -32,6 +32,8 @@ class ChartPlot : public QCustomPlot {
   /// Names the lines of a section in words below the axes: its outline, which is drawn as ground, and its
   /// water.
   void NameLines(const QStringList& names);
+  /// Empty for a line without a name.
+  QString LineName(int pair) const { return names_.value(pair); }
   /// The points of a line, which breaks where there is none.
   using Breaking = std::vector<std::optional<QPointF>>;
   /// Draws these in the place of a line of the chart, by the number of its pair of columns.

@@ -163,6 +163,8 @@ void ChartWidget::Load() {
     note_->Tell(plot_->IsLogarithmic() ? tr("Logarithmic axes show only points above 0: there are none.")
                                        : whyEmpty_);
   }
+  QAccessibleTableModelChangeEvent changed(this, QAccessibleTableModelChangeEvent::ModelReset);
+  QAccessible::updateAccessibility(&changed);
   setAccessibleName(tr("%1 against %2").arg(AxisTitle(chart_.YTitle).Name, AxisTitle(chart_.XTitle).Name));
   Describe();
 }
@@ -217,6 +219,18 @@ QString ChartWidget::Reading() const {
   const QPointF point = plot_->Points()[read_];
   return AxisTitle(chart_.XTitle).With(Number(point.x(), extent_.width())) + u'\n' +
          AxisTitle(chart_.YTitle).With(Number(point.y(), extent_.height()));
+}
+
+QString ChartWidget::ColumnTitle(int column) const {
+  const QString line = plot_->LineName(column / 2);
+  const QString title = Printed((column % 2 == 0 ? chart_.XTitle : chart_.YTitle).Get());
+  return line.isEmpty() ? title : line + QLatin1String(": ") + title;
+}
+
+QString ChartWidget::PointText(int row, int column) const {
+  if (row >= static_cast<int>(chart_.Rows().size()) || column >= chart_.Cols()) return {};
+  const auto& value = chart_.Rows()[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+  return value ? Number(*value, column % 2 == 0 ? extent_.width() : extent_.height()) : QString();
 }
 
 void ChartWidget::Read(qsizetype index) {

@@ -39,6 +39,10 @@ class ChartWidget : public QWidget {
   void Paint(QCPPainter& painter, QSize size, const QFont& font) const;
 
   ChartPlot& Plot() const { return *plot_; }
+  const XYChart& Chart() const { return chart_; }
+  /// A column of the chart and a value in it as texts; the latter is empty where a line breaks.
+  QString ColumnTitle(int column) const;
+  QString PointText(int row, int column) const;
   /// The point read off, in words; empty when there is none.
   QString Reading() const;
 

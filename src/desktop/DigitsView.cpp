@@ -24,6 +24,7 @@ QWidget* Row(Label& question, Options& options, QWidget* parent) {
   for (int index = Options::Lower; index <= Options::Upper; ++index) {
     QRadioButton* const button = Bind::Option(options[index], group);
     button->setAccessibleDescription(label->text());
+    if (!options[index].Value) button->setFocusPolicy(Qt::ClickFocus);  // Tab goes to the answer chosen
     row->addWidget(button);
   }
   row->addStretch();
@@ -41,10 +42,9 @@ OptionButton& Chosen(Options& options) {
 }  // namespace
 
 DigitsView::DigitsView(frmDigits& form, QWidget* parent) : FormDialog(form, parent) {
-  auto* const column = new QVBoxLayout(this);
-  column->setSpacing(fontMetrics().height());
-  column->addWidget(Row(form.lblSigDigs, form.optSigDigs, this));
-  column->addWidget(Row(form.lblEngDigs, form.optEngDigs, this));
+  Column().setSpacing(fontMetrics().height());
+  Column().addWidget(Row(form.lblSigDigs, form.optSigDigs, this));
+  Column().addWidget(Row(form.lblEngDigs, form.optEngDigs, this));
+  AddButtons(Bind::Push(form.cmdOK, this), Bind::Push(form.cmdCancel, this));
   findChild<QWidget*>(ToQt(Chosen(form.optSigDigs).Name()))->setFocus();
-  AddButtons(column, Bind::Push(form.cmdOK, this), Bind::Push(form.cmdCancel, this));
 }

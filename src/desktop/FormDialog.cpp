@@ -2,23 +2,37 @@
 #include "desktop/FormDialog.h"
 
 #include <QDialogButtonBox>
+#include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
+#include "desktop/ScrollPage.h"
 #include "desktop/Text.h"
 
-FormDialog::FormDialog(Form& form, QWidget* parent) : QDialog(parent) {
+FormDialog::FormDialog(Form& form, QWidget* parent)
+    : QDialog(parent), page_(new QWidget(this)), column_(new QVBoxLayout(page_)) {
   setWindowModality(Qt::WindowModal);
   // The title is read whole, with the buttons of the title bar beside it.
-  setMinimumWidth(fontMetrics().horizontalAdvance(ToQt(form.Caption.Get())) * 5 / 4 +
-                  9 * fontMetrics().height());
+  const int title =
+      fontMetrics().horizontalAdvance(ToQt(form.Caption.Get())) * 5 / 4 + 9 * fontMetrics().height();
+  setMinimumWidth(qMin(title, Room().width()));
 }
 
-void FormDialog::AddButtons(QVBoxLayout* layout, QPushButton* ok, QPushButton* cancel) {
+QSize FormDialog::Room() const {
+  const int em = fontMetrics().height();
+  return screen()->availableSize() - QSize(em / 2, 2 * em);
+}
+
+void FormDialog::AddButtons(QPushButton* ok, QPushButton* cancel) {
   cancel_ = cancel == nullptr ? ok : cancel;
   ok->setDefault(true);
   auto* const row = new QDialogButtonBox(this);
   row->addButton(ok, QDialogButtonBox::AcceptRole);
   if (cancel != nullptr) row->addButton(cancel, QDialogButtonBox::RejectRole);
-  layout->addStretch();
-  layout->addWidget(row);
+  ScrollPage::Fill(this, page_, row);
+  // Large texts take more than the share of the screen that a dialog is given by itself.
+  ensurePolished();  // before that the parts do not know their sizes
+  QSize size = sizeHint();
+  if (size.height() > Room().height()) size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  resize(size.boundedTo(Room()));
 }

@@ -1,4 +1,5 @@
-// A dialog of the calculator: window-modal, Escape is its Cancel button.
+// A dialog of the calculator: window-modal, Escape is its Cancel button. What does not fit the screen is
+// scrolled, the buttons below it never.
 #pragma once
 
 #include <QDialog>
@@ -15,10 +16,17 @@ class FormDialog : public QDialog {
   void reject() override { cancel_->click(); }
 
  protected:
-  /// Puts the buttons into a row at the end of the layout; Enter is `ok` unless another button has the focus.
-  /// Without `cancel` Escape is `ok` too.
-  void AddButtons(QVBoxLayout* layout, QPushButton* ok, QPushButton* cancel = nullptr);
+  /// Where all but the buttons goes.
+  QVBoxLayout& Column() { return *column_; }
+  /// Puts the buttons below the column, which is complete by then; Enter is `ok` unless another button has
+  /// the focus. Without `cancel` Escape is `ok` too.
+  void AddButtons(QPushButton* ok, QPushButton* cancel = nullptr);
 
  private:
+  /// What the screen has for a dialog.
+  QSize Room() const;
+
+  QWidget* page_;
+  QVBoxLayout* column_;
   QPushButton* cancel_ = nullptr;
 };

@@ -18,6 +18,7 @@
 #include "desktop/FindBar.h"
 #include "desktop/HelpBrowser.h"
 #include "desktop/LineIcon.h"
+#include "desktop/Reachable.h"
 #include "desktop/TopicTree.h"
 
 HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file)
@@ -28,13 +29,16 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file)
       find_(new FindBar(page_, this)) {
   setWindowTitle(tr("Flumewise Help"));
   tabs_->setDocumentMode(true);
-  tabs_->setUsesScrollButtons(false);            // but room for all titles
-  tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);  // its letters choose a tab, which then has the keyboard
+  tabs_->setUsesScrollButtons(false);  // but room for all titles
+  // Its letters choose a tab, which then has the keyboard.
+  tabs_->setFocusPolicy(Qt::NoFocus);
+  tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);
   MakeContents();
   MakeIndex();
   MakeSearch();
   tabs_->tabBar()->installEventFilter(this);
   MakeTools();
+  MakeReachable(*this);
 
   auto* const right = new QWidget(this);
   auto* const column = new QVBoxLayout(right);

@@ -12,6 +12,7 @@
 #include "desktop/ChartPlot.h"
 #include "desktop/ChartWidget.h"
 #include "desktop/PointGrid.h"
+#include "desktop/ScrollPage.h"
 #include "desktop/SectionBackdrop.h"
 
 namespace {
@@ -38,7 +39,8 @@ IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent) {
   edit->actions().last()->setShortcuts(
       {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
 
-  auto* const page = new QWidget(this);
+  auto* const window = new QWidget(this);
+  auto* const page = new QWidget(window);
   auto* const column = new QVBoxLayout(page);
   QLabel* const hint = Bind::Caption(form.Label1, page);
   hint->setWordWrap(true);
@@ -57,11 +59,11 @@ IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent) {
                                fontMetrics().height());  // the table needs most of a small screen
   middle->addWidget(chart, 1);
   column->addLayout(middle, 1);
-  auto* const ending = new QDialogButtonBox(page);
+  auto* const ending = new QDialogButtonBox(window);
   ending->addButton(Bind::Push(form.cmdOK, ending, "o"), QDialogButtonBox::AcceptRole);
   ending->addButton(Bind::Push(form.cmdCancel, ending, "a"), QDialogButtonBox::RejectRole);
-  column->addWidget(ending);
-  setCentralWidget(page);
+  ScrollPage::Fill(window, page, ending);
+  setCentralWidget(window);
   grid->setFocus();
   SetSize({56, 38});
 }

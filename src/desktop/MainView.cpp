@@ -18,6 +18,7 @@
 #include "desktop/Bind.h"
 #include "desktop/FieldPanel.h"
 #include "desktop/LineIcon.h"
+#include "desktop/Reachable.h"
 #include "desktop/ReflowArea.h"
 #include "desktop/ShapeWidget.h"
 #include "desktop/Text.h"
@@ -79,9 +80,17 @@ QStringList AllUnits() {
   return units;
 }
 
-/// Solved, still to be filled in, or something cannot be used.
-QIcon StatusIcon(const frmMain& form, const QPalette& palette) {
-  if (!form.tbArea.Text.Get().empty()) return LineIcon("solved", Appearance::Good(palette));
+struct Sign {
+  const char* Icon;
+  const char* Words;
+  QColor (*Colour)(const QPalette&);
+};
+constexpr Sign Solved{"solved", "Solved", Appearance::Good};
+constexpr Sign Missing{"missing", "To be filled in", Appearance::Neutral};
+constexpr Sign Wrong{"wrong", "Cannot be used", Appearance::Bad};
+
+const Sign& StatusOf(const frmMain& form) {
+  if (!form.tbArea.Text.Get().empty()) return Solved;
   bool missing = false;
   bool wrong = false;
   for (const TextBox* const box : {&form.tbFlow, &form.tbDepth, &form.tbSlope, &form.tbMann, &form.tbDiameter,
@@ -90,8 +99,7 @@ QIcon StatusIcon(const frmMain& form, const QPalette& palette) {
     missing = missing || box->Text.Get().empty();
     wrong = wrong || box->Offending;
   }
-  return missing && !wrong ? LineIcon("missing", Appearance::Neutral(palette))
-                           : LineIcon("wrong", Appearance::Bad(palette));
+  return missing && !wrong ? Missing : Wrong;
 }
 
 /// The project file that is being dragged; empty when it is anything else.
@@ -122,6 +130,7 @@ MainView::MainView(frmMain& form, QWidget* parent) : QMainWindow(parent), form_(
   Bind::Join(Declarations::DataChanged, this,
              [](MainView& view, bool changed) { view.setWindowModified(changed); });
   setAcceptDrops(true);
+  MakeReachable(*this);
   findChild<QWidget*>(ToQt((form.tbFlow.Locked ? form.tbDepth : form.tbFlow).Name()))->setFocus();
   PlaceOnScreen();
 }
@@ -178,8 +187,11 @@ QWidget* MainView::StatusLine() {
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   layout->addWidget(sign);
   layout->addWidget(text, 1);
-  Bind::Follow(form_.lblStatus.Caption, sign,
-               [this, sign, em] { sign->setPixmap(StatusIcon(form_, palette()).pixmap(em * 5 / 4)); });
+  Bind::Follow(form_.lblStatus.Caption, sign, [this, sign, em] {
+    const Sign& status = StatusOf(form_);
+    sign->setPixmap(LineIcon(status.Icon, status.Colour(palette())).pixmap(em * 5 / 4));
+    sign->setAccessibleName(QLatin1String(status.Words));
+  });
   return line;
 }
 

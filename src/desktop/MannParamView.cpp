@@ -7,13 +7,12 @@
 #include "desktop/Bind.h"
 
 MannParamView::MannParamView(frmMannParam& form, QWidget* parent) : FormDialog(form, parent) {
-  auto* const column = new QVBoxLayout(this);
   QListWidget* const list = Bind::List(form.lstMannParam, this);
   list->setAccessibleName(tr("Typical values of Manning's n"));
   list->setUniformItemSizes(true);
   // Every line is seen at once, whatever the size of the text.
   list->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-  column->addWidget(list);
-  AddButtons(column, Bind::Push(form.cmdOK, this), Bind::Push(form.cmdCancel, this));
+  Column().addWidget(list);
+  AddButtons(Bind::Push(form.cmdOK, this), Bind::Push(form.cmdCancel, this));
   list->setFocus();
 }

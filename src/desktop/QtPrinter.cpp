@@ -15,6 +15,7 @@
 #include "app/Declarations.h"
 #include "desktop/ChartWidget.h"
 #include "desktop/FrontWindow.h"
+#include "desktop/Reachable.h"
 #include "desktop/Text.h"
 
 namespace {
@@ -146,6 +147,7 @@ void QtPrinterDialog::Preview(const PrintRequest& request, const std::function<v
   QPrintPreviewDialog dialog(&Device(request), FrontWindow());
   dialog.setWindowModality(Qt::WindowModal);
   dialog.resize(dialog.screen()->availableSize() * 4 / 5);
+  MakeReachable(dialog);
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&write](QPrinter* device) {
     QtPrinter printer(*device, {});
     write(printer);

@@ -9,6 +9,7 @@
 #include "desktop/AboutView.h"
 #include "desktop/Bind.h"
 #include "desktop/DigitsView.h"
+#include "desktop/DrawingReader.h"
 #include "desktop/FrontWindow.h"
 #include "desktop/GraphSettingsView.h"
 #include "desktop/GraphView.h"
@@ -61,6 +62,7 @@ class CloseAsksForm : public QObject {
 }  // namespace
 
 QtWindowHost::QtWindowHost() {
+  QAccessible::installFactory(DrawingReader);
   // The application losing the keyboard (no new widget) is not leaving a control.
   QObject::connect(qApp, &QApplication::focusChanged, &connections_, [](QWidget*, QWidget* now) {
     FocusControl* const control = Bind::ControlOf(now);

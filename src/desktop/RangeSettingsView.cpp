@@ -5,20 +5,21 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QVBoxLayout>
 
 #include "desktop/Bind.h"
 #include "desktop/Text.h"
 
 RangeSettingsView::RangeSettingsView(RangeSettings& form, Label& vary, QWidget* parent)
-    : FormDialog(form, parent), form_(form), column_(new QVBoxLayout(this)), reason_(new QLabel(this)) {
+    : FormDialog(form, parent), form_(form), reason_(new QLabel(this)) {
   QLabel* const heading = Bind::Caption(form.lblSolveFor, this);
   QFont bold = heading->font();
   bold.setBold(true);
   heading->setFont(bold);
-  column_->addWidget(heading);
+  Column().addWidget(heading);
 
   group_ = Bind::Group(form.Frame1, this);
-  column_->addWidget(group_);
+  Column().addWidget(group_);
   range_ = new QGridLayout(group_);
   range_->setColumnStretch(1, 1);
   QLabel* const caption = Bind::Caption(vary, group_, "v");
@@ -61,9 +62,9 @@ void RangeSettingsView::Finish() {
   reason_->setWordWrap(true);
   // Its room is kept, so that the dialog does not jump while a number is typed.
   reason_->setMinimumHeight(2 * fontMetrics().lineSpacing());
-  column_->addWidget(reason_);
+  Column().addWidget(reason_);
   for (TextBox* const box : boxes_) Bind::Follow(box->ToolTip, reason_, [this] { TellReason(); });
-  AddButtons(column_, Bind::Push(form_.cmdOK, this), Bind::Push(form_.cmdCancel, this));
+  AddButtons(Bind::Push(form_.cmdOK, this), Bind::Push(form_.cmdCancel, this));
 }
 
 void RangeSettingsView::TellReason() {

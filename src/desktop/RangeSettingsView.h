@@ -16,8 +16,6 @@ class RangeSettingsView : public FormDialog {
   void AddRow(Label& caption, TextBox& box, const char* letters, QLabel* unit);
   /// The unit of the range once more.
   QLabel* SameUnit();
-  /// Room below the range.
-  QVBoxLayout& Column() { return *column_; }
   /// What keeps OK off, and the buttons.
   void Finish();
 
@@ -25,7 +23,6 @@ class RangeSettingsView : public FormDialog {
   void TellReason();
 
   RangeSettings& form_;
-  QVBoxLayout* column_;
   QGroupBox* group_;
   QGridLayout* range_;
   std::vector<TextBox*> boxes_;

@@ -1,7 +1,6 @@
 // See ReflowArea.h.
 #include "desktop/ReflowArea.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QScrollBar>
@@ -20,25 +19,16 @@ int Worth(int width, int height) {
 }  // namespace
 
 ReflowArea::ReflowArea(QWidget* page, const Parts& parts, QWidget* parent)
-    : QScrollArea(parent), parts_(parts), grid_(new QGridLayout(page)) {
-  setFrameShape(NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  setWidgetResizable(true);
-  setWidget(page);
-  // Tab scrolls by itself to where it goes; a mnemonic does not.
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    if (now != nullptr && widget()->isAncestorOf(now)) ensureWidgetVisible(now);
-  });
-}
+    : ScrollPage(page, parent), parts_(parts), grid_(new QGridLayout(page)) {}
 
 void ReflowArea::changeEvent(QEvent* event) {
-  QScrollArea::changeEvent(event);
+  ScrollPage::changeEvent(event);
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Arrange();
 }
 
 void ReflowArea::resizeEvent(QResizeEvent* event) {
   Arrange();
-  QScrollArea::resizeEvent(event);
+  ScrollPage::resizeEvent(event);
 }
 
 ReflowArea::Flow ReflowArea::Best(QSize room) const {

@@ -2,12 +2,12 @@
 // each other when the window is small or the text large, and scrolled when even that is too much.
 #pragma once
 
-#include <QScrollArea>
+#include "desktop/ScrollPage.h"
 
 class FieldPanel;
 class QGridLayout;
 
-class ReflowArea : public QScrollArea {
+class ReflowArea : public ScrollPage {
  public:
   struct Parts {
     QWidget* Top;  ///< over the full width

@@ -167,7 +167,7 @@ void ShapeWidget::paintEvent(QPaintEvent*) {
   const ShapeGeometry shape = ShapeOf(inputs_);
   const ShapeLayout layout = LayOutShape(shape, labels_, canvas, QFontMetricsF(font()));
   const QColor ink = colours.color(QPalette::Text);
-  const QColor thin = Appearance::Mixed(colours.color(QPalette::Base), ink, 0.6);
+  const QColor thin = Appearance::Faint(colours);
 
   painter.setPen(Qt::NoPen);
   painter.setBrush(Appearance::Earth(colours));

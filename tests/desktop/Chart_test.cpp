@@ -11,6 +11,7 @@
 
 #include "desktop/ChartPlot.h"
 #include "desktop/ChartWidget.h"
+#include "desktop/DrawingReader.h"
 #include "desktop/EmptyNote.h"
 
 namespace {
@@ -76,6 +77,32 @@ TEST_F(Chart, EveryPairOfColumnsIsALine) {
   EXPECT_EQ(Plot().yAxis->label(), QStringLiteral("Flow, m\u00B3/s"));
   chart_.Load({{3, 4}}, 2);
   EXPECT_THAT(Plot().Points(), ElementsAre(QPointF(3, 4)));
+}
+
+TEST_F(Chart, AScreenReaderIsToldATableOfThePoints) {
+  QAccessible::installFactory(DrawingReader);
+  Show({{0.5, 2}, Gap, {1, 1234.5678}});
+  QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(widget_.get());
+  EXPECT_EQ(reader->role(), QAccessible::Chart);
+  QAccessibleTableInterface* const table = reader->tableInterface();
+  ASSERT_EQ(table->rowCount(), 3);
+  ASSERT_EQ(table->columnCount(), 2);
+  EXPECT_EQ(table->columnDescription(0), QStringLiteral("Depth, ft"));
+  EXPECT_EQ(table->columnDescription(1), QStringLiteral("Flow, m\u00B3/s"));
+  const auto text = [table](int row, int column) {
+    return table->cellAt(row, column)->text(QAccessible::Name).toStdString();
+  };
+  EXPECT_EQ(text(0, 1), "2.000");
+  EXPECT_EQ(text(1, 0), "") << "the line breaks here";
+  EXPECT_EQ(text(2, 1), "1,235");
+  EXPECT_EQ(table->cellAt(3, 0), nullptr);
+  EXPECT_EQ(reader->child(5), table->cellAt(2, 1));
+  EXPECT_EQ(reader->indexOfChild(reader->child(5)), 5);
+  EXPECT_EQ(reader->child(5)->parent(), reader);
+  QAccessibleInterface* const last = table->cellAt(2, 0);
+  chart_.Load({{7, 8}}, 2);
+  EXPECT_EQ(last->text(QAccessible::Name), QString());
+  EXPECT_EQ(text(0, 0), "7.000");
 }
 
 TEST_F(Chart, MarkedStretchesAreDrawnOnceMore) {

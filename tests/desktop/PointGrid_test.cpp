@@ -1,5 +1,4 @@
 // The point editor as a small spreadsheet: real keys, real mouse, the clipboard of other programs.
-#include <QAccessible>
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -327,20 +326,6 @@ TEST_F(PointEditor, HeadsCarryNumbersAndUnits) {
     EXPECT_EQ(head(99, Qt::Vertical), "100");
     EXPECT_EQ(view_->model()->rowCount(), 100);
     EXPECT_FALSE(view_->horizontalScrollBar()->isVisible());
-  });
-}
-
-TEST_F(PointEditor, EveryControlHasItsWidgetAndAName) {
-  Edit({}, [this] {
-    const QWidget& window = hands_.Window(*form_);
-    for (const Control* const control : form_->Controls()) {
-      EXPECT_EQ(window.findChildren<QObject*>(QString::fromStdString(control->Name())).size(), 1)
-          << control->Name();
-      if (dynamic_cast<const FocusControl*>(control) == nullptr) continue;
-      QAccessibleInterface* const reader =
-          QAccessible::queryAccessibleInterface(&hands_.Of<QWidget>(*control));
-      EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << control->Name();
-    }
   });
 }
 

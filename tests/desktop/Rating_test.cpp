@@ -1,11 +1,7 @@
 // The windows of rating table and graph and their settings, worked by mouse and keys.
 #include <QAbstractButton>
-#include <QAccessible>
-#include <QAction>
-#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMenu>
 #include <QStatusBar>
 
 #include "desktop/ChartPlot.h"
@@ -54,27 +50,6 @@ class Rating : public Desk {
     Open<frmGraphSettings, frmGraph>(main_.mnuSolveGraph, settings, act);
   }
 
-  /// Every control has one widget of its name, and every command and field of the window is a control's; the
-  /// chart's own commands work on the view alone.
-  void ExpectShown(Form& form) {
-    SCOPED_TRACE(form.Name());
-    const QWidget& window = hands_.Window(form);
-    for (const Control* const control : form.Controls()) {
-      EXPECT_EQ(window.findChildren<QObject*>(QString::fromStdString(control->Name())).size(), 1)
-          << control->Name();
-      if (dynamic_cast<const FocusControl*>(control) == nullptr) continue;
-      auto* const reader = QAccessible::queryAccessibleInterface(&hands_.Of<QWidget>(*control));
-      EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << control->Name();
-    }
-    for (const QMenu* const menu : window.findChildren<QMenu*>()) {
-      for (const QAction* const action : menu->actions()) {
-        const bool ofChart = dynamic_cast<ChartWidget*>(action->parent()) != nullptr;
-        if (action->isSeparator() || action->menu() != nullptr || ofChart) continue;
-        EXPECT_NE(form.Find(action->objectName().toStdString()), nullptr) << action->text().toStdString();
-      }
-    }
-  }
-
   void DragOver(GridTable& table, QPoint from, QPoint to) {
     const auto place = [&](QPoint cell) {
       return table.visualRect(table.model()->index(cell.y(), cell.x())).center();
@@ -87,13 +62,6 @@ class Rating : public Desk {
     QTest::mouseRelease(view, Qt::LeftButton, {}, place(to));
   }
 };
-
-TEST_F(Rating, EveryControlHasItsWidgetAndTheReverse) {
-  OpenTable([this](frmTable& form) { ExpectShown(form); },
-            [this](frmTableSettings& form) { ExpectShown(form); });
-  OpenGraph([this](frmGraph& form) { ExpectShown(form); },
-            [this](frmGraphSettings& form) { ExpectShown(form); });
-}
 
 TEST_F(Rating, TheTableShowsItsGridUnderFixedHeaders) {
   OpenTable([this](frmTable& form) {

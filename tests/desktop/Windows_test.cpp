@@ -2,22 +2,28 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRadioButton>
-#include <QRegularExpression>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTableView>
 #include <QToolBar>
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "app/Declarations.h"
 #include "app/frmDigits.h"
 #include "app/frmMannParam.h"
+#include "desktop/ChartWidget.h"
 #include "desktop/Desk.h"
+#include "desktop/PointGrid.h"
 #include "engine/ChannelState.h"
 
 namespace {
@@ -30,6 +36,18 @@ class Windows : public Desk {
     InModal(main_.mnuOptionsDigits, check);
     InModal(main_.cmdMannParams, check);
     InModal(main_.mnuHelpAbout, check);
+    EnterTrapezoid();
+    hands_.Focus(main_.tbProjName);
+    InModal(main_.mnuSolveSection, check);
+    for (MenuItem* const rating : {&main_.mnuSolveGraph, &main_.mnuSolveTable}) {
+      InModal(*rating, [&](Form& settings) {
+        check(settings);
+        inModal_ = check;
+        Key(Qt::Key_Return);
+      });
+    }
+    hands_.Click(main_.mnuOptionsIrreg);
+    InModal(main_.cmdIrreg, check);
   }
 
   void InEveryType(const std::function<void()>& check) {
@@ -42,10 +60,11 @@ class Windows : public Desk {
   }
 };
 
-/// An action that Qt makes for itself.
-bool IsOfQt(const QAction& action) {
+/// An action that Qt makes for itself, or a chart, whose commands work on the view alone.
+bool IsOfView(const QAction& action) {
   const auto* const bar = qobject_cast<QToolBar*>(action.parent());
   return qobject_cast<QLineEdit*>(action.parent()) != nullptr ||
+         dynamic_cast<ChartWidget*>(action.parent()) != nullptr ||
          (bar != nullptr && bar->toggleViewAction() == &action);
 }
 
@@ -55,10 +74,12 @@ std::vector<QObject*> Handles(const QWidget& window) {
   for (QObject* const each : window.findChildren<QObject*>()) {
     const auto* const action = qobject_cast<QAction*>(each);
     const bool command =
-        action != nullptr && !action->isSeparator() && action->menu() == nullptr && !IsOfQt(*action);
-    const bool widget = qobject_cast<QLineEdit*>(each) != nullptr ||
-                        qobject_cast<QListWidget*>(each) != nullptr ||
-                        (qobject_cast<QAbstractButton*>(each) != nullptr && !each->inherits("QToolButton"));
+        action != nullptr && !action->isSeparator() && action->menu() == nullptr && !IsOfView(*action);
+    const bool widget =
+        qobject_cast<QLineEdit*>(each) != nullptr || qobject_cast<QListWidget*>(each) != nullptr ||
+        qobject_cast<QComboBox*>(each) != nullptr || qobject_cast<QTableView*>(each) != nullptr ||
+        (qobject_cast<QAbstractButton*>(each) != nullptr && !each->inherits("QToolButton") &&
+         !each->inherits("QTableCornerButton"));
     if (command || widget) handles.push_back(each);
   }
   return handles;
@@ -88,6 +109,9 @@ TEST_F(Windows, EveryFieldHasANameForAScreenReader) {
       EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << control->Name();
     }
   });
+}
+
+TEST_F(Windows, AScreenReaderAddsTheUnitAndWhatIsWrong) {
   EXPECT_EQ(Edit(main_.tbVelocity).accessibleDescription(), QStringLiteral("fps"));
   hands_.Click(main_.mnuOptionsUnitsMetric);
   EXPECT_EQ(Edit(main_.tbArea).accessibleDescription(), QStringLiteral("m\u00B2"));
@@ -111,42 +135,74 @@ void ExpectUnique(const QString& letters) {
   EXPECT_EQ(std::adjacent_find(letters.begin(), letters.end()), letters.end()) << letters.toStdString();
 }
 
-TEST_F(Windows, MnemonicsAreUnique) {
-  const QWidget& window = hands_.Window(main_);
-  QStringList titles;
-  for (const QAction* const title : window.findChild<QMenuBar*>()->actions()) {
-    titles << title->text();
-    QStringList items;
-    for (const QAction* const item : title->menu()->actions()) items << item->text();
-    const QString letters = Mnemonics(items);
-    EXPECT_EQ(letters.size(), items.filter(QRegularExpression(QStringLiteral("."))).size());
-    ExpectUnique(letters);
+/// The letters that do something in the window as it is.
+QString Letters(const QWidget& window) {
+  QStringList texts;
+  if (const auto* const bar = window.findChild<QMenuBar*>()) {
+    for (const QAction* const title : bar->actions()) texts << title->text();
   }
+  for (const QLabel* const label : window.findChildren<QLabel*>()) {
+    if (label->isVisible() && label->buddy() != nullptr) texts << label->text();
+  }
+  for (const QAbstractButton* const button : window.findChildren<QAbstractButton*>()) {
+    if (button->isVisible() && !button->inherits("QToolButton")) texts << button->text();
+  }
+  for (const QGroupBox* const group : window.findChildren<QGroupBox*>()) texts << group->title();
+  return Mnemonics(texts);
+}
+
+TEST_F(Windows, MnemonicsAreUnique) {
+  InEveryWindow([this](Form& form) {
+    SCOPED_TRACE(form.Name());
+    const QWidget& window = hands_.Window(form);
+    ExpectUnique(Letters(window));
+    for (const QMenu* const menu : window.findChildren<QMenu*>()) {
+      QStringList items;
+      for (const QAction* const item : menu->actions()) {
+        if (!item->isSeparator()) items << item->text();
+      }
+      EXPECT_EQ(Mnemonics(items).size(), items.size()) << items.join(u' ').toStdString();
+      ExpectUnique(Mnemonics(items));
+    }
+  });
+  const QWidget& window = hands_.Window(main_);
+  const auto titles = window.findChild<QMenuBar*>()->actions().size();
   InEveryType([&] {
-    QStringList texts = titles;
-    for (const QLabel* const label : window.findChildren<QLabel*>()) {
-      if (label->isVisible() && label->buddy() != nullptr) texts << label->text();
-    }
-    for (const QAbstractButton* const button : window.findChildren<QAbstractButton*>()) {
-      if (button->isVisible() && !button->inherits("QToolButton")) texts << button->text();
-    }
-    const QString letters = Mnemonics(texts);
-    EXPECT_GE(letters.size(), titles.size() + 4);
-    ExpectUnique(letters);
+    EXPECT_GE(Letters(window).size(), titles + 4);
+    ExpectUnique(Letters(window));
   });
 }
 
 TEST_F(Windows, TabGoesInReadingOrder) {
+  const std::map<std::string, std::string> orders{
+      {"frmMain",
+       "tbProjName tbFlow tbDepth tbSlope tbMann cmdMannParams tbBaseWidth tbSSL tbSSR "
+       "tbVelocity tbVelHead tbArea tbWP tbHRad tbTopW tbFroude tbCritD tbCritS"},
+      {"frmDigits", "optSigDigs_3 optEngDigs_3 cmdOK cmdCancel"},
+      {"frmMannParam", "lstMannParam cmdOK cmdCancel"},
+      {"frmAbout", "cmdOK lblPurpose lblLicence lblLibraries"},
+      {"frmSection", "MSChart1"},
+      {"frmGraphSettings", "cbxVary tbMin tbMax cbxY cmdOK cmdCancel"},
+      {"frmGraph", "MSChart1"},
+      {"frmTableSettings", "cbxVary tbMin tbMax tbIncrement cmdOK cmdCancel"},
+      {"frmTable", "MSFlexGrid1"},
+      {"frmIrreg", "MSFlexGrid1 cmdCopy cmdPaste cmdIns cmdDel MSChart1 cmdOK cmdCancel"}};
   hands_.Click(main_.mnuOptionsTrap);
   hands_.Focus(main_.tbProjName);
-  QStringList order;
-  do {
-    order << QApplication::focusWidget()->objectName();
-    Key(Qt::Key_Tab);
-  } while (QApplication::focusWidget()->objectName() != order.first());
-  EXPECT_EQ(order.join(QLatin1Char(' ')).toStdString(),
-            "tbProjName tbFlow tbDepth tbSlope tbMann cmdMannParams tbBaseWidth tbSSL tbSSR "
-            "tbVelocity tbVelHead tbArea tbWP tbHRad tbTopW tbFroude tbCritD tbCritS");
+  InEveryWindow([&](Form& form) {
+    const QWidget& window = hands_.Window(form);
+    const QWidget* const first = window.focusWidget();
+    QStringList order;
+    int steps = 0;
+    do {
+      const QString name = QApplication::focusWidget()->objectName();
+      if (order.isEmpty() || order.last() != name) order << name;  // a text may have several links
+      // Tab alone goes through the cells of the points.
+      const bool points = dynamic_cast<PointGrid*>(QApplication::focusWidget()) != nullptr;
+      Key(Qt::Key_Tab, points ? Qt::ControlModifier : Qt::NoModifier);
+    } while (QApplication::focusWidget() != first && ++steps < 30);
+    EXPECT_EQ(order.join(u' ').toStdString(), orders.at(form.Name())) << form.Name();
+  });
 }
 
 TEST_F(Windows, TheFirstInputHasTheKeyboardWhenTheWindowOpens) {
@@ -170,13 +226,26 @@ QStringList CutOff(const QWidget& window) {
   return cut;
 }
 
-TEST_F(Windows, NothingIsCutOffWhateverTheSizeOfTextAndWindow) {
-  const QFont usual = QApplication::font();
-  QWidget& window = hands_.Window(main_);
-  for (const double larger : {1.0, 2.0}) {
-    QFont font = usual;
-    font.setPointSizeF(usual.pointSizeF() * larger);
+/// While it lives, texts are so many times as large.
+class LargerText {
+ public:
+  explicit LargerText(double times) {
+    QFont font = usual_;
+    font.setPointSizeF(usual_.pointSizeF() * times);
     QApplication::setFont(font);
+  }
+  ~LargerText() { QApplication::setFont(usual_); }
+  LargerText(const LargerText&) = delete;
+  LargerText& operator=(const LargerText&) = delete;
+
+ private:
+  QFont usual_ = QApplication::font();
+};
+
+TEST_F(Windows, NothingIsCutOffWhateverTheSizeOfTextAndWindow) {
+  QWidget& window = hands_.Window(main_);
+  for (const double larger : {1.0, 2.0, 2.5}) {
+    const LargerText text(larger);
     for (const QSize size : {QSize(1024, 640), QSize(1280, 900), QSize(1920, 1080)}) {
       window.resize(size);
       InEveryType([&] {
@@ -188,7 +257,21 @@ TEST_F(Windows, NothingIsCutOffWhateverTheSizeOfTextAndWindow) {
       });
     }
   }
-  QApplication::setFont(usual);
+}
+
+TEST_F(Windows, NoDialogIsLargerThanTheScreenAndNothingInItIsCutOff) {
+  for (const double larger : {1.0, 2.5}) {
+    const LargerText text(larger);
+    InEveryWindow([&](Form& form) {
+      if (&form == &main_) return;
+      SCOPED_TRACE(form.Name());
+      const QWidget& window = hands_.Window(form);
+      const QSize screen = window.screen()->availableSize();
+      EXPECT_LE(window.width(), screen.width()) << larger;
+      EXPECT_LE(window.height(), screen.height()) << larger;
+      EXPECT_EQ(CutOff(window).join(QLatin1String(", ")).toStdString(), "") << larger;
+    });
+  }
 }
 
 TEST_F(Windows, TheTypesKeepTheColumnsWhereTheyAre) {

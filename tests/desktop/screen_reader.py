@@ -1,0 +1,215 @@
+#!/usr/bin/python3
+"""Opens every window and dialog of PROGRAM with a project of SAMPLES and tells what a screen reader could not say.
+
+Usage: screen_reader.py PROGRAM SAMPLES   status 77 where there is no accessibility bus or nothing to show a window on
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+SKIPPED = 77
+PATIENCE = 20  # seconds
+
+
+def skip(why):
+    print("skipped: " + why)
+    sys.exit(SKIPPED)
+
+
+try:
+    import gi
+
+    gi.require_version("Atspi", "2.0")
+    from gi.repository import Atspi, GLib
+except (ImportError, ValueError):
+    skip("the accessibility bus cannot be spoken to from here")
+
+
+def on_a_screen_of_its_own():
+    """Runs this again with a display, a window manager and buses that end with it."""
+    for tool in ("xvfb-run", "dbus-run-session", "openbox", "xprop", "xdotool"):
+        if not shutil.which(tool):
+            skip(tool + " is missing")
+    with tempfile.TemporaryDirectory() as home:
+        env = dict(os.environ, READER_HOME=home, XDG_RUNTIME_DIR=home, XDG_CONFIG_HOME=home + "/config",
+                   XDG_DATA_HOME=home + "/data", HOME=home, QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
+                   QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        sys.exit(subprocess.run(["xvfb-run", "-a", "-s", "-screen 0 1024x640x24 -nolisten tcp", "dbus-run-session",
+                                 "--", sys.executable, *sys.argv], env=env).returncode)
+
+
+def wait(what, condition):
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        try:
+            found = condition()
+            if found:
+                return found
+        except GLib.Error:
+            pass  # it vanished while we looked
+        time.sleep(0.1)
+    sys.exit("waited in vain for " + what)
+
+
+def children(node):
+    node.clear_cache()  # not every change is told
+    return [child for child in map(node.get_child_at_index, range(node.get_child_count())) if child is not None]
+
+
+def has(node, state):
+    return node.get_state_set().contains(state)
+
+
+def walk(node):
+    """The nodes that show, but of tables, which are asked for their cells."""
+    yield node
+    if "Table" not in node.get_interfaces():
+        for child in children(node):
+            if has(child, Atspi.StateType.SHOWING) or node.get_role() in MENUS:
+                yield from walk(child)
+
+
+def text(node):
+    return Atspi.Text.get_text(node, 0, Atspi.Text.get_character_count(node)) if "Text" in node.get_interfaces() else ""
+
+
+R = Atspi.Role
+MENUS = (R.MENU_BAR, R.MENU_ITEM, R.POPUP_MENU)
+NAMED = (R.MENU_ITEM, R.TEXT, R.PUSH_BUTTON, R.RADIO_BUTTON, R.CHECK_BOX, R.COMBO_BOX, R.LIST,
+         R.LIST_ITEM, R.TABLE, R.TREE, R.TREE_TABLE, R.CHART, R.GROUPING, R.PAGE_TAB, R.SPIN_BUTTON, R.DOCUMENT_FRAME,
+         R.IMAGE, R.TOOL_BAR)
+
+
+class Reader:
+    def __init__(self, program, project):
+        Atspi.set_timeout(5000, 5000)
+        self.faults = []
+        self.process = subprocess.Popen([program, project])
+        self.root = wait("the program", self.application)
+
+    def application(self):
+        if self.process.poll() is not None:
+            sys.exit("the program ended")
+        return next((each for each in children(Atspi.get_desktop(0)) if each.get_process_id() == self.process.pid), None)
+
+    def window(self, title):
+        """The window whose title begins so, when it is the one with the keyboard."""
+        return wait("the window " + title, lambda: next(
+            (each for each in children(self.root) if each.get_name().startswith(title) and
+             has(each, Atspi.StateType.ACTIVE)), None))
+
+    def fault(self, place, node, what):
+        self.faults.append("%s: %s %r %s" % (place, node.get_role_name(), node.get_name(), what))
+
+    def check(self, title, tables=()):
+        window = self.window(title)
+        nodes = list(walk(window))
+        for node in nodes:
+            focusable = has(node, Atspi.StateType.FOCUSABLE) and node.get_role() not in (R.MENU_BAR, R.FRAME)
+            if (node.get_role() in NAMED or focusable) and not node.get_name().strip():
+                self.fault(title, node, "has no name")
+        found = [node for node in nodes if node.get_role() in (R.CHART, R.TABLE)]
+        for table in found:
+            self.check_table(title, table)
+        if sorted(node.get_role_name() for node in found) != sorted(tables):
+            self.fault(title, window, "has the tables %r" % [node.get_role_name() for node in found])
+        return nodes
+
+    def check_table(self, title, table):
+        rows, columns = Atspi.Table.get_n_rows(table), Atspi.Table.get_n_columns(table)
+        if rows < 2 or columns < 2:
+            self.fault(title, table, "has no cells")
+        for column in range(columns):
+            if not Atspi.Table.get_column_description(table, column):
+                self.fault(title, table, "has a column without a title")
+        for row in (0, 1):
+            first = Atspi.Table.get_accessible_at(table, row, 0)
+            if not (first.get_name() or text(first)):
+                self.fault(title, table, "has no text in the first cell of row %d" % row)
+
+    def press(self, *keys):
+        subprocess.run(["xdotool", "key", "--delay", "40", *keys], check=True)
+
+    def quit(self):
+        self.process.terminate()
+        self.process.wait(PATIENCE)
+
+
+def check_boxes(reader, nodes):
+    """Every input and result of a solved trapezoid tells its text."""
+    boxes = [node for node in nodes if node.get_role() == R.TEXT]
+    names = [box.get_name() for box in boxes]
+    for box in boxes:
+        if not text(box):
+            reader.fault("main window", box, "tells no text")
+    if len(names) != 17 or len(set(names)) != len(names):
+        reader.fault("main window", reader.root, "has the boxes %r" % names)
+
+
+MAIN = "Flumewise - lined-canal"
+# from the main window, in turn: the keys that open a window, its title, its charts and tables
+WINDOWS = (
+    (("alt+o", "d"), "Digits", ()),
+    (("alt+t",), "Manning", ()),
+    (("alt+s", "c"), "Flumewise - T", ("chart",)),
+    (("alt+s", "g"), "Rating Graph", ()),
+    (("alt+s", "t"), "Rating Table", ()),
+    (("alt+h", "a"), "About", ()),
+    (("ctrl+o",), "File Open", ()),
+    (("ctrl+p",), "Print", ()),
+    (("alt+f", "v"), "Print Preview", ()),
+)
+
+
+def trapezoid(reader):
+    check_boxes(reader, reader.check(MAIN))
+    for keys, title, tables in WINDOWS:
+        reader.press(*keys)
+        reader.check(title, tables)
+        reader.press("Escape")
+        reader.window(MAIN)
+    for key, table in (("g", "chart"), ("t", "table")):
+        reader.press("alt+s", key, "Return")
+        reader.check("Flumewise - T", (table,))
+        reader.press("Escape")
+        reader.window(MAIN)
+    reader.press("F1")
+    for key in ("alt+c", "alt+i", "alt+s", "ctrl+f"):
+        reader.window("Flumewise Help")
+        reader.press(key)
+        reader.check("Flumewise Help")
+
+
+def stream(reader):
+    reader.check("Flumewise")
+    reader.press("alt+i")
+    reader.check("Irregular", ("chart", "table"))
+
+
+def main():
+    if "READER_HOME" not in os.environ:
+        on_a_screen_of_its_own()
+    manager = subprocess.Popen(["openbox", "--sm-disable"], stderr=subprocess.DEVNULL)
+    wait("the window manager", lambda: "#" in subprocess.run(
+        ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True, check=False).stdout)
+    program, samples = sys.argv[1:]
+    faults = []
+    try:
+        for project, visit in (("lined-canal.fwd", trapezoid), ("stream-overbanks.fwd", stream)):
+            reader = Reader(program, os.path.join(samples, project))
+            try:
+                visit(reader)
+            finally:
+                reader.quit()
+            faults += reader.faults
+    finally:
+        manager.terminate()
+    for fault in faults:
+        print(fault)
+    sys.exit(bool(faults))
+
+
+main()
