@@ -147,6 +147,8 @@ class Monkey {
   std::deque<std::string> known_;
 };
 
+constexpr std::size_t MostGrowth = std::size_t{32} << 20U;  // bytes
+
 /// Bytes of memory that the process holds; 0 where the system does not tell.
 std::size_t ResidentMemory() {
   constexpr std::size_t PageSize = 4096;
@@ -157,10 +159,10 @@ std::size_t ResidentMemory() {
 
 }  // namespace
 
-MonkeyReport LetMonkeyType(Console::MakeStage stage, int lines) {
-  MonkeyReport report;
+std::vector<std::string> LetMonkeyType(Console::MakeStage stage, int lines) {
+  std::vector<std::string> wrong;
   Monkey monkey;
-  int asked = 0;
+  int asked = 0, answered = 0, shown = 0;
   std::size_t early = 0;
   std::string line;
   const auto read = [&]() -> std::optional<std::string> {
@@ -170,16 +172,20 @@ MonkeyReport LetMonkeyType(Console::MakeStage stage, int lines) {
     return line;
   };
   const auto write = [&](const std::string& reply) {
-    ++report.Answered;
+    ++answered;
     if (!line.starts_with("get")) return;
     if (reply.find("nan") != std::string::npos || reply.find("inf") != std::string::npos)
-      report.Wrong.push_back(line + ": " + reply);
-    if (reply.find_first_of("123456789") != std::string::npos) ++report.Shown;
+      wrong.push_back(line + ": " + reply);
+    if (reply.find_first_of("123456789") != std::string::npos) ++shown;
   };
   Console(std::move(stage), read, write).Run();
+  if (answered != lines)
+    wrong.push_back(std::to_string(answered) + " of " + std::to_string(lines) + " lines were answered");
+  if (shown <= lines / 100) wrong.push_back("only " + std::to_string(shown) + " numbers were shown");
   const std::size_t late = ResidentMemory();
-  report.MemoryGrowth = late > early ? late - early : 0;
-  return report;
+  if (late > early + MostGrowth)
+    wrong.push_back("memory grew from " + std::to_string(early) + " to " + std::to_string(late));
+  return wrong;
 }
 
 int MonkeyLines(int usual) {
