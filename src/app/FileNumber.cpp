@@ -1,8 +1,6 @@
 // See FileNumber.h.
 #include "app/FileNumber.h"
 
-#include <utility>
-
 #include "engine/NumberText.h"
 
 namespace FileNumber {
@@ -10,14 +8,6 @@ namespace FileNumber {
 namespace {
 
 const NumberLocale FileLocale{".", ","};
-
-bool IsNumericIn(const NumberLocale& locale, std::string_view text) {
-  NumberLocale user = CurrentNumberLocale();
-  SetNumberLocale(locale);
-  const bool numeric = ::IsNumeric(text);
-  SetNumberLocale(std::move(user));
-  return numeric;
-}
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
@@ -31,7 +21,7 @@ size_t SeparatorLength(std::string_view rest, const NumberLocale& locale) {
 }
 
 std::string Respelled(const std::string& text, const NumberLocale& from, const NumberLocale& to) {
-  if (!IsNumericIn(from, text)) return text;
+  if (!NumericValue(text, from)) return text;
   std::string spelled;
   for (std::string_view rest = text; !rest.empty();) {
     const bool afterDigit = !spelled.empty() && IsDigit(spelled.back());
@@ -53,7 +43,7 @@ std::string Respelled(const std::string& text, const NumberLocale& from, const N
 }  // namespace
 
 bool IsNumeric(std::string_view text) {
-  return IsNumericIn(FileLocale, text);
+  return NumericValue(text, FileLocale).has_value();
 }
 
 std::string FromUser(const std::string& text) {

@@ -69,6 +69,13 @@ TEST_F(NumberText, TakesNumbersTooSmallForADoubleAsZero) {
                          {"1000000000000000000000000000000e-400", true, 0}});
 }
 
+TEST_F(NumberText, JudgesTheSizeByDigitsAndExponentTogether) {
+  const std::string zeros(400, '0');
+  ExpectReadings(
+      Point,
+      {{"1" + zeros + "e-50", false, 0}, {"0." + zeros + "1e50", true, 0}, {"1" + zeros + "e-400", true, 1}});
+}
+
 TEST_F(NumberText, GroupsAreOfThree) {
   ExpectReadings(Point, {{"1,234", true, 1234},
                          {"12,345,678.5", true, 12345678.5},
