@@ -47,6 +47,15 @@ QColor Bad(const QPalette& palette) {
   return Either(palette, 0xB3261E, 0xFF9A8F);
 }
 
+QColor OtherRow(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::Active, QPalette::Base),
+               palette.color(QPalette::Active, QPalette::Text), 0.04);
+}
+
+bool NeedsOutline(const QPalette& palette) {
+  return palette.color(QPalette::Active, QPalette::Window) == palette.color(QPalette::Active, QPalette::Base);
+}
+
 QColor Faint(const QPalette& palette) {
   return Mixed(palette.color(QPalette::Active, QPalette::Base),
                palette.color(QPalette::Active, QPalette::Text), 0.7);

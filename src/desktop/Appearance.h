@@ -24,6 +24,12 @@ QColor Good(const QPalette& palette);
 QColor Neutral(const QPalette& palette);
 QColor Bad(const QPalette& palette);
 
+/// Ground of every other row of a table: not every desktop has one that suits its own text.
+QColor OtherRow(const QPalette& palette);
+/// True where a box has the colour of the window around it, as on most desktops of high contrast: toolkits
+/// draw its frame too dark to be seen there.
+bool NeedsOutline(const QPalette& palette);
+
 /// Lines and notes that stay behind the others, on the ground of a text box.
 QColor Faint(const QPalette& palette);
 

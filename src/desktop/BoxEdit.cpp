@@ -6,6 +6,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 
 #include "desktop/Appearance.h"
 #include "desktop/Bind.h"
@@ -133,4 +134,14 @@ void BoxEdit::mouseReleaseEvent(QMouseEvent* event) {
   QLineEdit::mouseReleaseEvent(event);
   if (selectOnRelease_ && !hasSelectedText()) selectAll();
   selectOnRelease_ = false;
+}
+
+void BoxEdit::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (!hasFrame() || hasFocus()) return;
+  const QPalette around = QApplication::palette(this);
+  if (!Appearance::NeedsOutline(around)) return;
+  QPainter painter(this);
+  painter.setPen(Appearance::Faint(around));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

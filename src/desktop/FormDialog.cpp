@@ -30,9 +30,13 @@ void FormDialog::AddButtons(QPushButton* ok, QPushButton* cancel) {
   row->addButton(ok, QDialogButtonBox::AcceptRole);
   if (cancel != nullptr) row->addButton(cancel, QDialogButtonBox::RejectRole);
   ScrollPage::Fill(this, page_, row);
-  // Large texts take more than the share of the screen that a dialog is given by itself.
-  ensurePolished();  // before that the parts do not know their sizes
-  QSize size = sizeHint();
+}
+
+// By now the parts know their sizes. Large texts take more than the share of the screen that a dialog is
+// given by itself.
+void FormDialog::showEvent(QShowEvent* event) {
+  QSize size = sizeHint() + QSize(1, 1);  // a screen of broken scale may round it down
   if (size.height() > Room().height()) size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   resize(size.boundedTo(Room()));
+  QDialog::showEvent(event);
 }

@@ -22,6 +22,8 @@ class FormDialog : public QDialog {
   /// the focus. Without `cancel` Escape is `ok` too.
   void AddButtons(QPushButton* ok, QPushButton* cancel = nullptr);
 
+  void showEvent(QShowEvent* event) override;
+
  private:
   /// What the screen has for a dialog.
   QSize Room() const;

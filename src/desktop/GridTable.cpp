@@ -1,10 +1,12 @@
 // See GridTable.h.
 #include "desktop/GridTable.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
 #include <algorithm>
 
+#include "desktop/Appearance.h"
 #include "desktop/Bind.h"
 #include "desktop/EmptyNote.h"
 #include "desktop/GridModel.h"
@@ -24,6 +26,7 @@ GridTable::GridTable(FlexGrid& grid, QWidget* parent)
   setTabKeyNavigation(false);
   setWordWrap(false);
   setAlternatingRowColors(true);
+  TakeColours();
   setHorizontalScrollMode(ScrollPerPixel);
   setCornerButtonEnabled(false);
   for (QHeaderView* const header : {horizontalHeader(), verticalHeader()}) {
@@ -83,6 +86,13 @@ void GridTable::FitColumns() {
 void GridTable::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() == QEvent::FontChange) FitColumns();
+  if (event->type() == QEvent::PaletteChange) TakeColours();
+}
+
+void GridTable::TakeColours() {
+  QPalette colours;  // resolves only what is set here
+  colours.setColor(QPalette::AlternateBase, Appearance::OtherRow(QApplication::palette(this)));
+  setPalette(colours);
 }
 
 void GridTable::ShowSelection() {

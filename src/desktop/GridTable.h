@@ -24,6 +24,7 @@ class GridTable : public QTableView {
   void ShowSelection();
   void TellSelection();
   void FitColumns();
+  void TakeColours();
   int ColumnWidth(int gridColumn) const;
 
   FlexGrid& grid_;

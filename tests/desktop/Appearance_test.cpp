@@ -47,8 +47,8 @@ class Appearances : public testing::TestWithParam<Scheme> {
 TEST_P(Appearances, TextsCanBeRead) {
   using namespace Appearance;
   constexpr double Readable = 4.5;  // for texts of the usual size, by the guidelines for web contents (AA)
-  for (const QColor& ground :
-       {ResultGround(palette_), OffendingGround(palette_), Water(palette_), Earth(palette_)}) {
+  for (const QColor& ground : {ResultGround(palette_), OffendingGround(palette_), OtherRow(palette_),
+                               Water(palette_), Earth(palette_)}) {
     EXPECT_GE(Contrast(Of(QPalette::Text), ground), Readable) << ground.name().toStdString();
   }
   for (const QColor& ground : {Of(QPalette::Base), Earth(palette_)})

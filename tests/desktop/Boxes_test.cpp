@@ -1,7 +1,6 @@
 // Text boxes: what is typed reaches the calculator and its answers the screen; editing stays what a person
 // knows.
 #include <QClipboard>
-#include <cmath>
 
 #include "desktop/Appearance.h"
 #include "desktop/Desk.h"
@@ -121,38 +120,6 @@ TEST_F(Boxes, AnOffenceIsTintedAndItsToolTipStatesTheBound) {
   Key(Qt::Key_Backspace);
   EXPECT_EQ(Edit(main_.tbSlope).palette().color(QPalette::Base),
             QApplication::palette().color(QPalette::Base));
-}
-
-/// Contrast of two colours as the web's accessibility guidelines define it, 1 to 21.
-double Contrast(const QColor& a, const QColor& b) {
-  const auto luminance = [](const QColor& colour) {
-    const auto linear = [](double c) {
-      return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-  };
-  const double x = luminance(a);
-  const double y = luminance(b);
-  return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
-}
-
-TEST(Colours, CanBeReadInLightAndDark) {
-  for (const bool dark : {false, true}) {
-    QPalette palette;
-    palette.setColor(QPalette::Window, dark ? 0x2A2E32 : 0xEFEFEF);
-    palette.setColor(QPalette::Base, dark ? 0x1B1E20 : 0xFFFFFF);
-    for (const auto role : {QPalette::Text, QPalette::WindowText})
-      palette.setColor(role, dark ? 0xFCFCFC : 0x000000);
-    EXPECT_EQ(Appearance::IsDark(palette), dark);
-    for (const auto ground :
-         {Appearance::ResultGround, Appearance::OffendingGround, Appearance::Water, Appearance::Earth}) {
-      EXPECT_GE(Contrast(ground(palette), palette.color(QPalette::Text)), 4.5);
-    }
-    for (const auto sign : {Appearance::Good, Appearance::Neutral, Appearance::Bad}) {
-      EXPECT_GE(Contrast(sign(palette), palette.color(QPalette::Window)), 4.5);
-    }
-  }
 }
 
 TEST_F(Boxes, ColoursFollowAPaletteThatChanges) {

@@ -24,6 +24,7 @@
 #include "desktop/ChartWidget.h"
 #include "desktop/Desk.h"
 #include "desktop/PointGrid.h"
+#include "desktop/ScrollPage.h"
 #include "engine/ChannelState.h"
 
 namespace {
@@ -270,6 +271,11 @@ TEST_F(Windows, NoDialogIsLargerThanTheScreenAndNothingInItIsCutOff) {
       EXPECT_LE(window.width(), screen.width()) << larger;
       EXPECT_LE(window.height(), screen.height()) << larger;
       EXPECT_EQ(CutOff(window).join(QLatin1String(", ")).toStdString(), "") << larger;
+      const auto* const page = dynamic_cast<ScrollPage*>(window.findChild<QScrollArea*>());
+      const bool roomy = window.width() < screen.width() * 3 / 4 && window.height() < screen.height() * 3 / 4;
+      if (page == nullptr || !roomy) return;
+      EXPECT_FALSE(page->horizontalScrollBar()->isVisible()) << larger;
+      EXPECT_FALSE(page->verticalScrollBar()->isVisible()) << larger;
     });
   }
 }
