@@ -30,6 +30,19 @@ QVBoxLayout* TableColumn(PointGrid* grid, frmIrreg& form, QWidget* page) {
   return column;
 }
 
+ChartWidget* Drawing(frmIrreg& form, QWidget* page) {
+  ChartWidget* const chart = Bind::Chart(form.MSChart1, page);
+  chart->SetTexts(IrregView::tr("The section is drawn here as its points are entered."), {});
+  chart->Dress([](ChartPlot& plot) {
+    plot.NameLines({IrregView::tr("Ground")});
+    new SectionBackdrop(plot, {});  // the plot owns it
+  });
+  chart->LogarithmicAction()->setEnabled(false);
+  // The table needs most of a small screen.
+  chart->Plot().setMinimumSize(QSize(10, 8) * page->fontMetrics().height());
+  return chart;
+}
+
 }  // namespace
 
 IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent) {
@@ -41,28 +54,20 @@ IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent) {
 
   auto* const window = new QWidget(this);
   auto* const page = new QWidget(window);
-  auto* const column = new QVBoxLayout(page);
-  QLabel* const hint = Bind::Caption(form.Label1, page);
-  hint->setWordWrap(true);
-  column->addWidget(hint);
-  auto* const middle = new QHBoxLayout;
+  auto* const row = new QHBoxLayout(page);
   auto* const grid = new PointGrid(form, page);
-  middle->addLayout(TableColumn(grid, form, page));
-  ChartWidget* const chart = Bind::Chart(form.MSChart1, page);
-  chart->SetTexts(tr("The section is drawn here as its points are entered."), {});
-  chart->Dress([](ChartPlot& plot) {
-    plot.NameLines({tr("Ground")});
-    new SectionBackdrop(plot, {});  // the plot owns it
-  });
-  chart->LogarithmicAction()->setEnabled(false);
-  chart->Plot().setMinimumSize(QSize(10, 8) *
-                               fontMetrics().height());  // the table needs most of a small screen
-  middle->addWidget(chart, 1);
-  column->addLayout(middle, 1);
+  row->addLayout(TableColumn(grid, form, page));
+  row->addWidget(Drawing(form, page), 1);
   auto* const ending = new QDialogButtonBox(window);
   ending->addButton(Bind::Push(form.cmdOK, ending, "o"), QDialogButtonBox::AcceptRole);
   ending->addButton(Bind::Push(form.cmdCancel, ending, "a"), QDialogButtonBox::RejectRole);
-  ScrollPage::Fill(window, page, ending);
+  // Above what is scrolled: a text that wraps would keep the table from giving way on a small screen.
+  QLabel* const hint = Bind::Caption(form.Label1, window);
+  hint->setWordWrap(true);
+  QMargins margins = row->contentsMargins();
+  margins.setBottom(0);
+  hint->setContentsMargins(margins);
+  ScrollPage::Fill(window, page, ending)->insertWidget(0, hint);
   setCentralWidget(window);
   grid->setFocus();
   SetSize({56, 38});

@@ -15,7 +15,7 @@ ScrollPage::ScrollPage(QWidget* page, QWidget* parent) : QScrollArea(parent) {
   });
 }
 
-void ScrollPage::Fill(QWidget* window, QWidget* page, QWidget* ending) {
+QVBoxLayout* ScrollPage::Fill(QWidget* window, QWidget* page, QWidget* ending) {
   auto* const whole = new QVBoxLayout(window);
   whole->setContentsMargins({});
   whole->setSpacing(0);
@@ -24,6 +24,7 @@ void ScrollPage::Fill(QWidget* window, QWidget* page, QWidget* ending) {
   margins.setTop(0);
   ending->setContentsMargins(margins);
   whole->addWidget(ending);
+  return whole;
 }
 
 QSize ScrollPage::sizeHint() const {

@@ -4,11 +4,13 @@
 
 #include <QScrollArea>
 
+class QVBoxLayout;
+
 class ScrollPage : public QScrollArea {
  public:
   ScrollPage(QWidget* page, QWidget* parent);
-  /// Fills the window with the page and, below it and always in sight, its ending.
-  static void Fill(QWidget* window, QWidget* page, QWidget* ending);
+  /// Fills the window with the page and, below it and always in sight, its ending. Returns this column.
+  static QVBoxLayout* Fill(QWidget* window, QWidget* page, QWidget* ending);
   /// That of the page, whole.
   QSize sizeHint() const override;
 };
