@@ -24,7 +24,7 @@ std::optional<double> NumberIn(const TextBox& box) {
 ShapeLabel LabelOf(const char* symbol, const TextBox& box, const Label* unit) {
   if (!box.Visible) return {};
   ShapeLabel label{QLatin1String(symbol), {}};
-  if (!IsNumeric(box.Text.Get()) || box.Text.Get().size() > 14) return label;
+  if (!IsNumeric(box.Text.Get()) || box.Length() > 14) return label;
   label.Value = QLatin1String(" = ") + ToQt(box.Text.Get()).trimmed();
   if (unit != nullptr) label.Value += QLatin1Char(' ') + ToQt(unit->Caption.Get());
   return label;

@@ -25,7 +25,9 @@
 #include "desktop/Desk.h"
 #include "desktop/PointGrid.h"
 #include "desktop/ScrollPage.h"
+#include "desktop/ShapeWidget.h"
 #include "engine/ChannelState.h"
+#include "engine/NumberText.h"
 
 namespace {
 
@@ -118,6 +120,22 @@ TEST_F(Windows, AScreenReaderAddsTheUnitAndWhatIsWrong) {
   EXPECT_EQ(Edit(main_.tbArea).accessibleDescription(), QStringLiteral("m\u00B2"));
   EXPECT_EQ(Edit(main_.tbSlope).accessibleDescription(),
             QStringLiteral("m/m, Slope must be greater than 0 and less than 1"));
+}
+
+TEST_F(Windows, TheDrawingTellsMeasuresAsLongAsThereIsRoom) {
+  SetNumberLocale({",", "\u202F"});
+  hands_.Click(main_.mnuOptionsRect);
+  const auto told = [this](const char* typed) {
+    hands_.Type(main_.tbBaseWidth, typed);
+    const auto widgets = hands_.Window(main_).findChildren<QWidget*>();
+    const auto drawing = std::ranges::find_if(
+        widgets, [](QWidget* each) { return dynamic_cast<ShapeWidget*>(each) != nullptr; });
+    return (*drawing)->accessibleDescription().contains(
+        QStringLiteral("b = %1").arg(QString::fromUtf8(typed)));
+  };
+  EXPECT_TRUE(told("1\u202F234\u202F567,89")) << "12 characters, in four bytes more";
+  EXPECT_FALSE(told("1\u202F234\u202F567,89123"));
+  SetNumberLocale({});
 }
 
 /// The letters behind "&" of the texts, joined.
