@@ -17,6 +17,7 @@ if [ -z "${REAL_WINDOW:-}" ]; then
   chmod 700 "$home"
   export REAL_WINDOW=1 HOME=$home XDG_RUNTIME_DIR=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
   export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
+  export CUPS_SERVER=localhost:1  # no printer: nothing may come out on paper
   self=$(realpath "$0")
   program=$(realpath "$1")
   cd "$home"

@@ -57,14 +57,15 @@ if [ "$(id -u)" -ne 0 ]; then
   echo "left out: only root can install a package"
   exit
 fi
-if ! unshare --mount --pid --fork true 2>/dev/null; then
+if ! unshare --mount --pid --net --fork true 2>/dev/null; then
   echo "left out: this machine lets nobody mount"
   exit
 fi
 folder=$(mktemp -d)
 trap 'rmdir "$folder"' EXIT
 export -f files closed windows on_the_copy copy_of_the_machine
-unshare --mount --pid --fork --kill-child bash -euo pipefail -c '
+# A network of its own too: displays of the same number, begun elsewhere, would meet there.
+unshare --mount --pid --net --fork --kill-child bash -euo pipefail -c '
   copy_of_the_machine "$1" 2>/dev/null || { echo "left out: this machine cannot be copied by an overlay"; exit; }
   package=$(echo "$2"/*.deb)
   mkdir "$1/root/home/trial"
