@@ -147,7 +147,12 @@ class Monkey {
   std::deque<std::string> known_;
 };
 
-constexpr std::size_t MostGrowth = std::size_t{32} << 20U;  // bytes
+#ifdef __SANITIZE_ADDRESS__
+constexpr std::size_t Quarantine = std::size_t{256} << 20U;  // freed memory that the sanitizer holds back
+#else
+constexpr std::size_t Quarantine = 0;
+#endif
+constexpr std::size_t MostGrowth = (std::size_t{32} << 20U) + Quarantine;  // bytes
 
 /// Bytes of memory that the process holds; 0 where the system does not tell.
 std::size_t ResidentMemory() {
