@@ -84,7 +84,8 @@ void FieldPanel::AddUnderBox(QWidget* widget) {
 
 void FieldPanel::KeepRoom(const QStringList& units) {
   int captionWidth = 0;
-  int symbolWidth = fontMetrics().horizontalAdvance(QStringLiteral("Wc"));  // comes and goes with its caption
+  // The widest comes and goes with its caption; drawn, it is wider than its letters by a pixel or so.
+  int symbolWidth = fontMetrics().horizontalAdvance(QStringLiteral("Wc "));
   for (int row = 1; row < Row(); ++row) {
     if (const QLayoutItem* const item = grid_->itemAtPosition(row, CaptionColumn)) {
       captionWidth = std::max(captionWidth, item->widget()->sizeHint().width());
