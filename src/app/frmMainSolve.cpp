@@ -215,7 +215,7 @@ std::string frmMain::Outcome() const {
   const bool solveForFlow = ChannelState.SolveForFlow;
   if (!tbArea.Text.Get().empty()) {
     const std::string solved = solveForFlow ? "Flow solved" : "Depth solved";
-    const std::string note = CriticalSlopeNote();
+    const std::string& note = tbCritS.ToolTip.Get();
     return note.empty() ? solved : solved + ". " + note;
   }
   if (solveForFlow) return "Overflow: the depth is above the crown of the pipe";

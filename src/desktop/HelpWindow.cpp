@@ -19,6 +19,7 @@
 #include "desktop/HelpBrowser.h"
 #include "desktop/LineIcon.h"
 #include "desktop/Reachable.h"
+#include "desktop/ToolBar.h"
 #include "desktop/TopicTree.h"
 
 HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file)
@@ -129,12 +130,7 @@ void HelpWindow::MakeSearch() {
 }
 
 void HelpWindow::MakeTools() {
-  auto* const bar = addToolBar(tr("Tools"));
-  bar->setMovable(false);
-  bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  const int side = fontMetrics().height() * 5 / 4;
-  bar->setIconSize({side, side});
+  QToolBar* const bar = MakeToolBar(*this);
   const auto add = [this](const QString& text, const QList<QKeySequence>& keys, auto run) {
     auto* const action = new QAction(text, this);
     action->setShortcuts(keys);

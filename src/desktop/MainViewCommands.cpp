@@ -9,6 +9,7 @@
 #include "desktop/Bind.h"
 #include "desktop/LineIcon.h"
 #include "desktop/MainView.h"
+#include "desktop/ToolBar.h"
 
 namespace {
 
@@ -100,12 +101,7 @@ void MainView::AddMenus() {
 }
 
 void MainView::AddTools() {
-  auto* const bar = addToolBar(QStringLiteral("Tools"));
-  bar->setMovable(false);
-  bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  const int side = fontMetrics().height() * 5 / 4;
-  bar->setIconSize({side, side});
+  QToolBar* const bar = MakeToolBar(*this);
   struct ToolRow {
     ToolButton& Tool;
     const char* Text;

@@ -8,7 +8,6 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QMessageBox>
-#include <QRegularExpression>
 
 #include "desktop/FrontWindow.h"
 #include "desktop/Text.h"
@@ -17,8 +16,8 @@ namespace {
 
 /// Every line end as CR LF: other programs put lone LFs on the clipboard and take a lone CR for a letter.
 QString WithCrLf(QString text) {
-  static const QRegularExpression lineEnd(QStringLiteral("\\r\\n|\\r|\\n"));
-  return text.replace(lineEnd, QStringLiteral("\r\n"));
+  const QLatin1String crLf("\r\n");
+  return text.replace(crLf, QLatin1String("\n")).replace(u'\r', u'\n').replace(QLatin1String("\n"), crLf);
 }
 
 }  // namespace
