@@ -2,18 +2,16 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "../../fuzz/ProjectRoundTrip.h"
+#include "support/TestFolder.h"
 
 namespace {
 
 TEST(ProjectCorpus, ComesBackTheSameOrDoesNotOpen) {
   int files = 0, opened = 0;
   for (const auto& entry : std::filesystem::directory_iterator(CORPUS)) {
-    std::ifstream file(entry.path(), std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes = BytesOf(entry.path());
     for (const NumberLocale& locale : ProjectRoundTrip::Locales)
       EXPECT_TRUE(ProjectRoundTrip::Holds(bytes, locale)) << entry.path();
     ++files;

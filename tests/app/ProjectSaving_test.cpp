@@ -9,14 +9,13 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include "app/ProjectFile.h"
 #include "app/SafeReplace.h"
+#include "support/TestFolder.h"
 
 namespace fs = std::filesystem;
 
@@ -59,40 +58,23 @@ class NearlyFullDisk {
 class ProjectSaving : public testing::Test {
  protected:
   ProjectSaving() {
-    std::string name = (fs::temp_directory_path() / "flumewise-XXXXXX").string();
-    folder_ = mkdtemp(name.data());
     fs::permissions(folder_, fs::perms(0755));
-    path_ = folder_ / "canal.fwd";
     old_.ChannelType = new_.ChannelType = "Circular Channel";
     old_.ProjName = "old";
     new_.ProjName = std::string(30000, 'n');
   }
-  ~ProjectSaving() override {
-    fs::permissions(folder_, fs::perms(0755));
-    fs::remove_all(folder_);
-  }
+  ~ProjectSaving() override { fs::permissions(folder_, fs::perms(0755)); }
 
-  static std::string Bytes(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
   void SaveOld() { ProjectFile::Write(path_, old_); }
   auto FilesInFolder() const { return std::distance(fs::directory_iterator(folder_), {}); }
   void ExpectNotSaved(const fs::path& path) {
     EXPECT_THROW(ProjectFile::Write(path, new_), std::runtime_error) << path;
   }
 
-  fs::path folder_, path_;
+  TestFolder temporary_;
+  const fs::path folder_ = temporary_.Path(), path_ = folder_ / "canal.fwd";
   Project old_, new_;
 };
-
-TEST_F(ProjectSaving, WritesAndReplaces) {
-  SaveOld();
-  EXPECT_EQ(ProjectFile::Read(path_), old_);
-  ProjectFile::Write(path_, new_);
-  EXPECT_EQ(ProjectFile::Read(path_), new_);
-  EXPECT_EQ(FilesInFolder(), 1);
-}
 
 /// Saves in a process of its own, killed when it has entered or left that many system calls. False when it
 /// had finished before.
@@ -130,14 +112,14 @@ TEST_F(ProjectSaving, SurvivesAThousandKills) {
   while (kills < 1000) {
     if (!KilledWhileSaving(path_, new_, step++)) {
       ASSERT_GT(step, 10) << "the child did not let itself be traced";
-      EXPECT_EQ(Bytes(path_), newBytes);
+      EXPECT_EQ(BytesOf(path_), newBytes);
       EXPECT_EQ(FilesInFolder(), 1);  // what the kills left is gone
       SaveOld();
       step = 0;
       continue;
     }
     ++kills;
-    const std::string bytes = Bytes(path_);
+    const std::string bytes = BytesOf(path_);
     ASSERT_TRUE(bytes == oldBytes || bytes == newBytes) << "killed at step " << step;
     ASSERT_LE(FilesInFolder(), 2);
     left += FilesInFolder() == 2;
@@ -152,14 +134,14 @@ TEST_F(ProjectSaving, SurvivesAThousandKills) {
 TEST_F(ProjectSaving, KeepsTheOldFileWhenTheDiskIsFull) {
   new_.ProjName = "new";
   SaveOld();
-  const std::string oldBytes = Bytes(path_);
+  const std::string oldBytes = BytesOf(path_);
   const size_t size = ProjectFile::Format(new_).size();
   for (size_t limit = 0; limit < size; ++limit) {
     {
       const NearlyFullDisk disk(limit);
       ExpectNotSaved(path_);
     }
-    ASSERT_EQ(Bytes(path_), oldBytes);
+    ASSERT_EQ(BytesOf(path_), oldBytes);
     ASSERT_EQ(FilesInFolder(), 1);
   }
   const NearlyFullDisk disk(size);
@@ -235,7 +217,7 @@ TEST_F(ProjectSaving, LetsOneProgramSaveAtATime) {
   EXPECT_EQ(other.ReadBack(), "half a pro");
   other.Append("ject");
   other.Commit();
-  EXPECT_EQ(Bytes(path_), "half a project");
+  EXPECT_EQ(BytesOf(path_), "half a project");
   EXPECT_EQ(FilesInFolder(), 1);
 }
 

@@ -13,6 +13,7 @@
 #include "engine/ChannelState.h"
 #include "support/FakeServices.h"
 #include "support/LocaleTest.h"
+#include "support/ScriptedHost.h"
 #include "support/TestFolder.h"
 
 namespace {
@@ -34,14 +35,10 @@ TEST(UnitTable, CaptionsAndFactorsOfBothSystems) {
 
 class Helpers : public LocaleTest {
  protected:
-  class NoWindows : public WindowHost {
-    void Open(Form&) override {}
-    void Wait(Form&) override {}
-  };
   Helpers() { InstallServices(fakes_.With(windows_)); }
 
   FakeServices fakes_;
-  NoWindows windows_;
+  ScriptedHost windows_;
 };
 
 TEST_P(Helpers, RangeChecksTellTheirBounds) {
@@ -96,10 +93,6 @@ class Preferences : public testing::Test {
   void Write(const std::string& text) {
     std::filesystem::create_directories(top_.Path() / "deep");
     std::ofstream(path_, std::ios::binary) << text;
-  }
-  std::string Written() {
-    std::ifstream file(path_, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
   }
   static void ExpectDefaults() {
     EXPECT_EQ(ChannelState.ChannelType, "Circular Channel");
@@ -157,11 +150,11 @@ TEST_F(Preferences, SavedInOrderBesideTheLinesOfOthers) {
   const std::string startup =
       "[Startup]\nChanType=Trapezoidal Channel\nSolveForFlow=True\nUnitsEorM=0\nSigDigs=4\nEngDigs=3\n"
       "UserPath=/data/\n";
-  EXPECT_EQ(Written(), startup);
+  EXPECT_EQ(BytesOf(path_), startup);
   Write("[Window]\nWidth=5\n" + startup + "[Last]\nSigDigs=2\n");
   Declarations::SigDigs = 1;
   InitialFile::SavePreferences();
-  const std::string saved = Written();
+  const std::string saved = BytesOf(path_);
   EXPECT_TRUE(saved.starts_with("[Window]\nWidth=5\n[Startup]\nChanType=Trapezoidal Channel\n"));
   EXPECT_NE(saved.find("\nSigDigs=1\nEngDigs=3\n"), std::string::npos);
   EXPECT_TRUE(saved.ends_with("[Last]\nSigDigs=2\n"));

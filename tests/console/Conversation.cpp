@@ -49,10 +49,7 @@ std::string WithVersion(std::string text) {
   constexpr std::string_view placeholder = "{version}";
   const std::size_t at = text.find(placeholder);
   if (at == std::string::npos) return text;
-  const int numbers[] = {VersionMajor, VersionMinor, VersionRevision};
-  std::string version = "v";
-  for (const int number : numbers) version += (version == "v" ? "" : ".") + std::to_string(number);
-  return text.replace(at, placeholder.size(), version);
+  return text.replace(at, placeholder.size(), std::string("v") + VersionName);
 }
 
 }  // namespace

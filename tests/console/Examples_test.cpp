@@ -21,6 +21,9 @@ constexpr Example Examples[] = {
     {"roadside-ditch.fwd", "tbFlow", "21.2", "4.20", "1.179"},  // 21.17782, 4.20195, 1.17877
     {"lined-canal.fwd", "tbDepth", "1.642", "1.34", "0.990"},   // 1.64166, 1.33816, 0.99041
     {"box-culvert.fwd", "tbFlow", "18.9", "4.37", "1.848"},     // 18.87617, 4.36948, 1.84769
+    // Surveys, their wetted parts summed segment by segment and stretch by stretch.
+    {"stream-overbanks.fwd", "tbDepth", "110.205", "4.54", "108.039"},  // 110.20488, 4.54352, 108.03899
+    {"braided-reach.fwd", "tbFlow", "35.4", "1.43", "401.265"},         // 35.39252, 1.42663, 401.26474
 };
 
 TEST(ExampleProjects, GiveTheAnswersTold) {

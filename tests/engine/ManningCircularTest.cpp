@@ -3,7 +3,6 @@
 #include "engine/ManningCircular.h"
 
 #include <cmath>
-#include <random>
 
 #include "Problem.h"
 
@@ -75,10 +74,7 @@ TEST_F(ManningCircularTest, FlowIsGreatestNear938Thousandths) {
 }
 
 TEST_F(ManningCircularTest, RandomPipesByASecondMethod) {
-  std::mt19937_64 random(2);
-  const auto uniform = [&](double from, double to) {
-    return std::uniform_real_distribution(from, to)(random);
-  };
+  Uniform uniform(2);
   for (int i = 0; i < 300; ++i) {
     const double D = uniform(0.3, 20), n = uniform(0.009, 0.03), S = std::pow(10, uniform(-4, -1.5));
     const double Q = uniform(0.01, 0.99) * static_cast<double>(PipeWater(0.938L * D, D).Flow(n, S));

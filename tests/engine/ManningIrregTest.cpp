@@ -2,7 +2,6 @@
 #include "engine/ManningIrreg.h"
 
 #include <cmath>
-#include <random>
 
 #include "Problem.h"
 #include "engine/Constants.h"
@@ -72,13 +71,10 @@ TEST_F(ManningIrregTest, GeometryByHand) {
 }
 
 TEST_F(ManningIrregTest, RandomGroundByClipping) {
-  std::mt19937_64 random(3);
-  const auto uniform = [&](double from, double to) {
-    return std::uniform_real_distribution(from, to)(random);
-  };
+  Uniform uniform(3);
   for (int i = 0; i < 300; ++i) {
     Points points;
-    const int count = std::uniform_int_distribution(2, 101)(random);
+    const int count = static_cast<int>(uniform(2, 102));
     double x = uniform(-50, 50);
     for (int p = 0; p < count; ++p) points.push_back({x += uniform(0.1, 9), uniform(-20, 20)});
     const double W = uniform(-19, 25);
@@ -112,10 +108,7 @@ TEST_F(ManningIrregTest, SubsectionsFlowSideBySide) {
 }
 
 TEST_F(ManningIrregTest, SameAsTheTrapezoidOfItsOutline) {
-  std::mt19937_64 random(4);
-  const auto uniform = [&](double from, double to) {
-    return std::uniform_real_distribution(from, to)(random);
-  };
+  Uniform uniform(4);
   for (int i = 0; i < 100; ++i) {
     const double b = uniform(0.1, 40), zL = uniform(0.1, 4), zR = uniform(0.1, 4), n = uniform(0.01, 0.1);
     const double S = std::pow(10, uniform(-4, -2)), y = uniform(0.1, 20), datum = uniform(-100, 1000),

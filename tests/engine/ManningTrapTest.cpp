@@ -3,7 +3,6 @@
 
 #include <cmath>
 #include <limits>
-#include <random>
 
 #include "Problem.h"
 #include "engine/Bisection.h"
@@ -52,30 +51,8 @@ TEST_F(ManningTrapTest, RectangleByHand) {
   EXPECT_NEAR(ChannelState.Froude.Number(), 1, 1e-5);
 }
 
-TEST_F(ManningTrapTest, WorkedExample) {
-  SetTrapezoid(20, 2, 2, 0.025, 0.0016);
-  ChannelState.Flow = 400;
-  ManningTrap::PrismaticDepthFromFlow();
-  EXPECT_NEAR(ChannelState.Depth.Number(), 3.361, 5e-4);
-  EXPECT_NEAR(ChannelState.Velocity.Number(), 4.454, 5e-4);
-  EXPECT_NEAR(ChannelState.CriticalDepth.Number(), 2.148, 5e-4);
-  EXPECT_EQ(ChannelState.Flow, 400);
-}
-
-TEST_F(ManningTrapTest, CriticalDepthOfRectangleAndTriangleInClosedForm) {
-  for (const double Q : {0.01, 3.0, 250.0, 4e5}) {
-    EXPECT_NEAR(ManningTrap::TrapCriticalDepth(7, 0, 0, Q).Number(), std::cbrt(Q / 7 * Q / 7 / 32.17405),
-                1e-6);
-    EXPECT_NEAR(ManningTrap::TrapCriticalDepth(0, 1.5, 1.5, Q).Number(),
-                std::pow(2 * Q * Q / (32.17405 * 1.5 * 1.5), 0.2), 1e-6);
-  }
-}
-
 TEST_F(ManningTrapTest, RandomChannelsByASecondMethod) {
-  std::mt19937_64 random(1);
-  const auto uniform = [&](double from, double to) {
-    return std::uniform_real_distribution(from, to)(random);
-  };
+  Uniform uniform(1);
   for (int i = 0; i < 300; ++i) {
     const double b = uniform(0, 50), zL = uniform(0.1, 5), zR = uniform(0, 5), n = uniform(0.01, 0.1);
     const double S = std::pow(10, uniform(-4, -1)), Q = std::pow(10, uniform(-1, 5));

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string_view>
 #include <vector>
 
@@ -63,6 +64,16 @@ class EngineTest : public testing::Test {
     EXPECT_EQ(solved, "Overflow");
     EXPECT_EQ(Results(), std::vector<EngineValue>(9));
   }
+};
+
+/// Numbers by chance, the same ones in every run.
+class Uniform {
+ public:
+  explicit Uniform(unsigned seed) : random_(seed) {}
+  double operator()(double low, double high) { return std::uniform_real_distribution(low, high)(random_); }
+
+ private:
+  std::mt19937_64 random_;
 };
 
 // Root of a rising function in extended precision: the second method beside the engine's own search.

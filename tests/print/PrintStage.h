@@ -1,43 +1,20 @@
 // The whole program beside a printer that writes down what it is told.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <string>
 #include <vector>
 
-#include "app/Declarations.h"
-#include "engine/ChannelState.h"
-#include "program/Program.h"
-#include "support/FakeServices.h"
-#include "support/LocaleTest.h"
+#include "app/Version.h"
+#include "support/ProgramStage.h"
 
 using Calls = std::vector<std::string>;
 
-inline std::string Version() {
-  return "v" + std::to_string(VersionMajor) + "." + std::to_string(VersionMinor) + "." +
-         std::to_string(VersionRevision);
-}
-
-class PrintStage : public LocaleTest {
+class PrintStage : public ProgramStage {
  protected:
   PrintStage() {
-    All.Start();
     Main.tbProjName.Text = "Mill race";
     Fakes.printerDialog.Answers = {true};
-  }
-
-  static void Type(TextBox& box, const char* text) { box.Text = Spelled(text); }
-
-  /// The rectangle of the textbooks: at y = 2 ft A is 20 sf, P 14 ft and Q 91.696 cfs.
-  void TypeRectangle() {
-    Main.mnuOptionsRect_Click();
-    Main.mnuSolveForFlow_Click();
-    Type(Main.tbDepth, "2");
-    Type(Main.tbSlope, "0.001");
-    Type(Main.tbMann, "0.013");
-    Type(Main.tbBaseWidth, "10");
   }
 
   void UsePaper(int width, int height) {
@@ -59,22 +36,14 @@ class PrintStage : public LocaleTest {
     const auto at = [this](int aboveBottom) { return std::to_string(Paper.Height - aboveBottom); };
     return {"font Arial 8 False True False",
             "line 1152 " + at(1808) + " " + std::to_string(Paper.Width - 1872) + " " + at(1808) + " 3",
-            "text 1152 " + at(1708) + " Untitled    2026-03-09", "text 1152 " + at(1524) + " " + Version()};
+            "text 1152 " + at(1708) + " Untitled    2026-03-09",
+            "text 1152 " + at(1524) + " " + "v" + VersionName};
   }
   Calls Head() const {
     return {"font Arial 12 True False False", "text 1152 1008 Mill race",
             "text 1152 1284 Manning's Equation - " + ChannelState.ChannelType};
   }
 
-  class NoScreen : public WindowHost {
-    void Open(Form&) override {}
-    void Wait(Form&) override {}
-  };
-
-  FakeServices Fakes;
-  NoScreen Screen;
-  Program All{Fakes.With(Screen)};
-  frmMain& Main = All.Main;
   FakePrinter& Paper = Fakes.printerDialog.Paper;
 };
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "app/Declarations.h"
 #include "print/PrintStage.h"
 
 namespace {
@@ -44,24 +45,14 @@ class Report : public PrintStage {
                       {"Critical Slope", &frmMain::tbCritS, {" ft/ft", " m/m"}}});
   }
 
-  static std::string PointText(int row, int column) {
-    const std::string texts[] = {std::to_string(10 * row), Spelled(std::to_string(row % 7) + ".5"),
-                                 row == 1 ? Spelled("0.03") : ""};
-    return texts[column];
+  static TypedPoint Point(int row) {
+    return {std::to_string(10 * row), std::to_string(row % 7) + ".5", row == 1 ? "0.03" : ""};
   }
   /// A section of so many points, the water standing above the lowest.
-  void TypeSection(int count) {
-    Main.mnuOptionsIrreg_Click();
-    Main.mnuSolveForFlow_Click();
-    ChannelState.IrregPointCount = count;
-    for (int row = 1; row <= count; ++row) {
-      for (int column = 0; column < 3; ++column) {
-        ChannelState.IrregPoints[static_cast<std::size_t>(row)][static_cast<std::size_t>(column) + 1] =
-            PointText(row, column);
-      }
-    }
-    Type(Main.tbSlope, "0.002");
-    Type(Main.tbDepth, "1.75");
+  void TypePoints(int count) {
+    std::vector<TypedPoint> points;
+    for (int row = 1; row <= count; ++row) points.push_back(Point(row));
+    TypeSection(points, "1.75");
   }
 
   static constexpr int Stops[] = {1872, 2592, 3312, 4032, 4752, 5472, 6192, 6912, 7632, 8352, 9072, 9792};
@@ -78,7 +69,8 @@ class Report : public PrintStage {
     for (int row = first; row <= last; ++row) {
       for (int column = 0; column < 3; ++column) {
         calls.push_back("text " + std::to_string(Stops[3 * ((row - first) % 4) + column]) + " " +
-                        std::to_string(top + 230 * ((row - first) / 4)) + " " + PointText(row, column));
+                        std::to_string(top + 230 * ((row - first) / 4)) + " " +
+                        Spelled(Point(row)[static_cast<std::size_t>(column)]));
       }
     }
     return calls;
@@ -135,7 +127,7 @@ TEST_P(Report, OfASectionHasItsPointsInFours) {
     int Points, Lines;
   };
   for (const auto& [points, lines] : std::initializer_list<Case>{{2, 1}, {4, 1}, {5, 2}, {100, 25}}) {
-    TypeSection(points);
+    TypePoints(points);
     for (const int height : {15840, 16838}) {
       UsePaper(height == 15840 ? 12240 : 11906, height);
       Fakes.printerDialog.Answers = {true};
@@ -153,7 +145,7 @@ TEST_P(Report, OfASectionHasItsPointsInFours) {
 }
 
 TEST_P(Report, GoesOnOnAnotherPageWhereTheFooterIsInTheWay) {
-  TypeSection(100);
+  TypePoints(100);
   UsePaper(15840, 12240);  // the 9 results would end at 10978, the rule is at 10432
   Main.mnuFilePrint_Click();
   ASSERT_EQ(Pages(), 2);

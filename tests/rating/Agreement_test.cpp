@@ -3,7 +3,6 @@
 #include <cmath>
 #include <random>
 
-#include "RatingStage.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "rating/RatingSeries.h"
@@ -11,6 +10,7 @@
 #include "rating/frmGraphSettings.h"
 #include "rating/frmTable.h"
 #include "rating/frmTableSettings.h"
+#include "support/ProgramStage.h"
 
 namespace {
 
@@ -23,7 +23,7 @@ constexpr ResultBox Results[] = {{6, &frmMain::tbVelocity}, {7, &frmMain::tbVelH
                                  {9, &frmMain::tbWP},       {10, &frmMain::tbHRad},   {11, &frmMain::tbTopW},
                                  {12, &frmMain::tbFroude},  {13, &frmMain::tbCritD}};
 
-class Agreement : public RatingStage {
+class Agreement : public ProgramStage {
  protected:
   double Between(double low, double high) {
     return std::round(std::uniform_real_distribution<double>(low, high)(random_) * 10000) / 10000;
@@ -71,11 +71,11 @@ class Agreement : public RatingStage {
   /// The table of the input at this line of the list, in as many steps as the graph has.
   Grid Table(int line) {
     Grid rows;
-    Then<frmTableSettings>([=](frmTableSettings& settings) {
+    Screen.Then<frmTableSettings>([=](frmTableSettings& settings) {
       Type(settings.tbIncrement, PlainNumber(ChooseRange(settings, line)));
       settings.cmdOK_Click();
     });
-    Then<frmTable>([&](frmTable& table) {
+    Screen.Then<frmTable>([&](frmTable& table) {
       for (int row = 1; row < table.MSFlexGrid1.Rows(); ++row) {
         rows.emplace_back();
         for (int column = 0; column < 15; ++column)
@@ -88,12 +88,12 @@ class Agreement : public RatingStage {
 
   std::vector<XYChart::Row> Graph(int line, int plotted) {
     std::vector<XYChart::Row> rows;
-    Then<frmGraphSettings>([=](frmGraphSettings& settings) {
+    Screen.Then<frmGraphSettings>([=](frmGraphSettings& settings) {
       ChooseRange(settings, line);
       settings.cbxY.ListIndex = plotted;
       settings.cmdOK_Click();
     });
-    Then<frmGraph>([&](frmGraph& graph) { rows = graph.MSChart1.Rows(); });
+    Screen.Then<frmGraph>([&](frmGraph& graph) { rows = graph.MSChart1.Rows(); });
     Main.mnuSolveGraph_Click();
     return rows;
   }

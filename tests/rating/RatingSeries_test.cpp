@@ -4,11 +4,11 @@
 #include <cmath>
 #include <stdexcept>
 
-#include "RatingStage.h"
 #include "app/Units.h"
 #include "engine/EngineFault.h"
 #include "rating/RatingColumn.h"
 #include "rating/RatingSeries.h"
+#include "support/ProgramStage.h"
 
 namespace {
 
@@ -17,7 +17,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Values = std::vector<double>;
 
-class Series : public RatingStage {
+class Series : public ProgramStage {
  protected:
   static RatingRangeRecord Range(int varyCode, double first, double last, double step) {
     return {varyCode, 1, first, last, step, false};

@@ -2,14 +2,13 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 
-#include "RatingStage.h"
 #include "app/Declarations.h"
 #include "rating/frmGraph.h"
 #include "rating/frmGraphSettings.h"
 #include "rating/frmTable.h"
 #include "rating/frmTableSettings.h"
+#include "support/ProgramStage.h"
 #include "support/TestFolder.h"
 
 namespace {
@@ -17,23 +16,23 @@ namespace {
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class RatingWindows : public RatingStage {
+class RatingWindows : public ProgramStage {
  protected:
   template <class Settings>
   void ThenOK() {
-    Then<Settings>([](Settings& settings) {
+    Screen.Then<Settings>([](Settings& settings) {
       EXPECT_TRUE(settings.cmdOK.Enabled);
       settings.cmdOK_Click();
     });
   }
   void OpenTable(const std::function<void(frmTable&)>& act) {
     ThenOK<frmTableSettings>();
-    Then<frmTable>(act);
+    Screen.Then<frmTable>(act);
     Main.mnuSolveTable_Click();
   }
   void OpenGraph(const std::function<void(frmGraph&)>& act) {
     ThenOK<frmGraphSettings>();
-    Then<frmGraph>(act);
+    Screen.Then<frmGraph>(act);
     Main.mnuSolveGraph_Click();
   }
 };
@@ -47,7 +46,7 @@ TEST_P(RatingWindows, TheGraphPlotsTwoHundredStepsOnTheWay) {
     EXPECT_EQ(chart.Rows()[0][0], 0.01);
     EXPECT_THAT(chart.Marked.Get(), IsEmpty());
     // Steps of 1.25 units in the last place are rounded down to 1: 251 points up to the end.
-    Then<frmGraphSettings>([](frmGraphSettings& settings) {
+    Screen.Then<frmGraphSettings>([](frmGraphSettings& settings) {
       Type(settings.tbMin, "1");
       Type(settings.tbMax, PlainNumber(1 + 250 * 0x1p-52));
       settings.cmdOK_Click();
@@ -84,10 +83,6 @@ TEST_P(RatingWindows, TheGraphMarksWhereTheFlowFalls) {
 class RatingExport : public RatingWindows {
  protected:
   std::string Path(const char* name) { return (folder_.Path() / name).string(); }
-  static std::string Content(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
   TestFolder folder_;
 };
 
@@ -101,7 +96,7 @@ TEST_P(RatingExport, TheTableIsWrittenUnrounded) {
   });
   EXPECT_EQ(Fakes.fileDialog.Requests[0].FileName, "Mill race.csv");
   EXPECT_TRUE(Fakes.fileDialog.Requests[0].Saving);
-  const std::string csv = Content(Path("table.csv"));
+  const std::string csv = BytesOf(Path("table.csv"));
   EXPECT_EQ(std::ranges::count(csv, '\n'), 21);
   EXPECT_THAT(csv,
               testing::StartsWith(DecimalComma() ? "Flow, cfs;Depth, ft;" : "\"Flow, cfs\",\"Depth, ft\","));
@@ -122,7 +117,7 @@ TEST_P(RatingExport, AFailureIsToldAndLeavesNothing) {
   ASSERT_EQ(Fakes.messageBox.Boxes.size(), 2U);
   for (const auto& box : Fakes.messageBox.Boxes) EXPECT_EQ(box.Title, "Flumewise");
   EXPECT_THAT(Fakes.messageBox.Boxes[0].Text, HasSubstr("Cannot write " + Path("missing/table.csv")));
-  EXPECT_EQ(Content(Path("graph.PNG")), "picture as png");
+  EXPECT_EQ(BytesOf(Path("graph.PNG")), "picture as png");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.Path()), {}), 1);
 }
 

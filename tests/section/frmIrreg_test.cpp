@@ -4,47 +4,32 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
-
 #include "app/Declarations.h"
 #include "app/WholeFile.h"
 #include "engine/ChannelState.h"
 #include "support/FakeServices.h"
 #include "support/LocaleTest.h"
+#include "support/ScriptedHost.h"
+#include "support/TestFolder.h"
 
 namespace {
 
 class PointEditor : public LocaleTest {
  protected:
-  class NoWindows : public WindowHost {
-    void Open(Form&) override {}
-    void Wait(Form&) override {}
-  };
-
   PointEditor() {
     InstallServices(fakes_.With(windows_));
     Declarations::Reset();
     editor_.Load();
   }
-  ~PointEditor() override {
-    Declarations::Reset();
-    std::filesystem::remove(file_);
-  }
+  ~PointEditor() override { Declarations::Reset(); }
 
   void Select(GridBlock block) { grid_.Selection = block; }
   void Copied(const std::string& text) { fakes_.clipboard.SetText(text); }
 
-  /// A file of each test's own: they may run at the same time.
-  static std::string FileOfThisTest() {
-    std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-    std::ranges::replace(name, '/', '_');
-    return testing::TempDir() + "points_" + name + ".csv";
-  }
-
-  const std::string file_ = FileOfThisTest();
+  TestFolder folder_;
+  const std::string file_ = (folder_.Path() / "points.csv").string();
   FakeServices fakes_;
-  NoWindows windows_;
+  ScriptedHost windows_;
   frmIrreg editor_;
   FlexGrid& grid_ = editor_.MSFlexGrid1;
 };
@@ -97,8 +82,8 @@ TEST_P(PointEditor, PointsGoOutAndComeIn) {
   fakes_.fileDialog.Choices = {file_};
   editor_.mnuFileExport_Click();
   EXPECT_EQ(fakes_.fileDialog.Requests[0].FileName, "Untitled.csv");
-  EXPECT_EQ(WholeFile::Read(file_), DecimalComma() ? "Station;Elevation;n\r\n0;10,25;0,03\r\n1005,5;8;\r\n"
-                                                   : "Station,Elevation,n\r\n0,10.25,0.03\r\n1005.5,8,\r\n");
+  EXPECT_EQ(BytesOf(file_), DecimalComma() ? "Station;Elevation;n\r\n0;10,25;0,03\r\n1005,5;8;\r\n"
+                                           : "Station,Elevation,n\r\n0,10.25,0.03\r\n1005.5,8,\r\n");
   Select({3, 1, 3, 3});
   Copied("7\t7\t7");
   editor_.cmdPaste_Click();

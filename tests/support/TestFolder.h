@@ -3,7 +3,15 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
+
+/// The whole file; nothing where there is none.
+inline std::string BytesOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
 
 /// Empty when made, gone with the object.
 class TestFolder {
