@@ -59,10 +59,11 @@ std::vector<Exchange> ReadConversation(const std::string& path) {
   std::ifstream file(path);
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line.starts_with('#')) continue;
-    if (line.starts_with('=')) {
-      conversation.back().Reply = line.size() > 2 ? line.substr(2) : "";
-    } else {
+    const std::size_t equals = line.find(" =");
+    if (equals == std::string::npos) {
       conversation.push_back({line, "ok"});
+    } else {
+      conversation.push_back({line.substr(0, equals), line.substr(std::min(equals + 3, line.size()))});
     }
   }
   return conversation;

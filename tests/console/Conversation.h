@@ -12,8 +12,8 @@ struct Exchange {
   std::string Reply;
 };
 
-/// Reads a conversation. A line "= reply" tells the reply to the line above, which else is "ok"; "#" starts a
-/// remark.
+/// Reads a conversation, a line "get tbArea.Text = 20.0" for each exchange; without "=" the reply is "ok".
+/// "#" starts a remark.
 std::vector<Exchange> ReadConversation(const std::string& path);
 
 /// The same conversation in another locale: what is typed into boxes and read off them is spelled that way.
