@@ -70,6 +70,9 @@ class ProjectSaving : public testing::Test {
   void ExpectNotSaved(const fs::path& path) {
     EXPECT_THROW(ProjectFile::Write(path, new_), std::runtime_error) << path;
   }
+  static void ExpectNotRead(const fs::path& path) {
+    EXPECT_THROW(ProjectFile::Read(path), std::runtime_error) << path;
+  }
 
   TestFolder temporary_;
   const fs::path folder_ = temporary_.Path(), path_ = folder_ / "canal.fwd";
@@ -170,10 +173,24 @@ TEST_F(ProjectSaving, RefusesWhatIsNoFile) {
   fs::create_directory(folder_ / "folder.fwd");
   ASSERT_EQ(mkfifo((folder_ / "pipe.fwd").c_str(), 0666), 0);
   fs::create_symlink("loop.fwd", folder_ / "loop.fwd");
-  for (const char* name : {"folder.fwd", "pipe.fwd", "loop.fwd", "missing/canal.fwd", "missing/", ""})
-    ExpectNotSaved(*name == '\0' ? fs::path() : folder_ / name);
+  for (const char* name : {"folder.fwd", "pipe.fwd", "loop.fwd", "missing/canal.fwd", "missing/", ""}) {
+    const fs::path path = *name == '\0' ? fs::path() : folder_ / name;
+    ExpectNotSaved(path);
+    ExpectNotRead(path);
+  }
   EXPECT_TRUE(fs::is_fifo(folder_ / "pipe.fwd"));
   EXPECT_EQ(FilesInFolder(), 3);
+}
+
+TEST_F(ProjectSaving, ReadsNeitherWhatIsTooLargeNorWhatIsProtected) {
+  { const std::ofstream zeros(path_); }
+  fs::resize_file(path_, 1 << 30);
+  ExpectNotRead(path_);
+  ExpectNotRead("/dev/zero");
+  SaveOld();
+  fs::permissions(path_, fs::perms::none);
+  const AsOrdinaryUser user;
+  ExpectNotRead(path_);
 }
 
 TEST_F(ProjectSaving, RefusesAProjectThatWouldNotOpen) {
@@ -219,22 +236,6 @@ TEST_F(ProjectSaving, LetsOneProgramSaveAtATime) {
   other.Commit();
   EXPECT_EQ(BytesOf(path_), "half a project");
   EXPECT_EQ(FilesInFolder(), 1);
-}
-
-TEST_F(ProjectSaving, ReadsRegularFilesOnly) {
-  const auto expectNotRead = [](const fs::path& path) {
-    EXPECT_THROW(ProjectFile::Read(path), std::runtime_error) << path;
-  };
-  SaveOld();
-  ASSERT_EQ(mkfifo((folder_ / "pipe.fwd").c_str(), 0666), 0);
-  { const std::ofstream zeros(folder_ / "zeros.fwd"); }
-  fs::resize_file(folder_ / "zeros.fwd", 1 << 30);
-  for (const fs::path& path : {folder_, folder_ / "pipe.fwd", folder_ / "zeros.fwd", folder_ / "missing.fwd",
-                               fs::path("/dev/zero"), fs::path()})
-    expectNotRead(path);
-  fs::permissions(path_, fs::perms::none);
-  const AsOrdinaryUser user;
-  expectNotRead(path_);
 }
 
 }  // namespace

@@ -65,16 +65,15 @@ TEST_P(Helpers, RangeChecksTellTheirBounds) {
 TEST_P(Helpers, LeadingZeroOnlyWhereANumberLacksIt) {
   Form form("form");
   TextBox box{&form, "box"};
-  for (const auto& [typed, tidy] :
-       std::initializer_list<std::pair<const char*, const char*>>{{".5", "0.5"},
-                                                                  {".", "."},
-                                                                  {"-.5", "-.5"},
-                                                                  {"1.5", "1.5"},
-                                                                  {".5x", ".5x"},
-                                                                  {"abc", "abc"},
-                                                                  {"", ""},
-                                                                  {".5e1", ".5e1"},
-                                                                  {".25 ", "0.25 "}}) {
+  for (const auto& [typed, tidy] : {std::pair(".5", "0.5"),
+                                    {".", "."},
+                                    {"-.5", "-.5"},
+                                    {"1.5", "1.5"},
+                                    {".5x", ".5x"},
+                                    {"abc", "abc"},
+                                    {"", ""},
+                                    {".5e1", ".5e1"},
+                                    {".25 ", "0.25 "}}) {
     box.Text = Spelled(typed);
     EXPECT_EQ(FormStuff::AddLeadingZero(box), Spelled(tidy));
   }

@@ -12,9 +12,12 @@ using Calls = std::vector<std::string>;
 
 class PrintStage : public ProgramStage {
  protected:
-  PrintStage() {
-    Main.tbProjName.Text = "Mill race";
+  PrintStage() { Main.tbProjName.Text = "Mill race"; }
+
+  void PrintReport() {
+    Paper.TakeCalls();
     Fakes.printerDialog.Answers = {true};
+    Main.mnuFilePrint_Click();
   }
 
   void UsePaper(int width, int height) {

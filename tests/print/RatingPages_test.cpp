@@ -4,6 +4,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "app/Units.h"
 #include "print/Print.h"
 #include "print/PrintStage.h"
 #include "rating/frmGraph.h"
@@ -17,13 +18,10 @@ using testing::IsEmpty;
 
 class RatingPages : public PrintStage {
  protected:
-  struct GridForm : Form {
-    GridForm() : Form("GridForm") {}
-    FlexGrid Grid{this, "Grid"};
-  };
-
-  /// A grid of 15 columns whose cells tell their place, the leading column empty.
-  static void Fill(FlexGrid& grid, int rows, int cols = 15) {
+  /// Prints a grid whose cells tell their place, the leading column empty.
+  void PrintGrid(int rows, int cols = 15) {
+    Form form("form");
+    FlexGrid grid(&form, "grid");
     std::vector<std::vector<std::string>> cells;
     for (int row = 0; row <= rows; ++row) {
       cells.emplace_back();
@@ -32,13 +30,9 @@ class RatingPages : public PrintStage {
       }
     }
     grid.Load(std::move(cells), cols);
-  }
-  void PrintGrid(int rows) {
-    GridForm form;
-    Fill(form.Grid, rows);
     Paper.TakeCalls();
     Fakes.printerDialog.Answers = {true};
-    Print::ToPrinter(Print::Table(Main, form.Grid));
+    Print::ToPrinter(Print::Table(Main, grid));
   }
 
   // 1152 + 9216 (i - 1) / 14 on Letter; the leading column at the edge of the paper.
@@ -62,11 +56,7 @@ class RatingPages : public PrintStage {
 
 TEST_P(RatingPages, ATableTakesASheetFor58RowsOfLetterAndNoneForHeadsOnly) {
   // Rows begin at 2192; the 58th ends at 12864, the first beyond 15840 - 3008.
-  struct Case {
-    int Rows, Pages;
-  };
-  for (const auto& [rows, pages] :
-       std::initializer_list<Case>{{1, 1}, {57, 1}, {58, 1}, {59, 2}, {116, 2}, {1000, 18}}) {
+  for (const auto& [rows, pages] : {std::pair(1, 1), {57, 1}, {58, 1}, {59, 2}, {116, 2}, {1000, 18}}) {
     PrintGrid(rows);
     ASSERT_EQ(Pages(), pages) << rows;
     EXPECT_THAT(Page(1), ElementsAreArray(GridPage(1, std::min(rows, 58)))) << rows;
@@ -102,21 +92,14 @@ TEST_P(RatingPages, ColumnsAreRoundedHalfToEvenAndNeverOverlap) {
 }
 
 TEST_P(RatingPages, AGridOfTooManyColumnsIsAFault) {
-  GridForm form;
-  Fill(form.Grid, 1, 21);
-  Print::ToPrinter(Print::Table(Main, form.Grid));
+  PrintGrid(1, 21);
   EXPECT_EQ(Paper.Calls.back(), "end");
-  Fill(form.Grid, 1, 22);
-  Fakes.printerDialog.Answers = {true};
-  EXPECT_THROW(Print::ToPrinter(Print::Table(Main, form.Grid)), std::out_of_range);
+  EXPECT_THROW(PrintGrid(1, 22), std::out_of_range);
 }
 
 TEST_P(RatingPages, ThePreviewOfTheTableWindowShowsItsCells) {
   TypeRectangle();
-  RatingRange.VaryCode = 1;
-  RatingRange.RangeMin = 1;
-  RatingRange.RangeMax = 2;
-  RatingRange.RangeStep = 1;
+  RatingRange = {Units::Length, 1, 1, 2, 1, false};
   frmTable table(Main);
   table.Load();
   table.mnuPrintPreview.Click();
@@ -128,11 +111,7 @@ TEST_P(RatingPages, ThePreviewOfTheTableWindowShowsItsCells) {
 
 TEST_P(RatingPages, TheGraphIsAsLargeAsFitsInItsOwnProportions) {
   TypeRectangle();
-  RatingRange.VaryCode = 1;
-  RatingRange.GraphYColumn = 1;
-  RatingRange.RangeMin = 0;
-  RatingRange.RangeMax = 2;
-  RatingRange.RangeStep = 0.01;
+  RatingRange = {Units::Length, 1, 0, 2, 0.01, false};
   Fakes.clipboard.SetText("before");
   frmGraph graph(Main);
   graph.Load();
@@ -142,13 +121,11 @@ TEST_P(RatingPages, TheGraphIsAsLargeAsFitsInItsOwnProportions) {
     const char* Picture;  ///< nothing: there is no room
   };
   // The room is W - 3024 wide and H - 5816 high.
-  for (const Case& each : std::initializer_list<Case>{{12240, 15840, {4, 3}, "9216 6912"},
-                                                      {11906, 16838, {4, 3}, "8882 6661"},
-                                                      {15840, 12240, {4, 3}, "8565 6424"},
-                                                      {12240, 15840, {500, 1000}, "5012 10024"},
-                                                      {12240, 15840, {9216, 10024}, "9216 10024"},
-                                                      {8000, 5816, {4, 3}, ""},
-                                                      {12240, 15840, {0, 300}, ""}}) {
+  for (const Case& each :
+       {Case{12240, 15840, {4, 3}, "9216 6912"}, Case{11906, 16838, {4, 3}, "8882 6661"},
+        Case{15840, 12240, {4, 3}, "8565 6424"}, Case{12240, 15840, {500, 1000}, "5012 10024"},
+        Case{12240, 15840, {9216, 10024}, "9216 10024"}, Case{8000, 5816, {4, 3}, ""},
+        Case{12240, 15840, {0, 300}, ""}}) {
     UsePaper(each.Width, each.Height);
     graph.MSChart1.Size = each.Chart;
     Paper.TakeCalls();

@@ -111,8 +111,7 @@ TEST_P(Report, OfEachPrismAndThePipeInBothUnitSystems) {
         Type(Main.tbSSL, "1.5");
       }
       ASSERT_TRUE(Main.mnuFilePrint.Enabled) << ChannelState.ChannelType;
-      Fakes.printerDialog.Answers = {true};
-      Main.mnuFilePrint_Click();
+      PrintReport();
       const int resultsTop = 2008 + 230 * static_cast<int>(each.Inputs.size() + 1);
       EXPECT_THAT(Paper.TakeCalls(), ElementsAreArray(Head() + Body + Rows(2008, each.Inputs) +
                                                       Results(resultsTop) + Foot() + Calls{"end"}));
@@ -123,15 +122,12 @@ TEST_P(Report, OfEachPrismAndThePipeInBothUnitSystems) {
 }
 
 TEST_P(Report, OfASectionHasItsPointsInFours) {
-  struct Case {
-    int Points, Lines;
-  };
-  for (const auto& [points, lines] : std::initializer_list<Case>{{2, 1}, {4, 1}, {5, 2}, {100, 25}}) {
+  for (const int points : {2, 4, 5, 100}) {
+    const int lines = (points + 3) / 4;
     TypePoints(points);
     for (const int height : {15840, 16838}) {
-      UsePaper(height == 15840 ? 12240 : 11906, height);
-      Fakes.printerDialog.Answers = {true};
-      Main.mnuFilePrint_Click();
+      UsePaper(12240, height);
+      PrintReport();
       for (const FakePrinter::PrintedText& text : Paper.Texts) {
         EXPECT_TRUE(text.Y >= height - 1708 || text.Y + 230 <= height - 1808) << text.Text;
       }
@@ -147,14 +143,12 @@ TEST_P(Report, OfASectionHasItsPointsInFours) {
 TEST_P(Report, GoesOnOnAnotherPageWhereTheFooterIsInTheWay) {
   TypePoints(100);
   UsePaper(15840, 12240);  // the 9 results would end at 10978, the rule is at 10432
-  Main.mnuFilePrint_Click();
+  PrintReport();
   ASSERT_EQ(Pages(), 2);
   EXPECT_THAT(Page(2), ElementsAreArray(Head() + Body + Results(2008) + Foot()));
 
-  Paper.TakeCalls();
   UsePaper(12240, 8000);  // the rule is at 6192: the 14th line of points ends at 6148
-  Fakes.printerDialog.Answers = {true};
-  Main.mnuFilePrint_Click();
+  PrintReport();
   ASSERT_EQ(Pages(), 3);
   EXPECT_THAT(Page(1), ElementsAreArray(Head() + Body + Rows(2008, SectionRows) + PointHeads(2698) +
                                         Points(2928, 1, 56) + Foot()));
@@ -166,7 +160,7 @@ TEST_P(Report, NamesTheProjectEvenWithoutAnInput) {
   Main.tbProjName.Text = "";
   Declarations::FilePath = "/home/me/Mill.fwd";
   All.Main.EnablePrint(true);
-  Main.mnuFilePrint_Click();
+  PrintReport();
   EXPECT_EQ(Paper.Calls[1], "text 1152 1008 ");
   EXPECT_THAT(Paper.Calls, testing::Contains("text 1152 14132 /home/me/Mill.fwd    2026-03-09"));
 }
@@ -174,7 +168,7 @@ TEST_P(Report, NamesTheProjectEvenWithoutAnInput) {
 TEST_P(Report, TellsWhenItCannotBePrinted) {
   TypeRectangle();
   Paper.Works = false;
-  Main.mnuFilePrint_Click();
+  PrintReport();
   ASSERT_EQ(Fakes.messageBox.Boxes.size(), 1U);
   EXPECT_EQ(Fakes.messageBox.Boxes[0].Text, "The pages cannot be printed.");
 }
@@ -183,7 +177,7 @@ TEST_P(Report, ThePreviewShowsWhatIsPrinted) {
   TypeRectangle();
   Main.mnuFilePrintPreview_Click();
   EXPECT_THAT(Paper.Calls, IsEmpty());
-  Main.mnuFilePrint_Click();
+  PrintReport();
   EXPECT_EQ(Fakes.printerDialog.Screen.Calls, Paper.Calls);
 }
 

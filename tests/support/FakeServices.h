@@ -2,11 +2,23 @@
 #pragma once
 
 #include <deque>
+#include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Services.h"
+
+/// What was queued first, or nothing.
+template <class T>
+std::optional<T> TakeFirst(std::deque<T>& queue) {
+  if (queue.empty()) return std::nullopt;
+  T first = queue.front();
+  queue.pop_front();
+  return first;
+}
 
 class FakeClipboard : public Clipboard {
  public:
@@ -26,7 +38,10 @@ class FakeMessageBox : public MessageBox {
   };
   /// The queued answer; none queued: Cancel, or Ok where that is the only button.
   BoxAnswer Show(const std::string& text, const std::string& title, BoxIcon icon,
-                 BoxButtons buttons) override;
+                 BoxButtons buttons) override {
+    Boxes.push_back({title, text, icon});
+    return TakeFirst(Answers).value_or(buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::Cancel);
+  }
 
   std::deque<BoxAnswer> Answers;
   std::vector<Shown> Boxes;
@@ -35,7 +50,10 @@ class FakeMessageBox : public MessageBox {
 class FakeFileDialog : public FileDialog {
  public:
   /// The queued choice; none queued cancels.
-  std::optional<std::string> Choose(const FileDialogRequest& request) override;
+  std::optional<std::string> Choose(const FileDialogRequest& request) override {
+    Requests.push_back(request);
+    return TakeFirst(Choices).value_or(std::nullopt);
+  }
 
   std::deque<std::optional<std::string>> Choices;
   std::vector<FileDialogRequest> Requests;
@@ -55,23 +73,52 @@ class FakePrinter : public Printer {
   std::vector<PrintedText> Texts;
 
   /// The calls so far, which are forgotten.
-  std::vector<std::string> TakeCalls();
+  std::vector<std::string> TakeCalls() {
+    Texts.clear();
+    return std::exchange(Calls, {});
+  }
 
   int PageWidth() const override { return Width; }
   int PageHeight() const override { return Height; }
-  void SetFont(const PrintFont& font) override;
-  void Text(int x, int y, const std::string& text, int maxWidth) override;
-  void Line(int x1, int y1, int x2, int y2, int penWidth) override;
-  void Picture(const XYChart& chart, int x, int y, int width, int height) override;
+  void SetFont(const PrintFont& font) override {
+    const auto told = [](bool is) { return is ? " True" : " False"; };
+    Calls.push_back("font " + std::string(font.Name) + " " + std::to_string(font.Size) + told(font.Bold) +
+                    told(font.Italic) + told(font.Underline));
+  }
+  void Text(int x, int y, const std::string& text, int maxWidth) override {
+    Texts.push_back({x, y, maxWidth, text});
+    Calls.push_back(Joined("text", {x, y}) + " " + text);
+  }
+  void Line(int x1, int y1, int x2, int y2, int penWidth) override {
+    Calls.push_back(Joined("line", {x1, y1, x2, y2, penWidth}));
+  }
+  void Picture(const XYChart&, int x, int y, int width, int height) override {
+    Calls.push_back(Joined("picture", {x, y, width, height}));
+  }
   void NewPage() override { Calls.emplace_back("newpage"); }
-  bool End() override;
+  bool End() override {
+    Calls.emplace_back("end");
+    return Works;
+  }
+
+ private:
+  static std::string Joined(std::string call, std::initializer_list<int> numbers) {
+    for (const int number : numbers) call += " " + std::to_string(number);
+    return call;
+  }
 };
 
 class FakePrinterDialog : public PrinterDialog {
  public:
   /// The queued answer; none queued: null.
-  Printer* Choose(const PrintRequest& request) override;
-  void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) override;
+  Printer* Choose(const PrintRequest& request) override {
+    Requests.push_back(request);
+    return TakeFirst(Answers).value_or(false) ? &Paper : nullptr;
+  }
+  void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) override {
+    Requests.push_back(request);
+    write(Screen);
+  }
 
   FakePrinter Paper, Screen;
   std::deque<bool> Answers;
@@ -86,7 +133,10 @@ class FakeClock : public Clock {
 
 class FakeProgress : public Progress {
  public:
-  bool Show(const std::string& text, int done, int total) override;
+  bool Show(const std::string& text, int done, int total) override {
+    Reports.push_back(text + " " + std::to_string(done) + "/" + std::to_string(total));
+    return done != CancelAt;
+  }
 
   int CancelAt = -1;                 ///< the step at which the person cancels
   std::vector<std::string> Reports;  ///< "text done/total"

@@ -30,12 +30,7 @@ class LocaleTest : public testing::TestWithParam<NumberLocale> {
 };
 
 /// For the end of each fixture: INSTANTIATE_LOCALES(Fixture);
-#define INSTANTIATE_LOCALES(Fixture)                                                                \
-  INSTANTIATE_TEST_SUITE_P(                                                                         \
-      Locales, Fixture,                                                                             \
-      testing::Values(NumberLocale{".", ","}, NumberLocale{",", "."}, NumberLocale{",", "\u202F"}), \
-      [](const auto& param) {                                                                       \
-        return std::string(param.index == 0   ? "DecimalPoint"                                      \
-                           : param.index == 1 ? "DecimalComma"                                      \
-                                              : "Spaces");                                          \
-      })
+#define INSTANTIATE_LOCALES(Fixture) \
+  INSTANTIATE_TEST_SUITE_P(          \
+      Locales, Fixture,              \
+      testing::Values(NumberLocale{".", ","}, NumberLocale{",", "."}, NumberLocale{",", "\u202F"}))
