@@ -34,6 +34,10 @@ class Help : public Desk {
   HelpWindow& Window() { return *viewer_.Window(); }
   HelpBrowser& Page() { return *Window().findChild<HelpBrowser*>(); }
   std::string Shown() { return Page().source().toString().toStdString(); }
+  std::string ShownAfter(const char* keys) {
+    Press(keys);
+    return Shown();
+  }
   QTabWidget& Tabs() { return *Window().findChild<QTabWidget*>(); }
   template <class Widget>
   Widget& InTab() {
@@ -55,7 +59,7 @@ class Help : public Desk {
     ASSERT_EQ(found.size(), 1) << title;
     QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualItemRect(found.first()).center());
   }
-  void Open(HasClick& command) {
+  void Open(const HasClick& command) {
     command.Click();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
   }
@@ -68,7 +72,6 @@ class Help : public Desk {
 };
 
 TEST_F(Help, IsNotMadeBeforeItIsAskedFor) {
-  EXPECT_EQ(viewer_.Window(), nullptr);
   viewer_.Close();
   EXPECT_EQ(viewer_.Window(), nullptr);
 }
@@ -79,45 +82,37 @@ TEST_F(Help, ContentsLeadToPagesAndFollowThem) {
   EXPECT_EQ(Shown(), "help:/start.html");
   ClickTopic("Digits & decimals");
   EXPECT_EQ(Shown(), "help:/frmDigits.html");
-  Key(Qt::Key_Down);
-  Key(Qt::Key_Return);
-  EXPECT_EQ(Shown(), "help:/pipes.html");
-  Key(Qt::Key_Left, Qt::AltModifier);
-  EXPECT_EQ(Shown(), "help:/frmDigits.html");
+  EXPECT_EQ(ShownAfter("Down Return"), "help:/pipes.html");
+  EXPECT_EQ(ShownAfter("Alt+Left"), "help:/frmDigits.html");
   EXPECT_EQ(InTab<TopicTree>().currentItem()->text(0), QStringLiteral("Digits & decimals"));
-  Key(Qt::Key_Left, Qt::AltModifier);
-  Key(Qt::Key_Right, Qt::AltModifier);
-  EXPECT_EQ(Shown(), "help:/frmDigits.html");
-  Key(Qt::Key_Home, Qt::AltModifier);
-  EXPECT_EQ(Shown(), "help:/start.html");
+  EXPECT_EQ(ShownAfter("Alt+Left Alt+Right"), "help:/frmDigits.html");
+  EXPECT_EQ(ShownAfter("Alt+Home"), "help:/start.html");
 }
 
 TEST_F(Help, TheIndexIsFiltered) {
   Open(main_.mnuHelpIndex);
   EXPECT_EQ(Topics(), "culvert|depth|critical|full pipe|slope");
   EXPECT_EQ(QApplication::focusWidget(), &InTab<QLineEdit>());
-  Keys("crit");
-  EXPECT_EQ(Topics(), "depth|critical");
-  InTab<QLineEdit>().clear();
-  Keys("DEPTH");
-  EXPECT_EQ(Topics(), "depth|critical");
+  for (const char* const typed : {"crit", "DEPTH"}) {
+    InTab<QLineEdit>().clear();
+    Keys(typed);
+    EXPECT_EQ(Topics(), "depth|critical");
+  }
   InTab<QLineEdit>().clear();
   Keys("ull");
-  Key(Qt::Key_Return);
-  EXPECT_EQ(Shown(), "help:/pipes.html#full");
+  EXPECT_EQ(ShownAfter("Return"), "help:/pipes.html#full");
   EXPECT_GT(Page().verticalScrollBar()->value(), 0);
 }
 
 TEST_F(Help, SearchFindsThePagesThatHaveEveryWordAndMarksThem) {
   Open(main_.mnuHelpContents);
-  Key(Qt::Key_S, Qt::AltModifier);
+  Press("Alt+S");
   QTest::qWait(1);
   Keys("slope");
   EXPECT_EQ(Topics(), "Main window|Pipes|Start");
   Keys(" pipe");
   EXPECT_EQ(Topics(), "Pipes");
-  Key(Qt::Key_Return);
-  EXPECT_EQ(Shown(), "help:/pipes.html");
+  EXPECT_EQ(ShownAfter("Return"), "help:/pipes.html");
   QStringList marked;
   for (const QTextEdit::ExtraSelection& mark : Page().extraSelections()) marked << mark.cursor.selectedText();
   EXPECT_EQ(marked.join(QLatin1Char(' ')).toStdString(), "slope Pipe pipe pipe");
@@ -128,69 +123,59 @@ TEST_F(Help, SearchFindsThePagesThatHaveEveryWordAndMarksThem) {
 
 TEST_F(Help, FindsOnThePageForwardAndBackAndRoundItsEnd) {
   OpenPage("frmMain.html");
-  Key(Qt::Key_F, Qt::ControlModifier);
+  Press("Ctrl+F");
   auto& line = *qobject_cast<QLineEdit*>(QApplication::focusWidget());
-  const auto found = [this] { return Page().textCursor().block().text().toStdString(); };
   Keys("Paragraph");
-  EXPECT_THAT(found(), testing::StartsWith("Paragraph 1"));
-  Key(Qt::Key_Return);
-  EXPECT_THAT(found(), testing::StartsWith("Paragraph 2"));
-  Key(Qt::Key_F3, Qt::ShiftModifier);
-  Key(Qt::Key_F3, Qt::ShiftModifier);
-  EXPECT_THAT(found(), testing::StartsWith("Paragraph 8"));
-  Key(Qt::Key_F3);
-  EXPECT_THAT(found(), testing::StartsWith("Paragraph 1"));
-  EXPECT_EQ(line.palette().color(QPalette::Base), Window().palette().color(QPalette::Base));
+  for (const auto& [keys, found] : {std::pair{"Shift", "Paragraph 1"},
+                                    {"Return", "Paragraph 2"},
+                                    {"Shift+F3 Shift+F3", "Paragraph 8"},
+                                    {"F3", "Paragraph 1"}}) {
+    Press(keys);
+    EXPECT_THAT(Page().textCursor().block().text().toStdString(), testing::StartsWith(found));
+  }
+  const auto ground = [&line] { return line.palette().color(QPalette::Base); };
+  EXPECT_EQ(ground(), Window().palette().color(QPalette::Base));
   Keys("x");
-  EXPECT_EQ(line.palette().color(QPalette::Base), Appearance::OffendingGround(Window().palette()));
-  Key(Qt::Key_Escape);
+  EXPECT_EQ(ground(), Appearance::OffendingGround(Window().palette()));
+  Press("Esc");
   EXPECT_FALSE(line.isVisible());
   EXPECT_TRUE(Window().isVisible());
 }
 
-TEST_F(Help, FirstKeyOpensThePageOfAModalWindowAtItsControlAndLeavesBothUsable) {
+TEST_F(Help, StaysUsableBesideAModalWindowAndOwnsNoQuestionOfTheProgram) {
   InModal(main_.mnuOptionsDigits, [this](Form& form) {
-    hands_.Window(form);
-    Key(Qt::Key_F1);
+    const QWidget& dialog = hands_.Window(form);
+    Press("F1");
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
     EXPECT_EQ(Shown(), "help:/frmDigits.html#optSigDigs_3");
+    EXPECT_EQ(FrontWindow(), &dialog);
     ClickTopic("Pipes");
     EXPECT_EQ(Shown(), "help:/pipes.html");
     hands_.Window(form);
-    Key(Qt::Key_Escape);
+    Press("Esc");
     EXPECT_FALSE(form.IsLoaded());
   });
   EXPECT_TRUE(Window().isVisible());
   hands_.Focus(main_.tbSlope);
   hands_.Window(main_);
-  Key(Qt::Key_F1);
-  EXPECT_EQ(Shown(), "help:/frmMain.html#tbSlope");
-}
-
-TEST_F(Help, OwnsNoQuestionOfTheProgramWhileItHasTheKeyboard) {
+  EXPECT_EQ(ShownAfter("F1"), "help:/frmMain.html#tbSlope");
   Open(main_.mnuHelpContents);
   EXPECT_EQ(FrontWindow(), windows_.WindowOf(main_));
   InModal(main_.mnuOptionsDigits, [this](Form& form) {
     EXPECT_EQ(windows_.WindowOf(form)->parentWidget(), windows_.WindowOf(main_));
-    Open(main_.mnuHelpContents);
-    EXPECT_EQ(FrontWindow(), windows_.WindowOf(form));
   });
-}
-
-TEST_F(Help, AWindowWithoutAPageIsSentToTheFirst) {
-  OpenPage("frmNobody.html");
-  EXPECT_EQ(Shown(), "help:/start.html");
+  hands_.Close(main_);
+  EXPECT_FALSE(Window().isVisible());
 }
 
 TEST_F(Help, KeepsPlaceAndTextSizeWhenOpenedAgain) {
   OpenPage("pipes.html");
   const qreal usual = Page().font().pointSizeF();
-  Key(Qt::Key_Plus, Qt::ControlModifier);
-  Key(Qt::Key_Equal, Qt::ControlModifier);
+  Press("Ctrl++ Ctrl+=");
   EXPECT_EQ(Page().font().pointSizeF(), usual + 2);
   const QRect place = Window().geometry().translated(30, 20);
   Window().setGeometry(place);
-  Key(Qt::Key_Escape);
+  Press("Esc");
   EXPECT_FALSE(Window().isVisible());
   Open(main_.mnuHelpContents);
   EXPECT_EQ(Shown(), "help:/pipes.html");
@@ -201,23 +186,16 @@ TEST_F(Help, KeepsPlaceAndTextSizeWhenOpenedAgain) {
                     Qt::ControlModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(Page().viewport(), &wheel);
   EXPECT_GT(Page().font().pointSizeF(), usual + 2);
-  Key(Qt::Key_0, Qt::ControlModifier);
+  Press("Ctrl+0");
   EXPECT_EQ(Page().font().pointSizeF(), usual);
 }
 
-TEST_F(Help, ClosesWithTheProgram) {
-  Open(main_.mnuHelpContents);
-  hands_.Close(main_);
-  EXPECT_FALSE(Window().isVisible());
-}
-
 TEST_F(Help, LinksLeadToPlacesToAWordForWhatIsGoneAndOut) {
-  OpenPage("start.html");
-  Key(Qt::Key_Tab);
-  Key(Qt::Key_Return);
-  EXPECT_EQ(Shown(), "help:/frmMain.html#tbSlope");
+  OpenPage("frmNobody.html");
+  EXPECT_EQ(Shown(), "help:/start.html");
+  EXPECT_EQ(ShownAfter("Tab Return"), "help:/frmMain.html#tbSlope");
   EXPECT_GT(Page().verticalScrollBar()->value(), 0);
-  Key(Qt::Key_Left, Qt::AltModifier);
+  Press("Alt+Left");
   QTextBrowser elsewhere;
   QDesktopServices::setUrlHandler(QStringLiteral("https"), &elsewhere, "setSource");
   Page().setSource(QUrl(QStringLiteral("https://www.example.org/")));

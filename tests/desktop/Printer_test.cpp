@@ -1,10 +1,9 @@
-// Printed pages as files: their size, their places, their texts as the windows show them, their picture; and
-// what becomes of a document that fails or is cancelled.
+// Printed pages as files: their size, their places, their texts, their picture; and what becomes of a
+// document that fails or is cancelled.
 #include <sys/resource.h>
 
 #include <QFile>
 #include <QImage>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -17,9 +16,7 @@
 
 #include "desktop/Desk.h"
 #include "desktop/Dialogs.h"
-#include "desktop/GridTable.h"
 #include "desktop/QtPrinter.h"
-#include "engine/ChannelState.h"
 #include "print/Print.h"
 #include "rating/frmGraph.h"
 #include "rating/frmTable.h"
@@ -29,7 +26,6 @@ namespace {
 
 using testing::Contains;
 using testing::HasSubstr;
-using testing::UnorderedElementsAreArray;
 
 /// What a program of poppler writes.
 QByteArray Told(const QString& program, const QStringList& arguments) {
@@ -84,23 +80,22 @@ class Printing : public Desk {
     return {at.captured(1).toDouble(), at.captured(2).toDouble(), at.captured(3).toDouble()};
   }
 
-  /// Caption, text and unit of every field that the main window shows, as they stand side by side.
-  std::vector<std::string> Fields() {
-    std::vector<std::string> fields;
-    const QWidget& window = hands_.Window(main_);
-    for (const BoxEdit* const box : window.findChildren<BoxEdit*>()) {
-      if (!box->isVisible() || !box->isEnabled() || box == &Edit(main_.tbProjName)) continue;
-      QString caption, unit;
-      for (const QLabel* const label : box->parentWidget()->findChildren<QLabel*>()) {
-        if (label->buddy() == box) caption = label->text().remove(u'&');
-        if (label->x() > box->x() && label->geometry().contains(label->x(), box->geometry().center().y()))
-          unit = label->text();
+  /// The texts of the document on Letter, those of a line together.
+  static std::vector<std::string> LinesOf(const Print::Document& document) {
+    FakePrinter recorder;
+    document.Write(recorder);
+    std::vector<std::string> lines;
+    int y = 0;
+    for (const FakePrinter::PrintedText& text : recorder.Texts) {
+      if (text.Text.empty()) continue;
+      const std::string simple = QString::fromStdString(text.Text).simplified().toStdString();
+      if (std::exchange(y, text.Y) == text.Y) {
+        lines.back() += ' ' + simple;
+      } else {
+        lines.push_back(simple);
       }
-      if (box == &Edit(main_.tbCritS)) unit = QStringLiteral("ft/ft");  // on paper that of a slope
-      const QString gap = unit.startsWith(u':') ? QString() : QStringLiteral(" ");
-      fields.push_back((caption + u' ' + box->text() + gap + unit).simplified().toStdString());
     }
-    return fields;
+    return lines;
   }
 
   /// A range of so many depths from 0.01 ft.
@@ -111,8 +106,16 @@ class Printing : public Desk {
     RatingRange.RangeMin = RatingRange.RangeStep = 0.01;
     RatingRange.RangeMax = 0.01 * count;
   }
+  /// The table of so many depths.
+  Print::Document Table(int rows) {
+    EnterTrapezoid();
+    RateDepths(rows);
+    table_.Load();
+    return Print::Table(main_, table_.MSFlexGrid1);
+  }
 
   const TestFolder folder_;
+  frmTable table_{main_};
   QString file_ = QString::fromStdString((folder_.Path() / "pages.pdf").string());
 };
 
@@ -154,85 +157,33 @@ TEST_F(Printing, ATextWiderThanItsRoomIsCondensed) {
   EXPECT_NEAR(right(600), 130, 0.5);
 }
 
-TEST_F(Printing, TheReportSaysWhatTheWindowShows) {
+TEST_F(Printing, EveryTextIsOnItsLineOfItsPage) {
+  const auto expectWhole = [this](const Print::Document& document, std::size_t lines, int pages) {
+    ASSERT_TRUE(Pdf(document));
+    EXPECT_EQ(Lines(), LinesOf(document));
+    EXPECT_EQ(Lines().size(), lines);
+    EXPECT_EQ(Pages(), pages);
+  };
+  expectWhole(Table(100), 100 + 2 * 4, 2);  // on each page title, heads and two lines of the foot
   hands_.Type(main_.tbProjName, "Schleuse \xC3\xBC");
-  EnterTrapezoid();
-  for (int row = 1; row <= 5; ++row) {  // five digits, which the room of a point condenses
-    auto& point = ChannelState.IrregPoints[static_cast<std::size_t>(row)];
-    point[1] = std::to_string(10012 + row) + ".25";
-    point[2] = row == 1 || row == 5 ? "105.5" : "100";
-    point[3] = row == 1 ? "0.035" : "";
-  }
-  const std::vector<std::string> points = {"Sta Elev n Sta Elev n Sta Elev n Sta Elev n",
-                                           "10013.25 105.5 0.035 10014.25 100 10015.25 100 10016.25 100",
-                                           "10017.25 105.5"};
-  struct Case {
-    MenuItem& Type;
-    std::initializer_list<std::pair<TextBox*, const char*>> Texts;
-    std::size_t Fields;
-  };
-  for (const Case& each : std::initializer_list<Case>{
-           {main_.mnuOptionsTrap, {}, 16},
-           {main_.mnuOptionsRect, {}, 14},
-           {main_.mnuOptionsTriangular, {{&main_.tbSSL, "2"}, {&main_.tbSSR, "1.5"}}, 15},
-           {main_.mnuOptionsCircular, {{&main_.tbDiameter, "96"}}, 14},
-           {main_.mnuOptionsIrreg, {}, 12}}) {
-    if (&each.Type == &main_.mnuOptionsIrreg) ChannelState.IrregPointCount = 5;
-    hands_.Click(each.Type);
-    for (const auto& [box, text] : each.Texts) hands_.Type(*box, text);
-    std::vector<std::string> expected = Fields();
-    EXPECT_EQ(expected.size(), each.Fields);
-    expected.insert(
-        expected.end(),
-        {main_.tbProjName.Text, "Manning's Equation - " + ChannelState.ChannelType, "Untitled 2026-03-09"});
-    if (ChannelState.ChannelType == ChannelTypes::Irregular) {
-      expected.insert(expected.end(), points.begin(), points.end());
-    }
-    ASSERT_TRUE(Pdf(Print::Report(main_)));
-    std::vector<std::string> lines = Lines();
-    lines.pop_back();  // the version
-    EXPECT_THAT(lines, UnorderedElementsAreArray(expected));
-  }
-}
-
-TEST_F(Printing, TheTablePagesSayWhatTheTableShows) {
-  EnterTrapezoid();
-  RateDepths(100);
-  frmTable form(main_);
-  windows_.Show(form);
-  const QAbstractItemModel& table = *hands_.Of<GridTable>(form.MSFlexGrid1).model();
-  ASSERT_EQ(table.rowCount(), 100);
-  const auto line = [&table](const std::function<QString(int column)>& text) {
-    QStringList cells;
-    for (int column = 0; column < table.columnCount(); ++column) cells << text(column);
-    return cells.join(u' ').toStdString();
-  };
-  const auto heads = line([&](int column) { return table.headerData(column, Qt::Horizontal).toString(); });
-  std::vector<std::string> expected;
-  for (int row = 0; row < 100; ++row) {
-    if (row % 58 == 0) expected.push_back(heads);
-    expected.push_back(line([&](int column) { return table.index(row, column).data().toString(); }));
-  }
-  ASSERT_TRUE(Pdf(Print::Table(main_, form.MSFlexGrid1)));
-  std::vector<std::string> rows = Lines();
-  std::erase_if(rows, [](const std::string& text) { return std::ranges::count(text, ' ') < 13; });
-  EXPECT_EQ(rows, expected);
-  form.Unload();
+  // Five digits, which the room of a point condenses.
+  TakePoints({{"10013.25", "105.5", "0.035"},
+              {"10014.25", "100", ""},
+              {"10015.25", "100", ""},
+              {"10016.25", "100", ""},
+              {"10017.25", "105.5", ""}});
+  hands_.Click(main_.mnuSolveForFlow);
+  Enter({{&main_.tbSlope, "0.004"}, {&main_.tbDepth, "102"}});
+  expectWhole(Print::Report(main_), 19, 1);
 }
 
 TEST_F(Printing, ThePictureIsWhatTheGraphWindowShowsInLightColours) {
-  hands_.Click(main_.mnuOptionsCircular);
+  EnterPipe("18", "1");
   RateDepths(150);
-  for (const auto& [box, text] : {std::pair{&main_.tbDiameter, "18"},
-                                  {&main_.tbDepth, "1"},
-                                  {&main_.tbSlope, "0.004"},
-                                  {&main_.tbMann, "0.013"}}) {
-    hands_.Type(*box, text);
-  }
   frmGraph form(main_);
   windows_.Show(form);
   hands_.Window(form).setPalette(QColor(30, 30, 30));
-  Key(Qt::Key_L, Qt::ControlModifier);
+  Press("Ctrl+L");
   ASSERT_TRUE(Pdf(Print::Graph(main_, form.MSChart1)));
   const auto lines = Lines();
   EXPECT_THAT(lines, Contains("Depth, ft"));
@@ -253,11 +204,7 @@ TEST_F(Printing, ThePictureIsWhatTheGraphWindowShowsInLightColours) {
 }
 
 TEST_F(Printing, WhatIsCancelledOrFailsLeavesNoFile) {
-  EnterTrapezoid();
-  RateDepths(200);
-  frmTable form(main_);
-  windows_.Show(form);
-  const Print::Document table = Print::Table(main_, form.MSFlexGrid1);
+  const Print::Document table = Table(200);
   services_.progress.CancelAt = 2;
   EXPECT_TRUE(Pdf(table));
   EXPECT_FALSE(QFile::exists(file_));
@@ -278,7 +225,6 @@ TEST_F(Printing, WhatIsCancelledOrFailsLeavesNoFile) {
   EXPECT_TRUE(Pdf(table));
   EXPECT_EQ(Pages(), 4);
   EXPECT_EQ(services_.progress.Reports.back(), "Preparing the pages 4/4");
-  form.Unload();
   file_ += QStringLiteral("/no such folder/pages.pdf");
   EXPECT_FALSE(Pdf(Print::Report(main_)));
 }
@@ -304,10 +250,7 @@ TEST_F(Printing, TheDialogProposesWhatThePagesLookBestIn) {
 }
 
 TEST_F(Printing, ThePreviewShowsEveryPage) {
-  EnterTrapezoid();
-  RateDepths(100);
-  frmTable form(main_);
-  windows_.Show(form);
+  const Print::Document table = Table(100);
   WhenOpen<QPrintPreviewDialog>([](QPrintPreviewDialog& dialog) {
     auto* const pages = dialog.findChild<QPrintPreviewWidget*>();
     EXPECT_EQ(pages->orientation(), QPageLayout::Landscape);
@@ -316,9 +259,7 @@ TEST_F(Printing, ThePreviewShowsEveryPage) {
     EXPECT_EQ(pages->pageCount(), 2);
     dialog.reject();
   });
-  const Print::Document table = Print::Table(main_, form.MSFlexGrid1);
   QtPrinterDialog().Preview({"Print", table.Landscape}, table.Write);
-  form.Unload();
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // See WidgetHands.h.
 #include "desktop/WidgetHands.h"
 
+#include <gtest/gtest.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -10,10 +12,78 @@
 #include <QMenu>
 #include <QTableView>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QToolBar>
 #include <map>
 
+#include "desktop/Text.h"
 #include "platform/Keys.h"
+
+namespace {
+
+void ExpectTable(const FlexGrid& grid, const QTableView& view) {
+  const QAbstractItemModel& table = *view.model();
+  const auto expect = [&grid](int row, int col, const QVariant& shown) {
+    EXPECT_EQ(FromQt(shown.toString()), FromQt(Printed(grid.Text(row, col)))) << row << " " << col;
+  };
+  ASSERT_EQ(table.rowCount() + 1, std::max(grid.Rows(), 1));
+  ASSERT_EQ(table.columnCount() + 1, std::max(grid.Cols(), 1));
+  for (int col = 1; col < grid.Cols(); ++col) expect(0, col, table.headerData(col - 1, Qt::Horizontal));
+  for (int row = 1; row < grid.Rows(); ++row) {
+    expect(row, 0, table.headerData(row - 1, Qt::Vertical));
+    for (int col = 1; col < grid.Cols(); ++col) expect(row, col, table.index(row - 1, col - 1).data());
+  }
+  if (grid.Rows() <= 1) return;
+  const GridBlock& block = grid.Selection;
+  const QItemSelection selected(table.index(block.Top() - 1, block.Left() - 1),
+                                table.index(block.Bottom() - 1, block.Right() - 1));
+  EXPECT_EQ(view.selectionModel()->selection(), selected);
+}
+
+/// Fails the test where the widget or action shows anything but what its control holds.
+void ExpectShown(const Control& control, const QObject& view) {
+  SCOPED_TRACE(control.Owner().Name() + "." + control.Name());
+  const auto* const widget = qobject_cast<const QWidget*>(&view);
+  EXPECT_EQ(view.property("enabled").toBool(), control.Enabled);
+  EXPECT_EQ(widget != nullptr ? widget->isVisibleTo(widget->window()) : view.property("visible").toBool(),
+            control.Visible);
+  if (const auto* const box = dynamic_cast<const TextBox*>(&control)) {
+    EXPECT_EQ(view.property("text").toString().toStdString(), box->Text.Get());
+    EXPECT_EQ(view.property("toolTip").toString().toStdString(), box->ToolTip.Get());
+    EXPECT_EQ(view.property("readOnly").toBool(), box->Locked);
+    EXPECT_EQ(widget->font().bold(), box->Bold);
+  }
+  if (const auto* const label = dynamic_cast<const HasCaption*>(&control)) {
+    QString text = view.property(view.inherits("QGroupBox") ? "title" : "text").toString();
+    if (Qt::mightBeRichText(text)) text = QTextDocumentFragment::fromHtml(text).toPlainText();  // with links
+    EXPECT_EQ(FromQt(text.remove(u'&')), FromQt(Printed(label->Caption.Get()).remove(u'&')));
+  }
+  const bool isChecked = view.property("checked").toBool();
+  if (const auto* const item = dynamic_cast<const MenuItem*>(&control)) {
+    EXPECT_EQ(isChecked, item->Checked);
+  } else if (const auto* const option = dynamic_cast<const OptionButton*>(&control)) {
+    EXPECT_EQ(isChecked, option->Value);
+  } else if (const auto* const list = dynamic_cast<const ComboBox*>(&control)) {
+    EXPECT_EQ(view.property("currentIndex").toInt(), list->ListIndex);
+  } else if (const auto* const grid = dynamic_cast<const FlexGrid*>(&control)) {
+    ExpectTable(*grid, *qobject_cast<const QTableView*>(&view));
+  }
+}
+
+}  // namespace
+
+void Press(const char* keys) {
+  for (const QString& key : QString::fromLatin1(keys).split(u' ')) {
+    const QKeyCombination pressed = QKeySequence(key)[0];
+    QTest::keyClick(QApplication::focusWidget(), pressed.key(), pressed.keyboardModifiers());
+  }
+}
+
+void Drag(QWidget& widget, QPoint from, QPoint to) {
+  QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+  QTest::mouseMove(&widget, to);
+  QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
+}
 
 QWidget& WidgetHands::Window(const Form& form) const {
   QWidget* const window = windows_.WindowOf(form);
@@ -22,6 +92,11 @@ QWidget& WidgetHands::Window(const Form& form) const {
     window->activateWindow();
     const bool active = QTest::qWaitFor([window] { return QApplication::activeWindow() == window; });
     if (!active) qFatal("%s does not become active", form.Name().c_str());
+  }
+  EXPECT_EQ(FromQt(window->windowTitle()), form.Caption.Get() + "[*]");
+  for (const Control* const control : form.Controls()) {
+    if (const auto* const view = window->findChild<QObject*>(ToQt(control->Name())))
+      ExpectShown(*control, *view);
   }
   return *window;
 }

@@ -21,6 +21,11 @@ class TestHost : public QtWindowHost {
   std::function<void(Form&)> wait_;
 };
 
+/// Presses one key after the other at what has the keyboard: "Ctrl+Home Shift+Down".
+void Press(const char* keys);
+/// Presses the mouse at one place of the widget and lets it go at another.
+void Drag(QWidget& widget, QPoint from, QPoint to);
+
 class WidgetHands : public Hands {
  public:
   explicit WidgetHands(const QtWindowHost& windows) : windows_(windows) {}
@@ -37,7 +42,8 @@ class WidgetHands : public Hands {
   void Char(FocusControl& control, const std::string& character) override;
   void Close(Form& form) override;
 
-  /// The window of the form, made the active one.
+  /// The window of the form, made the active one. The test fails when it shows anything else than the form
+  /// holds.
   QWidget& Window(const Form& form) const;
   /// The widget or action that carries the control's name; fails the test when it is of another kind.
   template <class Widget>

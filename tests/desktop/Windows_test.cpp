@@ -8,7 +8,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -19,14 +18,12 @@
 #include <set>
 
 #include "app/Declarations.h"
-#include "app/frmDigits.h"
-#include "app/frmMannParam.h"
 #include "desktop/ChartWidget.h"
 #include "desktop/Desk.h"
 #include "desktop/PointGrid.h"
 #include "desktop/ScrollPage.h"
 #include "desktop/ShapeWidget.h"
-#include "engine/ChannelState.h"
+#include "desktop/Text.h"
 #include "engine/NumberText.h"
 
 namespace {
@@ -46,7 +43,7 @@ class Windows : public Desk {
       InModal(*rating, [&](Form& settings) {
         check(settings);
         inModal_ = check;
-        Key(Qt::Key_Return);
+        Press("Return");
       });
     }
     hands_.Click(main_.mnuOptionsIrreg);
@@ -88,13 +85,16 @@ std::vector<QObject*> Handles(const QWidget& window) {
   return handles;
 }
 
-TEST_F(Windows, EveryControlHasItsWidgetAndTheReverse) {
+TEST_F(Windows, EveryControlHasItsWidgetWithANameAndTheReverse) {
   InEveryWindow([this](Form& form) {
     SCOPED_TRACE(form.Name());
     const QWidget& window = hands_.Window(form);
-    for (const Control* const control : form.Controls()) {
-      EXPECT_EQ(window.findChildren<QObject*>(QString::fromStdString(control->Name())).size(), 1)
-          << control->Name();
+    for (Control* const control : form.Controls()) {
+      const auto found = window.findChildren<QObject*>(QString::fromStdString(control->Name()));
+      ASSERT_EQ(found.size(), 1) << control->Name();
+      if (dynamic_cast<FocusControl*>(control) == nullptr) continue;
+      const auto* const reader = QAccessible::queryAccessibleInterface(found.first());
+      EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << control->Name();
     }
     for (const QObject* const handle : Handles(window)) {
       EXPECT_NE(form.Find(handle->objectName().toStdString()), nullptr)
@@ -103,23 +103,27 @@ TEST_F(Windows, EveryControlHasItsWidgetAndTheReverse) {
   });
 }
 
-TEST_F(Windows, EveryFieldHasANameForAScreenReader) {
-  InEveryWindow([this](Form& form) {
-    for (Control* const control : form.Controls()) {
-      if (dynamic_cast<FocusControl*>(control) == nullptr) continue;
-      QAccessibleInterface* const reader =
-          QAccessible::queryAccessibleInterface(&hands_.Of<QWidget>(*control));
-      EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty()) << control->Name();
-    }
-  });
-}
-
-TEST_F(Windows, AScreenReaderAddsTheUnitAndWhatIsWrong) {
-  EXPECT_EQ(Edit(main_.tbVelocity).accessibleDescription(), QStringLiteral("fps"));
+TEST_F(Windows, AScreenReaderTellsCaptionUnitAndWhatIsWrong) {
+  EXPECT_EQ(main_.ActiveControl(), &main_.tbFlow);
+  EXPECT_EQ(Focused(), "tbFlow");
+  const auto told = [this](const TextBox& box) {
+    const auto* const reader = QAccessible::queryAccessibleInterface(&Edit(box));
+    return FromQt(reader->text(QAccessible::Name) + u'|' + reader->text(QAccessible::Description));
+  };
+  EnterTrapezoid();
+  std::string all;
+  for (const Control* const control : main_.Controls()) {
+    if (const auto* const box = dynamic_cast<const TextBox*>(control)) all += told(*box) + "; ";
+  }
+  EXPECT_EQ(all,
+            "Project|; Flow|cfs; Depth|ft; Slope|ft/ft; Manning's n|; Base Width|ft; Left Side Slope|:1; "
+            "Right Side Slope|:1; Diameter|in; Velocity|fps; Velocity Head|ft; Flow Area|sf; "
+            "Wetted Perimeter|ft; Hydraulic Radius|ft; Top Width|ft; Froude Number|; Critical Depth|ft; "
+            "Critical Slope|ft; ");
   hands_.Click(main_.mnuOptionsUnitsMetric);
-  EXPECT_EQ(Edit(main_.tbArea).accessibleDescription(), QStringLiteral("m\u00B2"));
-  EXPECT_EQ(Edit(main_.tbSlope).accessibleDescription(),
-            QStringLiteral("m/m, Slope must be greater than 0 and less than 1"));
+  EXPECT_EQ(told(main_.tbArea), "Flow Area|m\u00B2");
+  hands_.Type(main_.tbSlope, "2");
+  EXPECT_EQ(told(main_.tbSlope), "Slope|m/m, Slope must be greater than 0 and less than 1");
 }
 
 TEST_F(Windows, TheDrawingTellsMeasuresAsLongAsThereIsRoom) {
@@ -218,15 +222,10 @@ TEST_F(Windows, TabGoesInReadingOrder) {
       if (order.isEmpty() || order.last() != name) order << name;  // a text may have several links
       // Tab alone goes through the cells of the points.
       const bool points = dynamic_cast<PointGrid*>(QApplication::focusWidget()) != nullptr;
-      Key(Qt::Key_Tab, points ? Qt::ControlModifier : Qt::NoModifier);
+      Press(points ? "Ctrl+Tab" : "Tab");
     } while (QApplication::focusWidget() != first && ++steps < 30);
     EXPECT_EQ(order.join(u' ').toStdString(), orders.at(form.Name())) << form.Name();
   });
-}
-
-TEST_F(Windows, TheFirstInputHasTheKeyboardWhenTheWindowOpens) {
-  EXPECT_EQ(QApplication::focusWidget(), &Edit(main_.tbFlow));
-  EXPECT_EQ(main_.ActiveControl(), &main_.tbFlow);
 }
 
 /// Widgets that hold a text and are smaller than it needs.
@@ -244,22 +243,6 @@ QStringList CutOff(const QWidget& window) {
   }
   return cut;
 }
-
-/// While it lives, texts are so many times as large.
-class LargerText {
- public:
-  explicit LargerText(double times) {
-    QFont font = usual_;
-    font.setPointSizeF(usual_.pointSizeF() * times);
-    QApplication::setFont(font);
-  }
-  ~LargerText() { QApplication::setFont(usual_); }
-  LargerText(const LargerText&) = delete;
-  LargerText& operator=(const LargerText&) = delete;
-
- private:
-  QFont usual_ = QApplication::font();
-};
 
 TEST_F(Windows, NothingIsCutOffWhateverTheSizeOfTextAndWindow) {
   QWidget& window = hands_.Window(main_);
@@ -302,56 +285,47 @@ TEST_F(Windows, TheTypesKeepTheColumnsWhereTheyAre) {
   std::set<std::pair<int, int>> places;
   InEveryType([&] {
     QTest::qWait(1);
-    const QWidget& window = hands_.Window(main_);
-    places.emplace(Edit(main_.tbSlope).mapTo(&window, QPoint()).x(),
-                   Edit(main_.tbSlope).mapTo(&window, QPoint()).y());
-    places.emplace(Edit(main_.tbCritS).mapTo(&window, QPoint()).x(),
-                   Edit(main_.tbCritS).mapTo(&window, QPoint()).y());
+    for (const TextBox* const box : {&main_.tbSlope, &main_.tbCritS}) {
+      const QPoint place = Edit(*box).mapTo(&hands_.Window(main_), QPoint());
+      places.emplace(place.x(), place.y());
+    }
   });
   EXPECT_EQ(places.size(), 2U) << testing::PrintToString(places);
 }
 
 TEST_F(Windows, KeysWorkTheDialogs) {
-  InModal(main_.mnuOptionsDigits, [this](Form& form) {
-    hands_.Window(form);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("optSigDigs_3"));
-    Key(Qt::Key_Right);
-    EXPECT_TRUE(dynamic_cast<frmDigits&>(form).optSigDigs[4].Value);
-    Key(Qt::Key_Return);
-    EXPECT_FALSE(form.IsLoaded());
-  });
-  EXPECT_EQ(Declarations::SigDigs, 4);
-  InModal(main_.mnuOptionsDigits, [this](Form& form) {
-    hands_.Window(form);
-    Key(Qt::Key_Right);
-    Key(Qt::Key_Escape);
-    EXPECT_FALSE(form.IsLoaded());
-  });
-  EXPECT_EQ(Declarations::SigDigs, 4);
+  for (const char* const keys : {"Right Return", "Right Esc"}) {
+    InModal(main_.mnuOptionsDigits, [this, keys](Form& form) {
+      hands_.Window(form);
+      Press(keys);
+      EXPECT_FALSE(form.IsLoaded());
+    });
+    EXPECT_EQ(Declarations::SigDigs, 4) << keys;
+  }
   InModal(main_.cmdMannParams, [this](Form& form) {
     hands_.Window(form);
-    Key(Qt::Key_Down);
-    Key(Qt::Key_Return);
+    Press("Down Return");
     EXPECT_FALSE(form.IsLoaded());
   });
   EXPECT_EQ(main_.tbMann.Text.Get(), "0.013");
-  InModal(main_.cmdMannParams, [this](Form& form) {
-    auto& list = dynamic_cast<frmMannParam&>(form).lstMannParam;
-    hands_.Pick(list, 7);
-    hands_.DoubleClick(list);
-    EXPECT_FALSE(form.IsLoaded());
-  });
-  EXPECT_EQ(main_.tbMann.Text.Get(), "0.100");
 }
 
-TEST_F(Windows, TheAboutBoxHasLinksAndEndsByEscape) {
+TEST_F(Windows, EscapeClosesAllButTheFirst) {
+  InEveryWindow([this](Form& form) {
+    if (&form == &main_ || form.Name().ends_with("Settings"))
+      return;  // behind the settings is another window
+    hands_.Window(form);
+    Press("Esc");
+    EXPECT_FALSE(form.IsLoaded()) << form.Name();
+  });
+}
+
+TEST_F(Windows, TheAboutBoxHasLinks) {
   InModal(main_.mnuHelpAbout, [this](Form& form) {
     const auto* const licence = hands_.Window(form).findChild<QLabel*>(QStringLiteral("lblLicence"));
     EXPECT_THAT(licence->text().toStdString(),
                 testing::HasSubstr("href=\"https://www.gnu.org/licenses/gpl-3.0.html\""));
     EXPECT_TRUE(licence->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
-    Key(Qt::Key_Escape);
-    EXPECT_FALSE(form.IsLoaded());
   });
 }
 
