@@ -1,31 +1,11 @@
 #!/usr/bin/env bash
 # The worked trapezoid in the real window of PROGRAM, by keyboard alone: typed in, and its answers copied out.
-# Usage: real_window.sh PROGRAM   status 77 where there is nothing to show a window on
+# Usage: on_a_screen.sh xclip real_window.sh PROGRAM
 set -euo pipefail
 
-for tool in xvfb-run openbox xprop xdotool xclip; do
-  type -P "$tool" >/dev/null || {
-    echo "skipped: $tool is missing"
-    exit 77
-  }
-done
-
-if [ -z "${REAL_WINDOW:-}" ]; then
-  home=$(mktemp -d)
-  trap 'rm -rf "$home"' EXIT
-  chmod 700 "$home"
-  export REAL_WINDOW=1 XDG_RUNTIME_DIR=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
-  export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
-  xvfb-run -a -s "-screen 0 1024x640x24 -nolisten tcp" "$0" "$1"
-  exit
-fi
-
-openbox --sm-disable 2>/dev/null &
-manager=$!
-until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "#"; do sleep 0.1; done
 "$1" &
 program=$!
-trap 'kill "$program" "$manager" 2>/dev/null || true' EXIT
+trap 'kill "$program" 2>/dev/null || true' EXIT
 window=$(timeout 30 xdotool search --sync --onlyvisible --pid "$program" | tail -n 1)
 timeout 10 xdotool windowactivate --sync "$window"
 
