@@ -260,32 +260,6 @@ TEST_F(Help, AFileThatIsCutOffOrChangedAnywhereIsNotRead) {
   EXPECT_FALSE(opens("e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855"));
 }
 
-TEST(HelpTopics, AreReadFromWhateverStandsThere) {
-  struct Case {
-    const char* Text;
-    const char* Read;  // "level title>page;"
-  };
-  const Case cases[] = {
-      {"", ""},
-      {"<ul><li><object><param name=\"Name\" value=\"A &amp; B\"><param name='x'><param NAME=\"Local\" "
-       "VALUE=\"a.html#b\"></object></ul>",
-       "0 A & B>a.html#b;"},
-      {"<UL><OBJECT><param name=\"Name\" value=\"A\"></OBJECT><UL><UL><UL><OBJECT><param name=\"Name\" "
-       "value=\"B\"></OBJECT></UL></UL></UL><OBJECT><param name=\"Name\" value=\"C\"></OBJECT></UL>",
-       "0 A>;1 B>;0 C>;"},
-      {"</ul></ul><object><param name=\"Name\" value=\"A\"></object>", "0 A>;"},
-      {"<ul><object><param name=\"Local\" value=\"a.html\"></object>", ""},
-      {"<ul><object><param name=\"Name\" value=\"A\">", ""},
-      {"<ul><object><param name=\"Name\" value=\"A", ""},
-  };
-  for (const Case& each : cases) {
-    QString read;
-    for (const HelpTopic& topic : ReadHelpTopics(QLatin1String(each.Text)))
-      read += QStringLiteral("%1 %2>%3;").arg(QString::number(topic.Level), topic.Title, topic.Page);
-    EXPECT_EQ(read.toStdString(), each.Read) << each.Text;
-  }
-}
-
 }  // namespace
 
 #endif

@@ -26,33 +26,21 @@ double WaterArea(const ShapeInputs& inputs) {
   return area;
 }
 
+/// A channel of the type of which nothing is known.
 ShapeInputs Channel(std::string_view type) {
-  ShapeInputs inputs;
-  inputs.Type = type;
-  return inputs;
+  return {std::string(type), {}, {}, {}, {}, {}, {}};
 }
 
 ShapeInputs Trapezoid(double y, double b, double zL, double zR) {
-  ShapeInputs inputs = Channel(ChannelTypes::Trapezoidal);
-  inputs.Depth = y;
-  inputs.BaseWidth = b;
-  inputs.LeftSlope = zL;
-  inputs.RightSlope = zR;
-  return inputs;
+  return {std::string(ChannelTypes::Trapezoidal), y, b, zL, zR, {}, {}};
 }
 
 ShapeInputs Pipe(double y, double D) {
-  ShapeInputs inputs = Channel(ChannelTypes::Circular);
-  inputs.Depth = y;
-  inputs.Diameter = D;
-  return inputs;
+  return {std::string(ChannelTypes::Circular), y, {}, {}, {}, D, {}};
 }
 
 ShapeInputs Section(double W, std::vector<QPointF> points) {
-  ShapeInputs inputs = Channel(ChannelTypes::Irregular);
-  inputs.Depth = W;
-  inputs.Points = std::move(points);
-  return inputs;
+  return {std::string(ChannelTypes::Irregular), W, {}, {}, {}, {}, std::move(points)};
 }
 
 TEST(Shape, HoldsTheFlowArea) {
