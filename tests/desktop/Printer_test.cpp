@@ -63,21 +63,17 @@ class Printing : public Desk {
   }
 
   struct Word {
-    double Left, Top, Right;  ///< points
+    double PageWidth, PageHeight, Left, Top, Right;  ///< points
   };
-  /// The place of a word, and the size of its page.
-  Word Find(const char* word, QSizeF* page = nullptr) const {
-    const QString told = QString::fromUtf8(Text("-bbox"));
-    const auto numbers = [&told](const QString& pattern) { return QRegularExpression(pattern).match(told); };
-    if (page != nullptr) {
-      const auto size = numbers(QStringLiteral("<page width=\"([0-9.]+)\" height=\"([0-9.]+)\""));
-      *page = {size.captured(1).toDouble(), size.captured(2).toDouble()};
-    }
-    const auto at =
-        numbers(QStringLiteral("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\"[^>]*>%1<")
-                    .arg(QLatin1String(word)));
-    EXPECT_TRUE(at.hasMatch()) << word;
-    return {at.captured(1).toDouble(), at.captured(2).toDouble(), at.captured(3).toDouble()};
+  Word Find(const char* word) const {
+    const QString pattern = QStringLiteral(
+        R"re(<page width="(\S+)" height="(\S+)">.*?xMin="(\S+)" yMin="(\S+)" xMax="(\S+)" \S+>%1<)re");
+    const QRegularExpression place(pattern.arg(QLatin1String(word)),
+                                   QRegularExpression::DotMatchesEverythingOption);
+    const auto found = place.match(QString::fromUtf8(Text("-bbox")));
+    EXPECT_TRUE(found.hasMatch()) << word;
+    const auto number = [&found](int group) { return found.captured(group).toDouble(); };
+    return {number(1), number(2), number(3), number(4), number(5)};
   }
 
   /// The texts of the document on Letter, those of a line together.
@@ -121,24 +117,18 @@ class Printing : public Desk {
 
 TEST_F(Printing, APageHasTheSizeOfThePaperAndItsTextsTheirPlaces) {
   EnterTrapezoid();
-  struct Case {
-    QPageSize::PageSizeId Size;
-    QPageLayout::Orientation Orientation;
-    QSizeF Points;
-  };
-  for (const auto& [size, orientation, points] :
-       std::initializer_list<Case>{{QPageSize::Letter, QPageLayout::Portrait, {612, 792}},
-                                   {QPageSize::Letter, QPageLayout::Landscape, {792, 612}},
-                                   {QPageSize::A4, QPageLayout::Portrait, {595, 842}},
-                                   {QPageSize::A4, QPageLayout::Landscape, {842, 595}}}) {
-    ASSERT_TRUE(Pdf(Print::Report(main_), size, orientation));
-    QSizeF page;
-    const Word flow = Find("Flow", &page);
-    EXPECT_NEAR(page.width(), points.width(), 0.5);
-    EXPECT_NEAR(page.height(), points.height(), 0.5);
-    EXPECT_NEAR(flow.Left, 1872 / 20.0, 1);
-    EXPECT_NEAR(flow.Top, 2008 / 20.0, 1);
-    EXPECT_NEAR(Find("Untitled").Top, page.height() - 1708 / 20.0, 1);
+  for (const auto& [size, portrait] :
+       {std::pair{QPageSize::Letter, QSizeF(612, 792)}, {QPageSize::A4, QSizeF(595, 842)}}) {
+    for (const auto orientation : {QPageLayout::Portrait, QPageLayout::Landscape}) {
+      const QSizeF points = orientation == QPageLayout::Portrait ? portrait : portrait.transposed();
+      ASSERT_TRUE(Pdf(Print::Report(main_), size, orientation));
+      const Word flow = Find("Flow");
+      EXPECT_NEAR(flow.PageWidth, points.width(), 0.5);
+      EXPECT_NEAR(flow.PageHeight, points.height(), 0.5);
+      EXPECT_NEAR(flow.Left, 1872 / 20.0, 1);
+      EXPECT_NEAR(flow.Top, 2008 / 20.0, 1);
+      EXPECT_NEAR(Find("Untitled").Top, flow.PageHeight - 1708 / 20.0, 1);
+    }
   }
 }
 
@@ -196,11 +186,8 @@ TEST_F(Printing, ThePictureIsWhatTheGraphWindowShowsInLightColours) {
   EXPECT_FALSE(file.readAll().contains("/Subtype /Image")) << "lines stay lines";
   const QImage page = QImage::fromData(Told(QStringLiteral("pdftoppm"), {QStringLiteral("-png"), file_}));
   ASSERT_FALSE(page.isNull());
-  int light = 0;
-  for (int y = 0; y < page.height(); ++y) {
-    for (int x = 0; x < page.width(); ++x) light += qGray(page.pixel(x, y)) > 200 ? 1 : 0;
-  }
-  EXPECT_GT(light, 0.95 * page.width() * page.height());
+  const QImage shade = page.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  EXPECT_GT(qGray(shade.pixel(0, 0)), 240);
 }
 
 TEST_F(Printing, WhatIsCancelledOrFailsLeavesNoFile) {

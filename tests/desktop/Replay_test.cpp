@@ -1,10 +1,11 @@
-// The conversations of the console, held with the real widgets.
+// The conversations of the console, and a monkey's, held with the real widgets.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
 #include "console/Conversation.h"
+#include "console/Monkey.h"
 #include "desktop/WidgetHands.h"
 
 namespace {
@@ -19,5 +20,9 @@ INSTANTIATE_TEST_SUITE_P(Kept, Replay, testing::ValuesIn(ConversationFiles(CONVE
                          [](const testing::TestParamInfo<std::string>& file) {
                            return std::filesystem::path(file.param).stem().string();
                          });
+
+TEST(WidgetMonkey, AThousandLinesAreAllAnswered) {
+  EXPECT_THAT(LetMonkeyType(WidgetStage, MonkeyLines(1000)), testing::IsEmpty());
+}
 
 }  // namespace

@@ -1,8 +1,10 @@
 // The help commands of the main window, and what the about box tells.
+#include <gmock/gmock.h>
+
 #include "app/Declarations.h"
 #include "help/HTMLHelp.h"
-#include "help/HelpStage.h"
 #include "help/frmAbout.h"
+#include "support/ProgramStage.h"
 
 namespace {
 
@@ -10,40 +12,39 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class HelpCommands : public HelpStage {};
+using HelpCommands = ProgramStage;
 
-TEST_F(HelpCommands, EachOpensItsPartOrTellsThatThereIsNoHelpFile) {
-  Main().mnuHelpContents.Click();
-  Main().mnuHelpIndex.Click();
-  HTMLHelp::ShowFor(Main());
-  Main().MoveFocus(Main().tbSlope);
-  HTMLHelp::ShowFor(Main());
-  EXPECT_THAT(fakes_.helpViewer.Calls,
+TEST_P(HelpCommands, EachOpensItsPartOrTellsThatThereIsNoHelpFile) {
+  Main.mnuHelpContents.Click();
+  Main.mnuHelpIndex.Click();
+  HTMLHelp::ShowFor(Main);
+  Main.MoveFocus(Main.tbSlope);
+  HTMLHelp::ShowFor(Main);
+  EXPECT_THAT(Fakes.helpViewer.Calls,
               ElementsAre("contents", "index", "frmMain.html#", "frmMain.html#tbSlope"));
-  EXPECT_THAT(fakes_.messageBox.Boxes, IsEmpty());
-  fakes_.helpViewer.HasFile = false;
-  Main().mnuHelpContents.Click();
-  Main().mnuHelpIndex.Click();
-  HTMLHelp::ShowFor(Main());
-  ASSERT_EQ(fakes_.messageBox.Boxes.size(), 3U);
-  for (const FakeMessageBox::Shown& box : fakes_.messageBox.Boxes) {
+  EXPECT_THAT(Fakes.messageBox.Boxes, IsEmpty());
+  Fakes.helpViewer.HasFile = false;
+  Main.mnuHelpContents.Click();
+  Main.mnuHelpIndex.Click();
+  HTMLHelp::ShowFor(Main);
+  ASSERT_EQ(Fakes.messageBox.Boxes.size(), 3U);
+  for (const FakeMessageBox::Shown& box : Fakes.messageBox.Boxes) {
     EXPECT_EQ(box.Icon, BoxIcon::Exclamation);
     EXPECT_THAT(box.Text, HasSubstr("flumewise.chm"));
   }
 }
 
-TEST_F(HelpCommands, TheHelpWindowClosesWithTheProgramAndNotBefore) {
-  Main().tbFlow.Text = "4";
-  fakes_.messageBox.Answers = {BoxAnswer::Cancel, BoxAnswer::No};
-  Main().mnuFileExit.Click();
-  EXPECT_THAT(fakes_.helpViewer.Calls, IsEmpty());
-  Main().mnuFileExit.Click();
-  EXPECT_THAT(fakes_.helpViewer.Calls, ElementsAre("close"));
+TEST_P(HelpCommands, TheHelpWindowClosesWithTheProgramAndNotBefore) {
+  Main.tbFlow.Text = "4";
+  Fakes.messageBox.Answers = {BoxAnswer::Cancel, BoxAnswer::No};
+  Main.mnuFileExit.Click();
+  EXPECT_THAT(Fakes.helpViewer.Calls, IsEmpty());
+  Main.mnuFileExit.Click();
+  EXPECT_THAT(Fakes.helpViewer.Calls, ElementsAre("close"));
 }
 
-TEST_F(HelpCommands, TheAboutBoxNamesVersionLicenceAndLibraries) {
-  inModal_ = [](Form& form) {
-    const auto& about = dynamic_cast<frmAbout&>(form);
+TEST_P(HelpCommands, TheAboutBoxNamesVersionLicenceAndLibraries) {
+  Screen.Then<frmAbout>([](frmAbout& about) {
     EXPECT_EQ(about.lblName.Caption.Get(), "Flumewise");
     EXPECT_EQ(about.lblVersion.Caption.Get(), "Version " + std::to_string(VersionMajor) + "." +
                                                   std::to_string(VersionMinor) + "." +
@@ -52,9 +53,11 @@ TEST_F(HelpCommands, TheAboutBoxNamesVersionLicenceAndLibraries) {
     for (const char* const library : {"Qt 6", "QCustomPlot", "CHMLib"})
       EXPECT_THAT(about.lblLibraries.Caption.Get(), HasSubstr(library));
     about.cmdOK.Click();
-    EXPECT_FALSE(form.IsLoaded());
-  };
-  Main().mnuHelpAbout.Click();
+    EXPECT_FALSE(about.IsLoaded());
+  });
+  Main.mnuHelpAbout.Click();
 }
+
+INSTANTIATE_LOCALES(HelpCommands);
 
 }  // namespace

@@ -1,13 +1,14 @@
 // The manual is true: every window and control is explained, and the answers of its worked examples are those
 // of the program.
+#include <gmock/gmock.h>
+
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <regex>
 #include <set>
 
-#include "help/HelpStage.h"
+#include "support/ProgramStage.h"
+#include "support/TestFolder.h"
 
 namespace {
 
@@ -15,16 +16,11 @@ namespace fs = std::filesystem;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-std::string ReadText(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// The pages of the manual, by name.
 std::map<std::string, std::string> Pages() {
   std::map<std::string, std::string> pages;
   for (const auto& entry : fs::directory_iterator(MANUAL)) {
-    if (entry.path().extension() == ".html") pages[entry.path().filename().string()] = ReadText(entry.path());
+    if (entry.path().extension() == ".html") pages[entry.path().filename().string()] = BytesOf(entry.path());
   }
   return pages;
 }
@@ -35,39 +31,40 @@ std::vector<std::smatch> Matches(const std::string& text, const char* expression
   return {std::sregex_iterator(text.begin(), text.end(), regex), {}};
 }
 
-class ManualAndProgram : public HelpStage {
+class ManualAndProgram : public ProgramStage {
  protected:
   void OpenExample(const std::string& name) {
-    Main().OpenProject(EXAMPLES "/" + name);
-    ASSERT_THAT(fakes_.messageBox.Boxes, IsEmpty()) << name;
+    Main.OpenProject(EXAMPLES "/" + name);
+    ASSERT_THAT(Fakes.messageBox.Boxes, IsEmpty()) << name;
   }
 };
 
-TEST_F(ManualAndProgram, EveryWindowHasItsPageAndEveryControlItsExplanation) {
+TEST_P(ManualAndProgram, EveryWindowHasItsPageAndEveryControlItsExplanation) {
   const auto pages = Pages();
   std::set<std::string> windows;
-  const auto visit = [&](Form& form) {
+  const std::function<void(Form&)> visit = [&](Form& form) {
     windows.insert(form.Name() + ".html");
     ASSERT_TRUE(pages.contains(form.Name() + ".html")) << form.Name();
     const std::string& page = pages.at(form.Name() + ".html");
     for (const Control* const control : form.Controls())
       EXPECT_THAT(page, HasSubstr(" id=\"" + control->Name() + "\"")) << form.Name();
-    // A rating window opens when its settings are accepted.
-    if (form.Name().ends_with("Settings")) dynamic_cast<Button&>(*form.Find("cmdOK")).Click();
+    if (!form.Name().ends_with("Settings")) return;
+    Screen.Then(visit);  // a rating window opens when its settings are accepted
+    dynamic_cast<Button&>(*form.Find("cmdOK")).Click();
   };
-  inModal_ = visit;
-  visit(Main());
+  visit(Main);
   OpenExample("stream-overbanks.fwd");
   for (HasClick* const command : std::initializer_list<HasClick*>{
-           &Main().mnuSolveGraph, &Main().mnuSolveTable, &Main().mnuSolveSection, &Main().mnuOptionsDigits,
-           &Main().mnuHelpAbout, &Main().cmdIrreg, &Main().cmdMannParams}) {
+           &Main.mnuSolveGraph, &Main.mnuSolveTable, &Main.mnuSolveSection, &Main.mnuOptionsDigits,
+           &Main.mnuHelpAbout, &Main.cmdIrreg, &Main.cmdMannParams}) {
+    Screen.Then(visit);
     command->Click();
   }
   for (const auto& [name, text] : pages)
     EXPECT_TRUE(!name.starts_with("frm") || windows.contains(name)) << name;
 }
 
-TEST_F(ManualAndProgram, TheAnswersOfTheWorkedExamplesAreThoseOfTheProgram) {
+TEST_P(ManualAndProgram, TheAnswersOfTheWorkedExamplesAreThoseOfTheProgram) {
   std::map<std::string, int> answers;
   for (const auto& entry : fs::directory_iterator(EXAMPLES)) {
     if (entry.path().extension() == ".fwd") answers[entry.path().filename().string()] = 0;
@@ -81,13 +78,15 @@ TEST_F(ManualAndProgram, TheAnswersOfTheWorkedExamplesAreThoseOfTheProgram) {
       ASSERT_TRUE(answers.contains(example)) << page << ": " << example;
       ++answers[example];
       OpenExample(example);
-      const auto* const box = dynamic_cast<const TextBox*>(Main().Find(mark[2].str()));
+      const auto* const box = dynamic_cast<const TextBox*>(Main.Find(mark[2].str()));
       ASSERT_NE(box, nullptr) << page << ": " << mark[2];
-      EXPECT_EQ(box->Text.Get(), mark[3].str()) << page << ": " << example << " " << mark[2];
+      EXPECT_EQ(Text(*box), Spelled(mark[3].str())) << page << ": " << example << " " << mark[2];
     }
   }
   for (const auto& [example, count] : answers)
     EXPECT_GT(count, 0) << "no answer of " << example << " is told";
 }
+
+INSTANTIATE_LOCALES(ManualAndProgram);
 
 }  // namespace
