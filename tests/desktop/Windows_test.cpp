@@ -214,8 +214,8 @@ TEST_F(Windows, TabGoesInReadingOrder) {
 }
 
 /// Widgets that hold a text and are smaller than it needs.
-QStringList CutOff(const QWidget& window) {
-  QStringList cut;
+std::string CutOff(const QWidget& window) {
+  QString cut;
   for (const QWidget* const widget : window.findChildren<QWidget*>()) {
     const bool text = qobject_cast<const QLabel*>(widget) != nullptr ||
                       qobject_cast<const QLineEdit*>(widget) != nullptr ||
@@ -223,10 +223,10 @@ QStringList CutOff(const QWidget& window) {
     const QSize least = widget->minimumSizeHint().boundedTo(widget->sizeHint());
     if (text && widget->isVisible() &&
         (widget->width() < least.width() || widget->height() < least.height())) {
-      cut << widget->objectName() + QLatin1Char(':') + widget->property("text").toString();
+      cut += widget->objectName() + u':' + widget->property("text").toString() + u' ';
     }
   }
-  return cut;
+  return FromQt(cut);
 }
 
 TEST_F(Windows, NothingIsCutOffWhateverTheSizeOfTextAndWindow) {
@@ -237,8 +237,7 @@ TEST_F(Windows, NothingIsCutOffWhateverTheSizeOfTextAndWindow) {
       window.resize(size);
       InEveryType([&] {
         QTest::qWait(1);
-        EXPECT_EQ(CutOff(window).join(QLatin1String(", ")).toStdString(), "")
-            << larger << " " << size.width() << "x" << size.height();
+        EXPECT_EQ(CutOff(window), "") << larger << " " << size.width() << "x" << size.height();
         EXPECT_FALSE(window.findChild<QScrollArea*>()->horizontalScrollBar()->isVisible());
         EXPECT_EQ(window.size(), size);
       });
@@ -256,7 +255,7 @@ TEST_F(Windows, NoDialogIsLargerThanTheScreenAndNothingInItIsCutOff) {
       const QSize screen = window.screen()->availableSize();
       EXPECT_LE(window.width(), screen.width()) << larger;
       EXPECT_LE(window.height(), screen.height()) << larger;
-      EXPECT_EQ(CutOff(window).join(QLatin1String(", ")).toStdString(), "") << larger;
+      EXPECT_EQ(CutOff(window), "") << larger;
       const auto* const page = dynamic_cast<ScrollPage*>(window.findChild<QScrollArea*>());
       const bool roomy = window.width() < screen.width() * 3 / 4 && window.height() < screen.height() * 3 / 4;
       if (page == nullptr || !roomy) return;
