@@ -4,7 +4,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -12,6 +11,7 @@
 
 #include "desktop/ChartWidget.h"
 #include "desktop/GridTable.h"
+#include "desktop/LineLabel.h"
 #include "desktop/Text.h"
 
 namespace Bind {
@@ -72,7 +72,7 @@ BoxEdit* Box(TextBox& box, QWidget* parent) {
 }
 
 QLabel* Caption(Label& label, QWidget* parent, std::string_view letters) {
-  auto* const widget = Captioned(label, Named(label, new QLabel(parent)), letters);
+  auto* const widget = Captioned(label, Named(label, new LineLabel(parent)), letters);
   widget->setTextFormat(Qt::PlainText);
   return widget;
 }

@@ -39,11 +39,7 @@ BoxEdit::BoxEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
   Bind::Join(box.Locked, this, [](BoxEdit& edit, bool locked) { edit.setReadOnly(locked); });
   Bind::Join(box.Text, this, [](BoxEdit& edit, const std::string&) { edit.ShowText(); });
   Bind::Join(box.Selection, this, [](BoxEdit& edit, const TextRange&) { edit.ShowSelection(); });
-  Bind::Join(box.Bold, this, [](BoxEdit& edit, bool bold) {
-    QFont font = edit.font();
-    font.setBold(bold);
-    edit.setFont(font);
-  });
+  Bind::Join(box.Bold, this, [](BoxEdit& edit, bool) { edit.ShowBold(); });
   Bind::Join(box.BackColor, this, [](BoxEdit& edit, int) { edit.ShowLook(); });
   Bind::Join(box.Offending, this, [](BoxEdit& edit, bool) { edit.ShowLook(); });
   connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { box_.Text = FromQt(text); });
@@ -52,6 +48,7 @@ BoxEdit::BoxEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
 }
 
 void BoxEdit::ShowText() {
+  ShowBold();
   const QString wanted = ToQt(box_.Text.Get());
   if (wanted == text()) return;
   if (isReadOnly()) {
@@ -63,6 +60,14 @@ void BoxEdit::ShowText() {
   }
   // The beginning of a long text tells more than its end.
   if (!hasFocus()) setCursorPosition(0);
+}
+
+// Not bold before the first letter: the window shows sooner when no such font need be looked for.
+void BoxEdit::ShowBold() {
+  QFont letters = font();
+  if (letters.bold() == box_.Bold || (box_.Bold && box_.Text.Get().empty())) return;
+  letters.setBold(box_.Bold);
+  setFont(letters);
 }
 
 void BoxEdit::ShowSelection() {

@@ -20,6 +20,7 @@ class BoxEdit : public QLineEdit {
 
  private:
   void ShowText();
+  void ShowBold();
   void ShowSelection();
   void ShowLook();
   void TellSelection();

@@ -6,13 +6,14 @@
 #include <algorithm>
 
 #include "desktop/Bind.h"
+#include "desktop/Symbol.h"
 #include "desktop/Text.h"
 
 namespace {
 
 enum Column { CaptionColumn, SymbolColumn, BoxColumn, UnitColumn };
 
-QString SymbolText(const FieldPanel::Field& field) {
+QString SymbolOf(const FieldPanel::Field& field) {
   const QString symbols = QLatin1String(field.Symbol);
   const bool elevation = field.Caption.Caption.Get().find("WSElev") != std::string::npos;
   return symbols.section(QLatin1Char('|'), elevation ? -1 : 0, elevation ? -1 : 0);
@@ -51,14 +52,10 @@ BoxEdit* FieldPanel::AddField(const Field& field) {
   BoxEdit* const box = Bind::Box(field.Box, this);
   caption->setBuddy(box);
   box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  auto* const symbol = new QLabel(this);
-  // Not as rich text where it can be helped, which takes the window longer to show.
-  QFont italic = symbol->font();
-  italic.setItalic(true);
-  symbol->setFont(italic);
-  auto* const unit = field.Unit != nullptr ? Bind::Caption(*field.Unit, this) : new QLabel(this);
+  auto* const symbol = new SymbolLabel(this);
+  auto* const unit = field.Unit != nullptr ? Bind::Caption(*field.Unit, this) : new LineLabel(this);
   if (field.FixedUnit != nullptr) unit->setText(QLatin1String(field.FixedUnit));
-  Bind::Follow(field.Caption.Caption, this, [field, symbol] { symbol->setText(SymbolText(field)); });
+  Bind::Follow(field.Caption.Caption, this, [field, symbol] { symbol->SetSymbol(SymbolOf(field)); });
   Bind::Follow(field.Caption.Visible, this, [field, symbol, unit] {
     symbol->setVisible(field.Caption.Visible);
     if (field.Unit == nullptr) unit->setVisible(field.Caption.Visible);

@@ -18,7 +18,7 @@ class FieldPanel : public QWidget {
     TextBox& Box;
     Label* Unit;               ///< null: the unit is `FixedUnit`
     const char* FixedUnit;     ///< in the place of a unit, for example ":1"
-    const char* Symbol;        ///< rich text; a text behind "|" is the symbol of a water-surface elevation
+    const char* Symbol;        ///< as in Symbol.h; behind "|" stands that of a water-surface elevation
     std::string_view Letters;  ///< candidates for the mnemonic
   };
   BoxEdit* AddField(const Field& field);

@@ -33,6 +33,9 @@ class LineIconEngine : public QIconEngine {
     return drawn;
   }
 
+  /// For the title bar, the task bar and the list of windows, which take pixels.
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {{16, 16}, {32, 32}, {48, 48}}; }
+
   QIconEngine* clone() const override { return new LineIconEngine(file_, colour_); }
 
  private:

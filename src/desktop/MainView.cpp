@@ -44,21 +44,20 @@ constexpr FieldRow FlowRows[] = {
 constexpr FieldRow ShapeRows[] = {
     {&frmMain::lblDiameter, &frmMain::tbDiameter, &frmMain::lblDiameterUnits, nullptr, "D", "a"},
     {&frmMain::lblBaseWidth, &frmMain::tbBaseWidth, &frmMain::lblBaseWidthUnits, nullptr, "b", "b"},
-    {&frmMain::lblSSL, &frmMain::tbSSL, nullptr, ":1", "z<sub>L</sub>", "l"},
-    {&frmMain::lblSSR, &frmMain::tbSSR, nullptr, ":1", "z<sub>R</sub>", "r"},
+    {&frmMain::lblSSL, &frmMain::tbSSL, nullptr, ":1", "z_L", "l"},
+    {&frmMain::lblSSR, &frmMain::tbSSR, nullptr, ":1", "z_R", "r"},
 };
 
 constexpr FieldRow ResultRows[] = {
     {&frmMain::lblVelocity, &frmMain::tbVelocity, &frmMain::lblVelocityUnits, nullptr, "V", ""},
-    {&frmMain::lblVelHead, &frmMain::tbVelHead, &frmMain::lblVelHeadUnits, nullptr, "h<sub>v</sub>", ""},
+    {&frmMain::lblVelHead, &frmMain::tbVelHead, &frmMain::lblVelHeadUnits, nullptr, "h_v", ""},
     {&frmMain::lblArea, &frmMain::tbArea, &frmMain::lblFlowAreaUnits, nullptr, "A", ""},
     {&frmMain::lblWP, &frmMain::tbWP, &frmMain::lblWPunits, nullptr, "P", ""},
     {&frmMain::lblHRad, &frmMain::tbHRad, &frmMain::lblHRadUnits, nullptr, "R", ""},
     {&frmMain::lblTopW, &frmMain::tbTopW, &frmMain::lblTopWUnits, nullptr, "T", ""},
     {&frmMain::lblFroude, &frmMain::tbFroude, nullptr, nullptr, "Fr", ""},
-    {&frmMain::lblCritD, &frmMain::tbCritD, &frmMain::lblCritdUnits, nullptr, "y<sub>c</sub>|W<sub>c</sub>",
-     ""},
-    {&frmMain::lblCritS, &frmMain::tbCritS, &frmMain::lblCritSUnits, nullptr, "S<sub>c</sub>", ""},
+    {&frmMain::lblCritD, &frmMain::tbCritD, &frmMain::lblCritdUnits, nullptr, "y_c|W_c", ""},
+    {&frmMain::lblCritS, &frmMain::tbCritS, &frmMain::lblCritSUnits, nullptr, "S_c", ""},
 };
 
 template <std::size_t Count>
@@ -77,6 +76,7 @@ QStringList AllUnits() {
       units << ToQt(UnitLabel(system, quantity));
     }
   }
+  units.removeDuplicates();
   return units;
 }
 
@@ -101,6 +101,19 @@ const Sign& StatusOf(const frmMain& form) {
   }
   return missing && !wrong ? Missing : Wrong;
 }
+
+/// Lets a label's text be selected once the pointer is there; from the start it would cost the window a text
+/// document.
+class SelectableUnderPointer : public QObject {
+ public:
+  explicit SelectableUnderPointer(QLabel* label) : QObject(label) { label->installEventFilter(this); }
+
+  bool eventFilter(QObject* label, QEvent* event) override {
+    if (event->type() == QEvent::Enter)
+      static_cast<QLabel*>(label)->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return false;
+  }
+};
 
 /// The project file that is being dragged; empty when it is anything else.
 QString DraggedProject(const QMimeData& data) {
@@ -184,7 +197,7 @@ QWidget* MainView::StatusLine() {
   auto* const sign = new QLabel(line);
   QLabel* const text = Bind::Caption(form_.lblStatus, line);
   text->setWordWrap(true);
-  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  new SelectableUnderPointer(text);
   layout->addWidget(sign);
   layout->addWidget(text, 1);
   Bind::Follow(form_.lblStatus.Caption, sign, [this, sign, em] {

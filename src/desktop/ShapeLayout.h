@@ -6,14 +6,15 @@
 #include <QLineF>
 
 #include "desktop/ShapeGeometry.h"
+#include "desktop/Symbol.h"
 
-/// A symbol of a box, with the text of the box behind it when that is a number: "zL", " = 2".
+/// A symbol of a box, with the text of the box behind it when that is a number: "z_L", " = 2".
 struct ShapeLabel {
   QString Symbol;
   QString Value;
   QRectF Place = {};
 
-  QString Plain() const { return Symbol + Value; }
+  QString Plain() const { return SymbolLetters(Symbol) + Value; }
 };
 
 /// The labels of a drawing; one with an empty symbol is not drawn.

@@ -57,8 +57,8 @@ ShapeLabels LabelsOf(const frmMain& form) {
   const bool irregular = ChannelState.ChannelType == ChannelTypes::Irregular;
   return {LabelOf(irregular ? "W" : "y", form.tbDepth, &form.lblDepthUnits),
           LabelOf("b", form.tbBaseWidth, &form.lblBaseWidthUnits),
-          LabelOf("zL", form.tbSSL, nullptr),
-          LabelOf("zR", form.tbSSR, nullptr),
+          LabelOf("z_L", form.tbSSL, nullptr),
+          LabelOf("z_R", form.tbSSR, nullptr),
           LabelOf("D", form.tbDiameter, &form.lblDiameterUnits),
           irregular ? ShapeLabel{QStringLiteral("n"), {}} : LabelOf("n", form.tbMann, nullptr)};
 }
@@ -76,23 +76,18 @@ void DrawArrow(QPainter& painter, const QLineF& line, double em) {
   }
 }
 
-/// The symbol in italics, its second letter as an index, and the value behind it.
 void DrawLabel(QPainter& painter, const ShapeLabel& label) {
-  const QFont plain = painter.font();
-  QPointF pen(label.Place.left() + 1, label.Place.top() + painter.fontMetrics().ascent());
-  const auto write = [&](const QFont& font, const QString& text, double drop) {
-    painter.setFont(font);
-    painter.drawText(pen + QPointF(0, drop), text);
-    pen.rx() += QFontMetricsF(font).horizontalAdvance(text);
-  };
-  QFont symbol = plain;
-  symbol.setItalic(!label.Symbol[0].isDigit());
-  QFont index = symbol;
-  index.setPointSizeF(plain.pointSizeF() * 0.75);
-  write(symbol, label.Symbol.left(1), 0);
-  write(index, label.Symbol.mid(1), 0.2 * label.Place.height());
-  write(plain, label.Value, 0);
-  painter.setFont(plain);
+  const QPointF from(label.Place.left() + 1, label.Place.top() + painter.fontMetrics().ascent());
+  DrawSymbol(painter, from, label.Symbol);
+  painter.drawText(from + QPointF(SymbolWidth(label.Symbol, painter.font()), 0), label.Value);
+}
+
+/// A line of many sides, in parts: the painter takes them sooner than the whole.
+void DrawInPieces(QPainter& painter, const QPolygonF& line) {
+  constexpr qsizetype Sides = 15;
+  for (qsizetype from = 0; from + 1 < line.size(); from += Sides) {
+    painter.drawPolyline(line.mid(from, Sides + 1));
+  }
 }
 
 /// The triangle and the short lines that mean a free water surface.
@@ -162,10 +157,11 @@ void ShapeWidget::paintEvent(QPaintEvent*) {
   QPainterPath frame;
   frame.addRoundedRect(canvas, 4, 4);
   painter.fillPath(frame, colours.base());
-  painter.setClipPath(frame);
 
   const ShapeGeometry shape = ShapeOf(inputs_);
   const ShapeLayout layout = LayOutShape(shape, labels_, canvas, QFontMetricsF(font()));
+  // Only the ground reaches the round corners.
+  if (!layout.Earth.isEmpty()) painter.setClipPath(frame);
   const QColor ink = colours.color(QPalette::Text);
   const QColor thin = Appearance::Faint(colours);
 
@@ -178,8 +174,10 @@ void ShapeWidget::paintEvent(QPaintEvent*) {
   for (const QPolygonF& pool : layout.Water) painter.drawLine(pool.first(), pool.last());
   painter.setBrush(Qt::NoBrush);
   if (!layout.SurfaceMark.isNull()) DrawSurfaceMark(painter, layout.SurfaceMark, em);
-  painter.setPen(QPen(ink, shape.Pipe ? 0.22 * em : 0.14 * em, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.drawPolyline(layout.Ground);
+  // The many short sides of a pipe need no rounding where they meet.
+  painter.setPen(shape.Pipe ? QPen(ink, 0.22 * em, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin)
+                            : QPen(ink, 0.14 * em, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  DrawInPieces(painter, layout.Ground);
   painter.setPen(QPen(thin, 1));
   painter.drawLines(layout.Extensions);
   painter.setPen(QPen(ink, 1.2));

