@@ -1,5 +1,4 @@
 // The help window on a small help file of its own, by keys and clicks, beside the windows that ask for it.
-#include <QAction>
 #include <QDesktopServices>
 #include <QFile>
 #include <QLabel>

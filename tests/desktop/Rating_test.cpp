@@ -1,10 +1,8 @@
 // The windows of rating table and graph and their settings, worked by mouse and keys.
-#include <QAbstractButton>
 #include <QHeaderView>
 #include <QLabel>
 #include <QStatusBar>
 
-#include "desktop/ChartWidget.h"
 #include "desktop/Desk.h"
 #include "desktop/EmptyNote.h"
 #include "desktop/GridTable.h"

@@ -2,16 +2,12 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
-#include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTableView>
 #include <QToolBar>
 #include <algorithm>
 #include <map>
@@ -87,7 +83,8 @@ TEST_F(Windows, EveryControlHasItsWidgetWithANameAndTheReverse) {
     }
     for (const QObject* const each : window.findChildren<QObject*>()) {
       const std::string name = each->objectName().toStdString();
-      EXPECT_TRUE(!IsHandle(*each) || form.Find(name) != nullptr) << each->metaObject()->className() << name;
+      EXPECT_TRUE(!IsHandle(*each) || form.Find(name) != nullptr)
+          << each->metaObject()->className() << ' ' << name;
     }
   });
 }
