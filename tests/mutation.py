@@ -90,7 +90,8 @@ def survives(tests):
 def main():
     count = int(sys.argv[1]) if len(sys.argv) > 1 else 200
     for folder in ["src", "tests", "fuzz", "examples", "cmake", "docs"]:
-        shutil.copytree(ROOT / folder, COPY / folder, copy_function=shutil.copyfile, dirs_exist_ok=True)
+        shutil.rmtree(COPY / folder, ignore_errors=True)
+        shutil.copytree(ROOT / folder, COPY / folder, copy_function=shutil.copyfile)
     shutil.copy(ROOT / "CMakeLists.txt", COPY)
     programs = sorted({program for tests in TARGETS.values() for program in tests})
     if not told("cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O0 -g0",
