@@ -28,8 +28,7 @@ struct PipeWater {
 
 TEST_F(ManningCircularTest, HalfFullByHand) {
   SetPipe(2, 0.013, 0.001);
-  ChannelState.Depth = 1;
-  ManningCircular::CircularFlowFromDepth();
+  SolveFlow(1);
   EXPECT_NEAR(ChannelState.Area.Number(), 1.5707963, 1e-7);
   EXPECT_EQ(ChannelState.WettedPerimeter, 3.141592654);
   EXPECT_NEAR(ChannelState.HydraulicRadius.Number(), 0.5, 1e-9);
@@ -42,8 +41,7 @@ TEST_F(ManningCircularTest, HalfFullByHand) {
 
 TEST_F(ManningCircularTest, FullPipe) {
   SetPipe(2, 0.013, 0.001);
-  ChannelState.Depth = 2;
-  ManningCircular::CircularFlowFromDepth();
+  SolveFlow(2);
   EXPECT_EQ(ChannelState.Area, 3.141592654);
   EXPECT_EQ(ChannelState.WettedPerimeter, 3.141592654 * 2);
   EXPECT_EQ(ChannelState.TopWidth, 0);
@@ -54,8 +52,7 @@ TEST_F(ManningCircularTest, FullPipe) {
 
 TEST_F(ManningCircularTest, FlowIsGreatestNear938Thousandths) {
   const auto flow = [](double y) {
-    ChannelState.Depth = y;
-    ManningCircular::CircularFlowFromDepth();
+    SolveFlow(y);
     return ChannelState.Flow.Number();
   };
   SetPipe(1, 0.013, 0.002);
@@ -79,8 +76,7 @@ TEST_F(ManningCircularTest, RandomPipesByASecondMethod) {
     const double D = uniform(0.3, 20), n = uniform(0.009, 0.03), S = std::pow(10, uniform(-4, -1.5));
     const double Q = uniform(0.01, 0.99) * static_cast<double>(PipeWater(0.938L * D, D).Flow(n, S));
     SetPipe(D, n, S);
-    ChannelState.Flow = Q;
-    ManningCircular::CircularDepthFromFlow();
+    SolveDepth(Q);
     const double yn = Root(0, 0.938L * D, [&](long double y) { return PipeWater(y, D).Flow(n, S) - Q; });
     ASSERT_NEAR(ChannelState.Depth.Number(), yn, 1.1e-6);
     const double yc = Root(0, D, [&](long double y) {
@@ -91,31 +87,27 @@ TEST_F(ManningCircularTest, RandomPipesByASecondMethod) {
     const PipeWater critical(yc, D);
     const double Sc = static_cast<double>(std::pow(Q / critical.Flow(n, 1), 2.0L));
     ASSERT_NEAR(ChannelState.CriticalSlope.Number() / Sc, 1, 1e-4);
-    ManningCircular::CircularFlowFromDepth();
+    SolveFlow(ChannelState.Depth);
     ASSERT_NEAR(ChannelState.Flow.Number() / Q, 1, 1e-4);
   }
 }
 
 TEST_F(ManningCircularTest, Overflow) {
   SetPipe(2, 0.013, 0.001);
-  ChannelState.Depth = 2.0000001;
-  ManningCircular::CircularFlowFromDepth();
+  SolveFlow(2.0000001);
   ExpectOverflow(ChannelState.Flow);
 
   // A flow that only the upper branch carries, the greatest flow itself, and any flow on no slope.
   const double greatest = ManningCircular::CircMaxFlow(2, 0.001, 0.013);
   for (const double Q : {greatest, greatest * 1.01}) {
-    ChannelState.Flow = Q;
-    ManningCircular::CircularDepthFromFlow();
+    SolveDepth(Q);
     ExpectOverflow(ChannelState.Depth);
     EXPECT_EQ(ChannelState.Flow, Q);
   }
-  ChannelState.Flow = std::nextafter(greatest, 0);
-  ManningCircular::CircularDepthFromFlow();
+  SolveDepth(std::nextafter(greatest, 0));
   EXPECT_NEAR(ChannelState.Depth.Number(), 1.876, 2e-3);
   SetPipe(2, 0.013, 0);
-  ChannelState.Flow = 1;
-  ManningCircular::CircularDepthFromFlow();
+  SolveDepth(1);
   ExpectOverflow(ChannelState.Depth);
 }
 
@@ -140,16 +132,13 @@ TEST_F(ManningCircularTest, Faults) {
        {Case{2, 0, 0.013, 0.001}, Case{0, 0, 0.013, 0.001}, Case{2, 1, 0, 0.001}, Case{2, 1, 0.013, -0.001},
         Case{1e12, 1e-6, 0.013, 0.001}, Case{1e308, 1e307, 0.013, 0.001}}) {
     SetPipe(c.D, c.n, c.S);
-    ChannelState.Depth = c.y;
-    EXPECT_THROW(ManningCircular::CircularFlowFromDepth(), EngineFault) << c.D << ' ' << c.y;
+    EXPECT_THROW(SolveFlow(c.y), EngineFault) << c.D << ' ' << c.y;
   }
   SetPipe(1.06e-6, 0.013, 0.001);  // too thin to search
-  ChannelState.Flow = 0;
-  EXPECT_THROW(ManningCircular::CircularDepthFromFlow(), EngineFault);
+  EXPECT_THROW(SolveDepth(0), EngineFault);
   SetPipe(1e12, 0.013, 0.001);  // the search ends where the angle is lost
-  ChannelState.Flow = 1e-9;
   ChannelState.Depth = "";
-  EXPECT_THROW(ManningCircular::CircularDepthFromFlow(), EngineFault);
+  EXPECT_THROW(SolveDepth(1e-9), EngineFault);
   EXPECT_TRUE(ChannelState.Depth.IsEmptyText());
 }
 

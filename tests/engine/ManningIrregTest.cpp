@@ -5,7 +5,6 @@
 
 #include "Problem.h"
 #include "engine/Constants.h"
-#include "engine/ManningTrap.h"
 
 namespace {
 
@@ -114,23 +113,18 @@ TEST_F(ManningIrregTest, SameAsTheTrapezoidOfItsOutline) {
     const double S = std::pow(10, uniform(-4, -2)), y = uniform(0.1, 20), datum = uniform(-100, 1000),
                  top = 400;
     SetTrapezoid(b, zL, zR, n, S);
-    ChannelState.Depth = y;
-    ManningTrap::PrismaticFlowFromDepth();
+    SolveFlow(y);
     const ChannelRecord trapezoid = ChannelState;
-    SetSection({{0, datum + top, n},
-                {zL * top, datum},
-                {zL * top + b, datum},
-                {zL * top + b + zR * top, datum + top}},
-               S);
-    ChannelState.Depth = datum + y;
-    ManningIrreg::IrregFlowFromDepth();
+    const double left = zL * top, right = left + b;
+    SetSection({{0, datum + top, n}, {left, datum}, {right, datum}, {right + zR * top, datum + top}}, S);
+    SolveFlow(datum + y);
     const double Q = ChannelState.Flow.Number();
     ASSERT_NEAR(Q / trapezoid.Flow.Number(), 1, 1e-9);
     ASSERT_NEAR(ChannelState.Froude.Number(), trapezoid.Froude.Number(), 1e-9);
     ASSERT_NEAR(ChannelState.TopWidth.Number(), trapezoid.TopWidth.Number(), 1e-8);
     ASSERT_NEAR(ChannelState.CriticalDepth.Number() - datum, trapezoid.CriticalDepth.Number(), 2e-6);
     ASSERT_TRUE(ChannelState.CriticalSlope.IsEmptyText());
-    ManningIrreg::IrregDepthFromFlow();
+    SolveDepth(Q);
     ASSERT_NEAR(ChannelState.Depth.Number(), datum + y, 1e-6);
     ASSERT_EQ(ChannelState.Flow, Q);
   }
@@ -141,8 +135,7 @@ TEST_F(ManningIrregTest, SameAsTheTrapezoidOfItsOutline) {
 TEST_F(ManningIrregTest, TheFirstPointMayBeTheLowest) {
   const double Q = 50, n = 0.03, S = 0.002, datum = 100;
   SetSection({{0, datum, n}, {40, datum + 40}}, S);
-  ChannelState.Flow = Q;
-  ManningIrreg::IrregDepthFromFlow();
+  SolveDepth(Q);
   const double hydraulicRadiusOfUnitDepth = 1 / (2 * std::sqrt(2.0));
   const double unitFlow =
       Constants::ManningK / n / 2 * std::pow(hydraulicRadiusOfUnitDepth, 2 / 3.0) * std::sqrt(S);
@@ -158,8 +151,7 @@ TEST_F(ManningIrregTest, LowPoint) {
 
 TEST_F(ManningIrregTest, DepthsOutOfRange) {
   SetSection({{0, 110, 0.03}, {10, 100}, {20, 110}}, 0.001);
-  ChannelState.Flow = 1e12;
-  ManningIrreg::IrregDepthFromFlow();
+  SolveDepth(1e12);
   ExpectOverflow(ChannelState.Depth);
   EXPECT_EQ(ChannelState.Flow, 1e12);
   EXPECT_TRUE(ManningIrreg::IrregCriticalElevation(ChannelState.IrregEnginePoints, 3, 1e12).IsEmptyText());
@@ -167,11 +159,10 @@ TEST_F(ManningIrregTest, DepthsOutOfRange) {
 
 TEST_F(ManningIrregTest, AnswersFarFromTheDatum) {
   SetSection({{0, 1e12 + 10, 0.03}, {10, 1e12}, {20, 1e12 + 10}}, 0.001);
-  ChannelState.Flow = 100;
-  ManningIrreg::IrregDepthFromFlow();
+  SolveDepth(100);
   const double depth = ChannelState.Depth.Number() - 1e12;
   SetTrapezoid(0, 1, 1, 0.03, 0.001);
-  ManningTrap::PrismaticDepthFromFlow();
+  SolveDepth(100);
   EXPECT_NEAR(depth, ChannelState.Depth.Number(), 1e-3);
 }
 
@@ -190,8 +181,7 @@ TEST_F(ManningIrregTest, Faults) {
                         Case{"deep", {{0, 1e308, 0.03}, {10, -1e308}, {20, 1e308}}, 5, 0.001},
                         Case{"long", {{0, 0, 0.03}, {1e200, 1}}, 5, 0.001}}) {
     SetSection(c.points, c.S);
-    ChannelState.Depth = c.W;
-    EXPECT_THROW(ManningIrreg::IrregFlowFromDepth(), EngineFault) << c.what;
+    EXPECT_THROW(SolveFlow(c.W), EngineFault) << c.what;
   }
   EXPECT_THROW(ManningIrreg::IrregFlow(Table({{0, 0, 0.03}, {1e200, 1}}), 2, 5, 0.001), EngineFault);
   // Without a fault these areas would be 0, for want of a segment, and that of a shore taken for the end.
@@ -199,13 +189,12 @@ TEST_F(ManningIrregTest, Faults) {
   EXPECT_THROW(ManningIrreg::IrregArea(Table({{0, 1e308}, {1e-3, -1e308}}), 2, 5), EngineFault);
   SetSection(vee, 0.001);
   ChannelState.IrregPointCount = 102;
-  EXPECT_THROW(ManningIrreg::IrregFlowFromDepth(), EngineFault);
+  EXPECT_THROW(SolveFlow(5), EngineFault);
   // A wall at the lowest point: water there has no width, and no critical depth can be told.
   EXPECT_THROW(ManningIrreg::IrregCriticalElevation(Table({{0, 10}, {0, -5}, {0, 0}, {10, 0}}), 4, 1e-9),
                EngineFault);
   SetSection({{0, 1e20, 0.03}, {10, 1e20}}, 0.001);
-  ChannelState.Flow = 1;
-  EXPECT_THROW(ManningIrreg::IrregDepthFromFlow(), EngineFault);
+  EXPECT_THROW(SolveDepth(1), EngineFault);
 }
 
 }  // namespace

@@ -31,8 +31,7 @@ TEST(Bisection, EndsWhereDoublesAreCoarserThanTheTolerance) {
 
 TEST_F(ManningTrapTest, RectangleByHand) {
   SetTrapezoid(10, 0, 0, 0.013, 0.001);
-  ChannelState.Depth = 2;
-  ManningTrap::PrismaticFlowFromDepth();
+  SolveFlow(2);
   EXPECT_EQ(ChannelState.Area, 20);
   EXPECT_EQ(ChannelState.WettedPerimeter, 14);
   EXPECT_DOUBLE_EQ(ChannelState.HydraulicRadius.Number(), 20.0 / 14);
@@ -46,7 +45,7 @@ TEST_F(ManningTrapTest, RectangleByHand) {
   EXPECT_NEAR(yc, std::cbrt(Q * Q / 100 / 32.17405), 1e-6);
   // At its critical slope the channel carries the flow at critical depth.
   SetTrapezoid(10, 0, 0, 0.013, ChannelState.CriticalSlope.Number());
-  ManningTrap::PrismaticDepthFromFlow();
+  SolveDepth(Q);
   EXPECT_NEAR(ChannelState.Depth.Number(), yc, 2e-6);
   EXPECT_NEAR(ChannelState.Froude.Number(), 1, 1e-5);
 }
@@ -67,11 +66,10 @@ TEST_F(ManningTrapTest, RandomChannelsByASecondMethod) {
       return 32.17405L * std::pow(area(y), 3.0L) - static_cast<long double>(Q) * Q * (b + y * (zL + zR));
     });
     SetTrapezoid(b, zL, zR, n, S);
-    ChannelState.Flow = Q;
-    ManningTrap::PrismaticDepthFromFlow();
+    SolveDepth(Q);
     ASSERT_NEAR(ChannelState.Depth.Number(), yn, 1e-6);
     ASSERT_NEAR(ChannelState.CriticalDepth.Number(), yc, 1e-6);
-    ManningTrap::PrismaticFlowFromDepth();
+    SolveFlow(ChannelState.Depth);
     ASSERT_NEAR(ChannelState.Flow.Number() / Q, 1, 1e-4);
   }
 }
@@ -85,37 +83,32 @@ TEST_F(ManningTrapTest, SideSlopesAddUpRightFirst) {
 
 TEST_F(ManningTrapTest, DepthsOutOfRangeOverflow) {
   SetTrapezoid(10, 0, 0, 0.013, 0.001);
-  ChannelState.Flow = 1e9;
-  ManningTrap::PrismaticDepthFromFlow();
+  SolveDepth(1e9);
   ExpectOverflow(ChannelState.Depth);
   EXPECT_EQ(ChannelState.Flow, 1e9);
 
   SetTrapezoid(10, 0, 0, 0.013, 0);
-  ChannelState.Flow = 1;
-  ManningTrap::PrismaticDepthFromFlow();
+  SolveDepth(1);
   ExpectOverflow(ChannelState.Depth);
 
   // Steep enough to carry at a normal depth in range what is critical only beyond it.
   SetTrapezoid(1, 0, 0, 0.001, 0.9);
-  ChannelState.Depth = 990;
-  ManningTrap::PrismaticFlowFromDepth();
+  SolveFlow(990);
   EXPECT_TRUE(ChannelState.CriticalDepth.IsFalse());
   EXPECT_TRUE(ChannelState.CriticalSlope.IsEmptyText());
 }
 
 TEST_F(ManningTrapTest, ADepthWithoutFlowIsTheLowestMidpoint) {
   SetTrapezoid(10, 1, 1, 0.013, 0.001);
-  ChannelState.Flow = 0;
-  EXPECT_THROW(ManningTrap::PrismaticDepthFromFlow(), EngineFault);  // no critical slope without flow
+  EXPECT_THROW(SolveDepth(0), EngineFault);  // no critical slope without flow
   EXPECT_DOUBLE_EQ(ChannelState.Depth.Number(), std::ldexp(999, -30));
   EXPECT_EQ(ChannelState.Velocity, 0);
 }
 
 TEST_F(ManningTrapTest, AFaultKeepsTheResultsBeforeIt) {
   SetTrapezoid(0, 1, 1, 0.013, 0.001);
-  ChannelState.Depth = 0;
   ChannelState.Area = ChannelState.WettedPerimeter = ChannelState.HydraulicRadius = "before";
-  EXPECT_THROW(ManningTrap::PrismaticFlowFromDepth(), EngineFault);
+  EXPECT_THROW(SolveFlow(0), EngineFault);
   EXPECT_EQ(ChannelState.Area, 0);
   EXPECT_EQ(ChannelState.WettedPerimeter, 0);
   EXPECT_EQ(ChannelState.HydraulicRadius, "before");
@@ -131,15 +124,13 @@ TEST_F(ManningTrapTest, Faults) {
         Case{1, 5, 1, 0.01, -0.001}, Case{tooLarge, 5, 1, 0.01, 0.001}, Case{1, 5, tooLarge, 0.01, 0.001},
         Case{1, 5, 1e160, 0.01, 0.001}, Case{1, 5, 1, infinite, 0.001}, Case{1, infinite, 1, 0.01, 0.001}}) {
     SetTrapezoid(c.b, c.z, c.z, c.n, c.S);
-    ChannelState.Depth = c.y;
-    EXPECT_THROW(ManningTrap::PrismaticFlowFromDepth(), EngineFault) << c.y << ' ' << c.b << ' ' << c.z;
+    EXPECT_THROW(SolveFlow(c.y), EngineFault) << c.y << ' ' << c.b << ' ' << c.z;
   }
   SetTrapezoid(5, 1, 1, 0.01, -0.001);
-  ChannelState.Flow = 10;
-  EXPECT_THROW(ManningTrap::PrismaticDepthFromFlow(), EngineFault);
+  EXPECT_THROW(SolveDepth(10), EngineFault);
   // Sides so flat that their length overflows would make R, and so the flow, a silent 0.
   SetTrapezoid(5, 1e160, 1e160, 0.01, 0.001);
-  EXPECT_THROW(ManningTrap::PrismaticDepthFromFlow(), EngineFault);
+  EXPECT_THROW(SolveDepth(10), EngineFault);
   EXPECT_THROW(UniformFlow::SectionFactor(1, infinite), EngineFault);
   EXPECT_THROW(ManningTrap::TrapFroude(1, 0, 1), EngineFault);
 }

@@ -10,6 +10,7 @@
 #include "engine/ChannelState.h"
 #include "engine/Constants.h"
 #include "engine/EngineFault.h"
+#include "engine/SolveChannel.h"
 
 struct Point {
   double x, e;
@@ -52,6 +53,18 @@ class EngineTest : public testing::Test {
       table[i + 1][3] = points[i].n;
     }
     return table;
+  }
+
+  static void SolveFlow(const EngineValue& depth) {
+    ChannelState.SolveForFlow = true;
+    ChannelState.Depth = depth;
+    EXPECT_TRUE(SolveChannel());
+  }
+
+  static void SolveDepth(const EngineValue& flow) {
+    ChannelState.SolveForFlow = false;
+    ChannelState.Flow = flow;
+    EXPECT_TRUE(SolveChannel());
   }
 
   static std::vector<EngineValue> Results() {

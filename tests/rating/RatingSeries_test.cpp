@@ -6,7 +6,6 @@
 
 #include "app/Units.h"
 #include "engine/EngineFault.h"
-#include "rating/RatingColumn.h"
 #include "rating/RatingSeries.h"
 #include "support/ProgramStage.h"
 
@@ -121,29 +120,6 @@ TEST_P(Series, APipeTypedFullIsFullAtEveryPoint) {
     }
     EXPECT_THAT(widths, ElementsAre(0, 0, 0, 0)) << millimetres;
   }
-}
-
-TEST_P(Series, ColumnsFollowTheChannel) {
-  const auto headers = [] {
-    std::string all;
-    for (const RatingColumn& column : CurrentRatingColumns()) all += column.Header() + "|";
-    return all;
-  };
-  TypeRectangle();
-  EXPECT_EQ(headers(),
-            "|Flow, cfs|Depth, ft|Slope, ft/ft|n|B.Width, ft|Vel., fps|Vel.H., ft|Area, sf|WP, ft|H.Rad., ft|"
-            "Top W., ft|Froude#|Crit.D., ft|Crit.S., ft/ft|");
-  EXPECT_EQ(CurrentRatingColumns()[8].Text(), Spelled("20.0"));
-  Main.mnuOptionsUnitsMetric_Click();
-  TypePipe("1000", "0.4");
-  EXPECT_EQ(headers(),
-            "|Flow, m^3/s|Depth, m|Slope, m/m|n|Dia., mm|Vel., m/s|Vel.H., m|Area, m^2|WP, m|H.Rad., m|"
-            "Top W., m|Froude#|Crit.D., m|Crit.S., m/m|");
-  TypeSection({{"0", "110", "0.03"}, {"10", "100", ""}, {"20", "110", ""}}, "105");
-  EXPECT_EQ(headers(),
-            "|Flow, m^3/s|WSEL, m|Slope, m/m|n|Irr.Geom.|Vel., m/s|Vel.H., m|Area, m^2|WP, m|H.Rad., m|"
-            "Top W., m|Froude#|Crit.D., m||");
-  EXPECT_EQ(CurrentRatingColumns()[5].Text() + CurrentRatingColumns()[14].Text(), "--");
 }
 
 INSTANTIATE_LOCALES(Series);

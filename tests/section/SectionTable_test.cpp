@@ -51,13 +51,11 @@ TEST(SectionDrawing, RectangleTriangleAndTrapezoid) {
 
 TEST(SectionDrawing, CircleOfFiftyChords) {
   const Table pipe = Circular(2, 1, 2);
-  EXPECT_THAT(pipe[0][OutlineX], Optional(DoubleNear(1.02, 1e-12)));
-  EXPECT_THAT(pipe[0][OutlineY], Optional(DoubleNear(2.02, 1e-12)));
-  EXPECT_THAT(pipe[25][OutlineX], Optional(DoubleNear(1.02, 1e-8)));
-  EXPECT_THAT(pipe[25][OutlineY], Optional(DoubleNear(0.02, 1e-8)));
+  for (const auto& [row, y] : {std::pair<std::size_t, double>(0, 2.02), {25, 0.02}, {50, 2.02}}) {
+    EXPECT_THAT(pipe[row][OutlineX], Optional(DoubleNear(1.02, 1e-8))) << row;
+    EXPECT_THAT(pipe[row][OutlineY], Optional(DoubleNear(y, 1e-8))) << row;
+  }
   EXPECT_GT(*pipe[1][OutlineX], 1.02) << "clockwise";
-  EXPECT_THAT(pipe[50][OutlineX], Optional(DoubleNear(1.02, 1e-8)));
-  EXPECT_THAT(pipe[50][OutlineY], Optional(DoubleNear(2.02, 1e-8)));
   EXPECT_EQ(pipe[51][OutlineX], std::nullopt);
   ExpectSeries(pipe, WaterX, {{0.02, 1.02}, {2.02, 1.02}});
 }
@@ -70,36 +68,20 @@ TEST(SectionDrawing, EachPoolHasItsOwnWaterLine) {
   ExpectSeries(table, OutlineX, TwoLows);
   // Behind the last point lies the empty row at (0, 0): the ground falls to it, and one more crossing is
   // noted.
-  ExpectSeries(table, WaterX,
-               {Blank,
-                {6, 4},
-                {10 + 10 * 4 / 6.0, 4},
-                Blank,
-                Blank,
-                {24, 4},
-                {33, 4},
-                Blank,
-                Blank,
-                {40 + (4 - 11) * (0 - 40) / (0 - 11.0), 4}});
+  const double behind = 40 + (4 - 11) * (0 - 40) / (0 - 11.0);
+  ExpectSeries(
+      table, WaterX,
+      {Blank, {6, 4}, {10 + 10 * 4 / 6.0, 4}, Blank, Blank, {24, 4}, {33, 4}, Blank, Blank, {behind, 4}});
   EXPECT_TRUE(Pools(Irregular(Survey(TwoLows), 5, 0)).empty()) << "a level at the lowest point is dry";
 }
 
 TEST(SectionDrawing, ABankExactlyAtTheLevelPartsTheWater) {
   const Table table =
       Irregular(Survey({{0, 10}, {10, 0}, {20, 4}, {30, 0}, {40, 4}, {50, 4}, {60, 8}}), 7, 4);
-  ExpectSeries(table, WaterX,
-               {Blank,
-                {6, 4},
-                {20, 4},
-                Blank,
-                Blank,
-                {20, 4},
-                {40, 4},
-                Blank,
-                Blank,
-                Blank,
-                Blank,
-                {60 + (4 - 8) * (0 - 60) / (0 - 8.0), 4}});
+  const double behind = 60 + (4 - 8) * (0 - 60) / (0 - 8.0);
+  ExpectSeries(
+      table, WaterX,
+      {Blank, {6, 4}, {20, 4}, Blank, Blank, {20, 4}, {40, 4}, Blank, Blank, Blank, Blank, {behind, 4}});
   EXPECT_EQ(Pools(table).size(), 2U);
 }
 
