@@ -65,15 +65,12 @@ TEST_P(Helpers, RangeChecksTellTheirBounds) {
 TEST_P(Helpers, LeadingZeroOnlyWhereANumberLacksIt) {
   Form form("form");
   TextBox box{&form, "box"};
-  for (const auto& [typed, tidy] : {std::pair(".5", "0.5"),
-                                    {".", "."},
-                                    {"-.5", "-.5"},
-                                    {"1.5", "1.5"},
-                                    {".5x", ".5x"},
-                                    {"abc", "abc"},
-                                    {"", ""},
-                                    {".5e1", ".5e1"},
-                                    {".25 ", "0.25 "}}) {
+  struct Case {
+    const char *Typed, *Tidy;
+  };
+  for (const auto& [typed, tidy] :
+       {Case{".5", "0.5"}, Case{".25 ", "0.25 "}, Case{".", "."}, Case{"-.5", "-.5"}, Case{"1.5", "1.5"},
+        Case{".5x", ".5x"}, Case{"abc", "abc"}, Case{"", ""}, Case{".5e1", ".5e1"}}) {
     box.Text = Spelled(typed);
     EXPECT_EQ(FormStuff::AddLeadingZero(box), Spelled(tidy));
   }

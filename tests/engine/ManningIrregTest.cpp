@@ -1,6 +1,7 @@
-// Surveyed sections against hand values, polygon clipping and the trapezoid of the same outline.
+// Surveyed sections against hand values, stretch by stretch and the trapezoid of the same outline.
 #include "engine/ManningIrreg.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "Problem.h"
@@ -20,27 +21,17 @@ Geometry Measure(const PointTable& table, int count, double W) {
           ManningIrreg::IrregTopWidth(table, count, W)};
 }
 
-// The second method: the polygon between ground and sky, cut off at W (Sutherland and Hodgman); its area by
-// the shoelace formula. What runs along W, to the left less to the right, is the top width.
-Geometry MeasureByClipping(const Points& points, double W) {
-  Points polygon = points;
-  const double sky = W + 1000;
-  polygon.push_back({points.back().x, sky});
-  polygon.push_back({points.front().x, sky});
-  Points clipped;
-  for (size_t i = 0; i < polygon.size(); ++i) {
-    const Point &a = polygon[i], &b = polygon[(i + 1) % polygon.size()];
-    if (a.e <= W) clipped.push_back(a);
-    if ((a.e < W) != (b.e < W)) clipped.push_back({a.x + (b.x - a.x) * (W - a.e) / (b.e - a.e), W});
-  }
+// The second method: under each stretch of ground its mean wet depth times its wet width.
+Geometry MeasureByStretches(const Points& points, double W) {
   Geometry g{0, 0, 0};
-  for (size_t i = 0; i < clipped.size(); ++i) {
-    const Point &a = clipped[i], &b = clipped[(i + 1) % clipped.size()];
-    g.A += (a.x * b.e - b.x * a.e) / 2;
-    const bool surface = a.e == W && b.e == W;
-    const bool endWall = a.x == b.x && (a.x == points.front().x || a.x == points.back().x);
-    if (surface) g.T += a.x - b.x;
-    if (!surface && !endWall) g.P += std::hypot(a.x - b.x, a.e - b.e);
+  for (size_t i = 0; i + 1 < points.size(); ++i) {
+    const double dx = points[i + 1].x - points[i].x, dy = std::abs(points[i + 1].e - points[i].e);
+    const double low = std::min(points[i].e, points[i + 1].e);
+    const double wetPart = std::clamp((W - low) / dy, 0.0, 1.0);
+    const double meanDepth = W - low - wetPart * dy / 2;
+    g.A += wetPart * dx * meanDepth;
+    g.P += wetPart * std::hypot(dx, dy);
+    g.T += wetPart * dx;
   }
   return g;
 }
@@ -69,7 +60,7 @@ TEST_F(ManningIrregTest, GeometryByHand) {
   }
 }
 
-TEST_F(ManningIrregTest, RandomGroundByClipping) {
+TEST_F(ManningIrregTest, RandomGroundByStretches) {
   Uniform uniform(3);
   for (int i = 0; i < 300; ++i) {
     Points points;
@@ -77,7 +68,7 @@ TEST_F(ManningIrregTest, RandomGroundByClipping) {
     double x = uniform(-50, 50);
     for (int p = 0; p < count; ++p) points.push_back({x += uniform(0.1, 9), uniform(-20, 20)});
     const double W = uniform(-19, 25);
-    const Geometry expected = MeasureByClipping(points, W);
+    const Geometry expected = MeasureByStretches(points, W);
     const Geometry found = Measure(Table(points), count, W);
     ASSERT_NEAR(found.A, expected.A, 1e-8);
     ASSERT_NEAR(found.P, expected.P, 1e-9);

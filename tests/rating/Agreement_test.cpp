@@ -126,7 +126,7 @@ class Agreement : public ProgramStage {
       ASSERT_EQ(Shown(graph[i][1], column), table[i][static_cast<std::size_t>(column)]);
       if (!graph[i][0]) continue;
       ASSERT_EQ(Shown(graph[i][0], varied), table[i][static_cast<std::size_t>(varied)]);
-      if (random_() % 20 > 0) continue;
+      if (i > 0 && random_() % 20 > 0) continue;
       Type(box, PlainNumber(*graph[i][0]));
       ExpectShown(table[i]);
     }

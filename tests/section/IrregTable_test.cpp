@@ -1,4 +1,4 @@
-// Which point tables are accepted, under a decimal point and a decimal comma, and how rows move.
+// Which point tables are accepted, under a decimal point and a decimal comma.
 #include "section/IrregTable.h"
 
 #include <gtest/gtest.h>
@@ -13,16 +13,12 @@ using IrregTable::Fault;
 using IrregTable::Table;
 
 struct Cell {
-  int Row, Column;
+  std::size_t Row, Column;
   const char* Text;
 };
 
 class PointTableRules : public LocaleTest {
  protected:
-  static void Put(Table& table, const Cell& cell) {
-    table[static_cast<std::size_t>(cell.Row)][static_cast<std::size_t>(cell.Column)] = Spelled(cell.Text);
-  }
-
   /// Four points, some cells of them replaced.
   static Table FourPointsWith(std::initializer_list<Cell> cells) {
     Table table;
@@ -30,7 +26,7 @@ class PointTableRules : public LocaleTest {
     table[2] = {"", Spelled("2.5"), "8", ""};
     table[3] = {"", "5", Spelled("8.25"), Spelled("0.05")};
     table[4] = {"", "9", "10", ""};
-    for (const Cell& cell : cells) Put(table, cell);
+    for (const Cell& cell : cells) table[cell.Row][cell.Column] = Spelled(cell.Text);
     return table;
   }
 };
@@ -79,41 +75,6 @@ TEST_P(PointTableRules, TheFirstFailureIsTold) {
   EXPECT_EQ(CheckTable({}), (Failure{Fault::TooFewRows, 1, 1}));
 }
 
-TEST_P(PointTableRules, AHundredPointsAreAcceptedAndCounted) {
-  Table table;
-  for (int row = 1; row <= IrregTable::Rows; ++row) {
-    Put(table, {row, IrregTable::Station, std::to_string(row).c_str()});
-    Put(table, {row, IrregTable::Elevation, "5"});
-  }
-  EXPECT_EQ(CheckTable(table)->Code, Fault::NoManningN);
-  Put(table, {1, IrregTable::ManningN, "0.03"});
-  EXPECT_EQ(CheckTable(table), std::nullopt);
-  EXPECT_EQ(IrregTable::PointCount(table), 100);
-  EXPECT_EQ(IrregTable::PointCount({}), 0);
-  Put(table, {100, IrregTable::Station, "99"});
-  EXPECT_EQ(CheckTable(table), (Failure{Fault::NotAscending, 100, 1}));
-}
-
 INSTANTIATE_LOCALES(PointTableRules);
-
-TEST(PointTableRows, MoveWithoutTouchingThoseAbove) {
-  Table table;
-  for (std::size_t row = 1; row <= 100; ++row) table[row][1] = std::to_string(row);
-  IrregTable::InsertRow(table, 99);
-  EXPECT_EQ(table[98][1], "98");
-  EXPECT_EQ(table[99][1], "");
-  EXPECT_EQ(table[100][1], "99");
-  IrregTable::DeleteRow(table, 2);
-  EXPECT_EQ(table[1][1], "1");
-  EXPECT_EQ(table[2][1], "3");
-  EXPECT_EQ(table[99][1], "99");
-  EXPECT_EQ(table[100][1], "");
-  IrregTable::InsertRow(table, 100);
-  IrregTable::DeleteRow(table, 100);
-  EXPECT_EQ(table[99][1], "99");
-  IrregTable::InsertRow(table, 1);
-  EXPECT_EQ(table[1][1], "");
-  EXPECT_EQ(table[2][1], "1");
-}
 
 }  // namespace

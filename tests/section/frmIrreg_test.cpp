@@ -106,11 +106,15 @@ TEST_P(PointEditor, AnEditUnderWayIsKeptByTheMenus) {
   EXPECT_EQ(grid_.Text(1, 1), "12");
 }
 
-TEST_P(PointEditor, AHundredPointsAreStored) {
+TEST_P(PointEditor, AHundredPointsAreJudgedAndStored) {
   std::string text;
-  for (int i = 1; i <= 100; ++i) text += std::to_string(i) + "\t5\t1\r";
+  for (int i = 1; i <= 100; ++i) text += std::to_string(i == 100 ? 99 : i) + "\t5\t1\r";
   Select({1, 1, 100, 3});
   Copied(text);
+  editor_.cmdPaste_Click();
+  editor_.cmdOK_Click();
+  EXPECT_EQ(grid_.Selection.Get(), (GridBlock{100, 1, 100, 1}));
+  Copied("100");
   editor_.cmdPaste_Click();
   editor_.cmdOK_Click();
   EXPECT_EQ(ChannelState.IrregPointCount, 100);
