@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <random>
 #include <stdexcept>
@@ -69,14 +68,10 @@ bool Opens(const std::string& bytes) {
 TEST_F(ProjectFileTest, IsWrittenByteForByte) {
   const std::string version =
       std::to_string(VersionMajor) + "." + std::to_string(VersionMinor) + std::to_string(VersionRevision);
-  double sum = 0;
-  std::from_chars(version.data(), version.data() + version.size(), sum);
+  double sum = Val(version);
   for (const double value : {100.5, .03125, 0.015625, 5., 2., 10., 1., 12., 4., 2., 2., 10.5, .5, 25.25, 8.})
     sum += value;
-  std::array<char, 32> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), sum);
-  EXPECT_EQ(ProjectFile::Format(Sample()),
-            SampleRecords(version) + std::string(digits.data(), end.ptr) + "\r\n");
+  EXPECT_EQ(ProjectFile::Format(Sample()), SampleRecords(version) + PlainNumber(sum) + "\r\n");
 }
 
 TEST_F(ProjectFileTest, IsReadAsWritten) {

@@ -90,13 +90,11 @@ class Preferences : public testing::Test {
     std::filesystem::create_directories(top_.Path() / "deep");
     std::ofstream(path_, std::ios::binary) << text;
   }
-  static void ExpectDefaults() {
-    EXPECT_EQ(ChannelState.ChannelType, "Circular Channel");
-    EXPECT_FALSE(ChannelState.SolveForFlow);
-    EXPECT_EQ(ChannelState.UnitsEorM, 0);
-    EXPECT_EQ(Declarations::SigDigs, 3);
-    EXPECT_EQ(Declarations::EngDigs, 3);
-    EXPECT_EQ(Declarations::UserPath, "c:\\");
+  static std::string Loaded() {
+    InitialFile::LoadPreferences();
+    return ChannelState.ChannelType + (ChannelState.SolveForFlow ? "|flow|" : "|depth|") +
+           std::to_string(ChannelState.UnitsEorM) + "|" + std::to_string(Declarations::SigDigs) + "|" +
+           std::to_string(Declarations::EngDigs) + "|" + Declarations::UserPath;
   }
 
   TestFolder top_;
@@ -104,21 +102,19 @@ class Preferences : public testing::Test {
 };
 
 TEST_F(Preferences, DefaultsWhereNothingUsableIsStored) {
-  InitialFile::LoadPreferences();
-  ExpectDefaults();
+  const std::string defaults = "Circular Channel|depth|0|3|3|c:\\";
+  EXPECT_EQ(Loaded(), defaults);
   for (const char* const text :
        {"",
         "[Startup]\nChanType=U-Channel\nSolveForFlow=maybe\nUnitsEorM=2\nSigDigs=7\nEngDigs=0\nUserPath=\n",
         "[Startup]\nSigDigs=33\nEngDigs=-1\nUnitsEorM=\nChanType\n", "ChanType=Triangular Channel\n",
         "[Other]\nSigDigs=5\n", "\xFF\xFE\x00\x01[Startup\n=\n\n]"}) {
     Write(text);
-    InitialFile::LoadPreferences();
-    ExpectDefaults();
+    EXPECT_EQ(Loaded(), defaults) << text;
   }
   std::filesystem::remove(path_);
   std::filesystem::create_directories(path_);
-  InitialFile::LoadPreferences();
-  ExpectDefaults();
+  EXPECT_EQ(Loaded(), defaults);
   InitialFile::SavePreferences();  // a folder in the place of the file: nothing to write to, nothing lost
   EXPECT_TRUE(std::filesystem::is_directory(path_));
 }
@@ -128,13 +124,7 @@ TEST_F(Preferences, EachAcceptedValueIsTaken) {
       "\xEF\xBB\xBF[Startup]\r\nChanType=Irregular "
       "Section\r\nSolveForFlow=True\r\nUnitsEorM=1\r\nSigDigs=1\r\n"
       "EngDigs=5\r\nUserPath=/home/J\xC3\xBCrgen/a = b/\r\n");
-  InitialFile::LoadPreferences();
-  EXPECT_EQ(ChannelState.ChannelType, "Irregular Section");
-  EXPECT_TRUE(ChannelState.SolveForFlow);
-  EXPECT_EQ(ChannelState.UnitsEorM, 1);
-  EXPECT_EQ(Declarations::SigDigs, 1);
-  EXPECT_EQ(Declarations::EngDigs, 5);
-  EXPECT_EQ(Declarations::UserPath, "/home/J\xC3\xBCrgen/a = b/");
+  EXPECT_EQ(Loaded(), "Irregular Section|flow|1|1|5|/home/J\xC3\xBCrgen/a = b/");
 }
 
 TEST_F(Preferences, SavedInOrderBesideTheLinesOfOthers) {

@@ -35,6 +35,9 @@ class RatingWindows : public ProgramStage {
     Screen.Then<frmGraph>(act);
     Main.mnuSolveGraph_Click();
   }
+  std::string Path(const char* name) { return (folder_.Path() / name).string(); }
+
+  TestFolder folder_;
 };
 
 TEST_P(RatingWindows, TheGraphPlotsTwoHundredStepsOnTheWay) {
@@ -80,13 +83,7 @@ TEST_P(RatingWindows, TheGraphMarksWhereTheFlowFalls) {
   });
 }
 
-class RatingExport : public RatingWindows {
- protected:
-  std::string Path(const char* name) { return (folder_.Path() / name).string(); }
-  TestFolder folder_;
-};
-
-TEST_P(RatingExport, TheTableIsWrittenUnrounded) {
+TEST_P(RatingWindows, TheTableIsWrittenUnrounded) {
   TypeRectangle();
   Declarations::FileTitle = "Mill race.fwd";
   Fakes.fileDialog.Choices = {Path("table.csv"), std::nullopt};
@@ -105,7 +102,7 @@ TEST_P(RatingExport, TheTableIsWrittenUnrounded) {
   EXPECT_THAT(csv, HasSubstr(Spelled("\r\n91.69586518817"))) << "A k/n R^(2/3) S^(1/2), to all digits";
 }
 
-TEST_P(RatingExport, AFailureIsToldAndLeavesNothing) {
+TEST_P(RatingWindows, AFailureToExportIsToldAndLeavesNothing) {
   TypeRectangle();
   Fakes.fileDialog.Choices = {Path("missing/table.csv"), Path("graph.PNG"), Path("graph.PNG")};
   OpenTable([](frmTable& table) { table.mnuFileExport_Click(); });
@@ -122,6 +119,5 @@ TEST_P(RatingExport, AFailureIsToldAndLeavesNothing) {
 }
 
 INSTANTIATE_LOCALES(RatingWindows);
-INSTANTIATE_LOCALES(RatingExport);
 
 }  // namespace
