@@ -1,6 +1,7 @@
 // See Words.h.
 #include "console/Words.h"
 
+#include <algorithm>
 #include <charconv>
 #include <map>
 
@@ -23,16 +24,10 @@ std::string Unescaped(std::string_view text) {
 std::string Escaped(std::string_view text) {
   std::string escaped;
   for (const char c : text) {
-    const char* const name = c == '\t'   ? "\\t"
-                             : c == '\r' ? "\\r"
-                             : c == '\n' ? "\\n"
-                             : c == '\\' ? "\\\\"
-                                         : nullptr;
-    if (name != nullptr) {
-      escaped += name;
-    } else {
-      escaped += c;
-    }
+    const auto named =
+        std::find_if(Escapes.begin(), Escapes.end(), [c](const auto& each) { return each.second == c; });
+    if (named != Escapes.end()) escaped += '\\';
+    escaped += named == Escapes.end() ? c : named->first;
   }
   return escaped;
 }
