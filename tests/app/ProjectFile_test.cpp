@@ -7,6 +7,7 @@
 #include <cmath>
 #include <random>
 #include <stdexcept>
+#include <tuple>
 #include <utility>
 
 #include "app/ProjectItems.h"
@@ -159,11 +160,14 @@ TEST_F(ProjectFileTest, HoldsNoMoreThanItsLimits) {
   EXPECT_FALSE(Opens(ProjectFile::Format(project)));
 }
 
-TEST_F(ProjectFileTest, ReadsOtherDigitsAsTheirDefault) {
-  const Project read =
-      ProjectFile::Parse(Replaced(SampleRecords("1.25"), "4\r\n2\r\n2", "0\r\n6\r\n2") + "184.046875\r\n");
-  EXPECT_EQ(read.SigDigs, 3);
-  EXPECT_EQ(read.EngDigs, 3);
+TEST_F(ProjectFileTest, ReadsOtherDigitsThanOneToFiveAsTheirDefault) {
+  for (const auto& [digits, sigDigs, engDigs] :
+       {std::tuple("1\r\n5\r\n2", 1, 5), {"5\r\n1\r\n2", 5, 1}, {"0\r\n6\r\n2", 3, 3}}) {
+    const Project read =
+        ProjectFile::Parse(Replaced(SampleRecords("1.25"), "4\r\n2\r\n2", digits) + "184.046875\r\n");
+    EXPECT_EQ(read.SigDigs, sigDigs);
+    EXPECT_EQ(read.EngDigs, engDigs);
+  }
 }
 
 TEST_F(ProjectFileTest, CountsWhatOverflowsAsNothing) {
