@@ -137,6 +137,8 @@ TEST_F(ManningIrregTest, TheFirstPointMayBeTheLowest) {
 
 TEST_F(ManningIrregTest, LowPoint) {
   EXPECT_EQ(ManningIrreg::IrregLowPoint(Table({{0, 3}, {1, -2}, {2, 5}, {3, -7}}), 3), -2);
+  EXPECT_EQ(ManningIrreg::IrregLowPoint(Table({{0, 3}, {1, 5}}), 2), 3);
+  EXPECT_EQ(ManningIrreg::IrregLowPoint(Table({{0, -2}, {1, -1}}), 2), -2);
   EXPECT_EQ(ManningIrreg::IrregLowPoint(Table({{0, 3}}), 1), 3);
 }
 
