@@ -10,8 +10,8 @@
 
 #include "RatingProblems.h"
 #include "app/Declarations.h"
-#include "desktop/GridTable.h"
-#include "desktop/TableView.h"
+#include "desktop/windows/GridTable.h"
+#include "desktop/windows/TableView.h"
 #include "rating/RatingSeries.h"
 
 namespace {

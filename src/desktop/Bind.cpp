@@ -7,37 +7,13 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QVariant>
 
-#include "desktop/ChartWidget.h"
-#include "desktop/GridTable.h"
 #include "desktop/LineLabel.h"
 #include "desktop/Text.h"
 
 namespace Bind {
 
 namespace {
-
-constexpr const char* ControlProperty = "control";
-
-/// What widgets and actions have in common.
-template <class Widget>
-Widget* Named(Control& control, Widget* widget) {
-  widget->setObjectName(ToQt(control.Name()));
-  Join(control.Enabled, widget, [](Widget& w, bool enabled) { w.setEnabled(enabled); });
-  Join(control.Visible, widget, [](Widget& w, bool visible) { w.setVisible(visible); });
-  Join(control.ToolTip, widget, [](Widget& w, const std::string& tip) { w.setToolTip(ToQt(tip)); });
-  return widget;
-}
-
-template <class Widget>
-Widget* Focusable(FocusControl& control, Widget* widget) {
-  widget->setProperty(ControlProperty, QVariant::fromValue(static_cast<void*>(&control)));
-  control.FocusView = [guarded = QPointer<Widget>(widget)] {
-    if (guarded) guarded->setFocus();
-  };
-  return Named(control, widget);
-}
 
 template <class Widget>
 Widget* Captioned(HasCaption& control, Widget* widget, std::string_view letters) {
@@ -68,7 +44,7 @@ QString WithMnemonic(std::string_view caption, std::string_view letters) {
 }
 
 BoxEdit* Box(TextBox& box, QWidget* parent) {
-  return Focusable(box, new BoxEdit(box, parent));
+  return Adopt(box, new BoxEdit(box, parent));
 }
 
 QLabel* Caption(Label& label, QWidget* parent, std::string_view letters) {
@@ -78,7 +54,7 @@ QLabel* Caption(Label& label, QWidget* parent, std::string_view letters) {
 }
 
 QPushButton* Push(Button& button, QWidget* parent, std::string_view letters) {
-  auto* const widget = Captioned(button, Focusable(button, new QPushButton(parent)), letters);
+  auto* const widget = Captioned(button, Adopt(button, new QPushButton(parent)), letters);
   QObject::connect(widget, &QPushButton::clicked, widget, [&button, widget] {
     widget->setFocus();  // its letter presses a button too, and that must end the edit of a box
     Press(button);
@@ -87,14 +63,14 @@ QPushButton* Push(Button& button, QWidget* parent, std::string_view letters) {
 }
 
 QRadioButton* Option(OptionButton& option, QWidget* parent) {
-  auto* const widget = Captioned(option, Focusable(option, new QRadioButton(parent)), "");
+  auto* const widget = Captioned(option, Adopt(option, new QRadioButton(parent)), "");
   Join(option.Value, widget, [](QRadioButton& w, bool value) { w.setChecked(value); });
   QObject::connect(widget, &QRadioButton::clicked, widget, [&option] { Press(option); });
   return widget;
 }
 
 QListWidget* List(ListBox& list, QWidget* parent) {
-  auto* const widget = Focusable(list, new QListWidget(parent));
+  auto* const widget = Adopt(list, new QListWidget(parent));
   Join(list.Items, widget, [](QListWidget& w, const std::vector<std::string>& items) {
     w.clear();
     for (const std::string& item : items) w.addItem(ToQt(item));
@@ -109,7 +85,7 @@ QListWidget* List(ListBox& list, QWidget* parent) {
 }
 
 QComboBox* Combo(ComboBox& list, QWidget* parent) {
-  auto* const widget = Focusable(list, new QComboBox(parent));
+  auto* const widget = Adopt(list, new QComboBox(parent));
   Join(list.Items, widget, [](QComboBox& w, const std::vector<std::string>& items) {
     w.clear();
     for (const std::string& item : items) w.addItem(ToQt(item));
@@ -121,14 +97,6 @@ QComboBox* Combo(ComboBox& list, QWidget* parent) {
     list.ListIndex = index;
   });
   return widget;
-}
-
-GridTable* Grid(FlexGrid& grid, QWidget* parent) {
-  return Focusable(grid, new GridTable(grid, parent));
-}
-
-ChartWidget* Chart(XYChart& chart, QWidget* parent) {
-  return Named(chart, new ChartWidget(chart, parent));
 }
 
 QGroupBox* Group(Label& label, QWidget* parent, std::string_view letters) {
@@ -154,10 +122,6 @@ QAction* Tool(ToolButton& tool, QWidget* parent) {
   auto* const action = Named(tool, new QAction(parent));
   QObject::connect(action, &QAction::triggered, action, [&tool] { Press(tool); });
   return action;
-}
-
-void Adopt(FocusControl& control, QWidget* widget) {
-  Focusable(control, widget);
 }
 
 FocusControl* ControlOf(const QWidget* widget) {

@@ -4,16 +4,14 @@
 
 #include <QPointer>
 #include <QString>
+#include <QVariant>
 #include <functional>
 #include <utility>
 
 #include "desktop/BoxEdit.h"
+#include "desktop/Text.h"
 #include "platform/Controls.h"
-#include "platform/FlexGrid.h"
-#include "platform/XYChart.h"
 
-class ChartWidget;
-class GridTable;
 class QAction;
 class QComboBox;
 class QGroupBox;
@@ -44,6 +42,28 @@ void Follow(Property<T>& property, QObject* owner, std::function<void()> follow)
   };
 }
 
+/// Makes the widget or action that of the control: its name, and whether it is enabled and visible.
+template <class Widget>
+Widget* Named(Control& control, Widget* widget) {
+  widget->setObjectName(ToQt(control.Name()));
+  Join(control.Enabled, widget, [](Widget& w, bool enabled) { w.setEnabled(enabled); });
+  Join(control.Visible, widget, [](Widget& w, bool visible) { w.setVisible(visible); });
+  Join(control.ToolTip, widget, [](Widget& w, const std::string& tip) { w.setToolTip(ToQt(tip)); });
+  return widget;
+}
+
+constexpr const char* ControlProperty = "control";  ///< of a widget that can have the keyboard
+
+/// Makes the widget that of a control that can have the keyboard.
+template <class Widget>
+Widget* Adopt(FocusControl& control, Widget* widget) {
+  widget->setProperty(ControlProperty, QVariant::fromValue(static_cast<void*>(&control)));
+  control.FocusView = [guarded = QPointer<Widget>(widget)] {
+    if (guarded) guarded->setFocus();
+  };
+  return Named(control, widget);
+}
+
 /// The caption with the first of `letters` that it has as its mnemonic.
 QString WithMnemonic(std::string_view caption, std::string_view letters);
 
@@ -54,15 +74,10 @@ QPushButton* Push(Button& button, QWidget* parent, std::string_view letters = ""
 QRadioButton* Option(OptionButton& option, QWidget* parent);
 QListWidget* List(ListBox& list, QWidget* parent);
 QComboBox* Combo(ComboBox& list, QWidget* parent);
-GridTable* Grid(FlexGrid& grid, QWidget* parent);
-ChartWidget* Chart(XYChart& chart, QWidget* parent);
 /// The frame that a label heads.
 QGroupBox* Group(Label& label, QWidget* parent, std::string_view letters = "");
 QAction* Item(MenuItem& item, QWidget* parent, std::string_view letters);
 QAction* Tool(ToolButton& tool, QWidget* parent);
-
-/// Makes a widget of another kind that of the control.
-void Adopt(FocusControl& control, QWidget* widget);
 
 /// The control whose widget this is and that can have the keyboard; null for any other widget.
 FocusControl* ControlOf(const QWidget* widget);

@@ -1,47 +1,25 @@
 // See QtWindowHost.h.
 #include "desktop/QtWindowHost.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
 #include <QShortcut>
 
-#include "desktop/AboutView.h"
 #include "desktop/Bind.h"
-#include "desktop/DigitsView.h"
-#include "desktop/DrawingReader.h"
 #include "desktop/FrontWindow.h"
-#include "desktop/GraphSettingsView.h"
-#include "desktop/GraphView.h"
-#include "desktop/IrregView.h"
 #include "desktop/MainView.h"
-#include "desktop/MannParamView.h"
-#include "desktop/SectionView.h"
-#include "desktop/TableSettingsView.h"
-#include "desktop/TableView.h"
+#include "desktop/ShapeWidget.h"
 #include "desktop/Text.h"
 #include "help/HTMLHelp.h"
 
 namespace {
 
-template <class FormType, class View>
-QWidget* Make(Form& form, QWidget* parent) {
-  auto* const shown = dynamic_cast<FormType*>(&form);
-  return shown == nullptr ? nullptr : new View(*shown, parent);
-}
-
-constexpr QWidget* (*Makers[])(Form&, QWidget*) = {
-    Make<frmMain, MainView>,           Make<frmDigits, DigitsView>,
-    Make<frmMannParam, MannParamView>, Make<frmGraphSettings, GraphSettingsView>,
-    Make<frmGraph, GraphView>,         Make<frmTableSettings, TableSettingsView>,
-    Make<frmTable, TableView>,         Make<frmIrreg, IrregView>,
-    Make<frmSection, SectionView>,     Make<frmAbout, AboutView>};
-
-QWidget* MakeView(Form& form, QWidget* parent) {
-  for (const auto make : Makers) {
-    if (QWidget* const view = make(form, parent)) return view;
-  }
-  qFatal("No view for %s", form.Name().c_str());
+/// To a screen reader a cross-section is a picture in words.
+QAccessibleInterface* ReadShape(const QString&, QObject* object) {
+  auto* const shape = dynamic_cast<ShapeWidget*>(object);
+  return shape == nullptr ? nullptr : new QAccessibleWidget(shape, QAccessible::Graphic);
 }
 
 /// The title-bar box asks the form, which may refuse.
@@ -61,8 +39,8 @@ class CloseAsksForm : public QObject {
 
 }  // namespace
 
-QtWindowHost::QtWindowHost() {
-  QAccessible::installFactory(DrawingReader);
+QtWindowHost::QtWindowHost(const OtherWindows* (*others)()) : others_(others) {
+  QAccessible::installFactory(ReadShape);
   // The application losing the keyboard (no new widget) is not leaving a control.
   QObject::connect(qApp, &QApplication::focusChanged, &connections_, [](QWidget*, QWidget* now) {
     FocusControl* const control = Bind::ControlOf(now);
@@ -79,9 +57,16 @@ QWidget* QtWindowHost::WindowOf(const Form& form) const {
   return found == windows_.end() ? nullptr : found->second.data();
 }
 
+QWidget* QtWindowHost::MakeView(Form& form) const {
+  if (auto* const main = dynamic_cast<frmMain*>(&form)) return new MainView(*main, FrontWindow());
+  const OtherWindows* const others = others_();
+  return others == nullptr ? nullptr : others->View(form, FrontWindow());
+}
+
 void QtWindowHost::Open(Form& form) {
   if (!form.IsLoaded()) return;
-  QWidget* const window = MakeView(form, FrontWindow());
+  QWidget* const window = MakeView(form);
+  if (window == nullptr) return form.Unload();
   windows_[&form] = window;
   Bind::Join(form.Caption, window, [](QWidget& w, const std::string& caption) {
     // "[*]" is where Qt marks a changed document; one in the caption itself is doubled to stay as it is.

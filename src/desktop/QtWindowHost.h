@@ -6,11 +6,13 @@
 #include <QWidget>
 #include <map>
 
+#include "desktop/OtherWindows.h"
 #include "platform/Services.h"
 
 class QtWindowHost : public WindowHost {
  public:
-  QtWindowHost();
+  /// `others`: asked when a window but the main one is to be shown; null when there are none.
+  explicit QtWindowHost(const OtherWindows* (*others)());
   ~QtWindowHost() override;
   QtWindowHost(const QtWindowHost&) = delete;
   QtWindowHost& operator=(const QtWindowHost&) = delete;
@@ -26,6 +28,9 @@ class QtWindowHost : public WindowHost {
   void Open(Form& form) override;
   void Wait(Form& form) final;
 
+  QWidget* MakeView(Form& form) const;
+
+  const OtherWindows* (*others_)();
   std::map<const Form*, QPointer<QWidget>> windows_;
   QObject connections_;
 };

@@ -4,13 +4,12 @@
 #include <QComboBox>
 #include <QGraphicsView>
 #include <QLineEdit>
-#include <QPrintPreviewDialog>
 #include <QToolBar>
 #include <QToolButton>
 
 namespace {
 
-void MakePreviewReachable(const QPrintPreviewDialog& preview) {
+void MakePreviewReachable(const QWidget& preview) {
   for (auto* const bar : preview.findChildren<QToolBar*>()) bar->setWindowTitle(QObject::tr("Tools"));
   for (auto* const button : preview.findChildren<QToolButton*>()) button->setFocusPolicy(Qt::TabFocus);
   for (auto* const line : preview.findChildren<QLineEdit*>()) {
@@ -28,6 +27,5 @@ void MakePreviewReachable(const QPrintPreviewDialog& preview) {
 void MakeReachable(const QWidget& window) {
   for (auto* const more : window.findChildren<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
     more->setAccessibleName(QObject::tr("More tools"));
-  if (const auto* const preview = qobject_cast<const QPrintPreviewDialog*>(&window))
-    MakePreviewReachable(*preview);
+  if (window.inherits("QPrintPreviewDialog")) MakePreviewReachable(window);
 }

@@ -8,9 +8,8 @@
 
 #include "app/Declarations.h"
 #include "app/SettingsFile.h"
+#include "desktop/LaterWindows.h"
 #include "desktop/LineIcon.h"
-#include "desktop/QtHelpViewer.h"
-#include "desktop/QtPrinter.h"
 #include "desktop/QtServices.h"
 #include "desktop/QtWindowHost.h"
 #include "desktop/Recovery.h"
@@ -54,11 +53,11 @@ int main(int argc, char* argv[]) {
   QtClipboard clipboard;
   QtMessageBox messageBox;
   QtFileDialog fileDialog;
-  QtWindowHost windows;
-  QtPrinterDialog printerDialog;
+  QtWindowHost windows(LaterWindows);
+  LaterPrinterDialog printerDialog;
   QtClock clock;
   QtProgress progress;
-  QtHelpViewer helpViewer(QtHelpViewer::Paths());
+  LaterHelpViewer helpViewer;
   Program program({clipboard, messageBox, fileDialog, windows, printerDialog, clock, progress, helpViewer});
   program.Start();
   Recovery recovery(program.Main);

@@ -8,11 +8,11 @@
 #include <QTest>
 #include <memory>
 
-#include "desktop/ChartPlot.h"
-#include "desktop/ChartWidget.h"
-#include "desktop/DrawingReader.h"
-#include "desktop/EmptyNote.h"
 #include "desktop/WidgetHands.h"
+#include "desktop/windows/ChartPlot.h"
+#include "desktop/windows/ChartReader.h"
+#include "desktop/windows/ChartWidget.h"
+#include "desktop/windows/EmptyNote.h"
 
 namespace {
 
@@ -81,7 +81,7 @@ TEST_F(Chart, EveryPairOfColumnsIsALine) {
 }
 
 TEST_F(Chart, AScreenReaderIsToldATableOfThePoints) {
-  QAccessible::installFactory(DrawingReader);
+  QAccessible::installFactory(ReadChart);
   Show({{0.5, 2}, Gap, {1, 1234.5678}});
   QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(widget_.get());
   EXPECT_EQ(reader->role(), QAccessible::Chart);

@@ -12,9 +12,9 @@
 #include "desktop/Appearance.h"
 #include "desktop/Desk.h"
 #include "desktop/FrontWindow.h"
-#include "desktop/HelpBrowser.h"
-#include "desktop/QtHelpViewer.h"
-#include "desktop/TopicTree.h"
+#include "desktop/windows/HelpBrowser.h"
+#include "desktop/windows/QtHelpViewer.h"
+#include "desktop/windows/TopicTree.h"
 #include "help/HTMLHelp.h"
 
 #ifdef HELP_FILE

@@ -3,7 +3,7 @@
 #include <QScrollBar>
 
 #include "desktop/Desk.h"
-#include "desktop/PointGrid.h"
+#include "desktop/windows/PointGrid.h"
 #include "section/frmIrreg.h"
 
 namespace {

@@ -4,8 +4,9 @@
 #include <QStatusBar>
 
 #include "desktop/Desk.h"
-#include "desktop/EmptyNote.h"
-#include "desktop/GridTable.h"
+#include "desktop/windows/ChartWidget.h"
+#include "desktop/windows/EmptyNote.h"
+#include "desktop/windows/GridTable.h"
 #include "rating/frmGraph.h"
 #include "rating/frmTable.h"
 #include "rating/frmTableSettings.h"

@@ -14,13 +14,14 @@
 #include <set>
 
 #include "app/Declarations.h"
-#include "desktop/ChartWidget.h"
 #include "desktop/Desk.h"
-#include "desktop/PointGrid.h"
 #include "desktop/ScrollPage.h"
 #include "desktop/ShapeWidget.h"
 #include "desktop/Text.h"
+#include "desktop/windows/ChartWidget.h"
+#include "desktop/windows/PointGrid.h"
 #include "engine/NumberText.h"
+#include "help/frmAbout.h"
 
 namespace {
 
@@ -308,6 +309,13 @@ TEST_F(Windows, TheAboutBoxHasLinks) {
                 testing::HasSubstr("href=\"https://www.gnu.org/licenses/gpl-3.0.html\""));
     EXPECT_TRUE(licence->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
   });
+}
+
+TEST_F(Windows, OneThatCannotBeLoadedIsUnloadedAgain) {
+  QtWindowHost host([]() -> const OtherWindows* { return nullptr; });
+  frmAbout form;
+  host.ShowModal(form);
+  EXPECT_FALSE(form.IsLoaded());
 }
 
 TEST_F(Windows, TheTitleBarBoxAsksAndMayBeRefused) {

@@ -19,6 +19,8 @@ MAY_INCLUDE = {
     "program": ["rating", "section", "print", "help", *CALCULATOR],
     "desktop": ["program", "rating", "section", "print", "help", *CALCULATOR],
 }
+# The windows that the program loads when the first of them is needed, with the libraries that they stand on.
+LOADED = "desktop/windows/"
 WITH_QT = ["src/desktop/", "tests/desktop/", "bench/desktop/"]
 QT = re.compile(r"Q[A-Z]|Qt|q[a-z]+\.h$|qcustomplot")
 STANDARD = set("""
@@ -63,6 +65,8 @@ def fault_of_include(place, system, own):
         return f'"{own}" does not begin with a folder of src'
     if target != folder and target not in MAY_INCLUDE[folder]:
         return f"{folder} may not include {target}"
+    if own.startswith(LOADED) and not place.startswith("src/" + LOADED):
+        return f"{LOADED} is loaded when the program runs"
     return None
 
 

@@ -9,11 +9,20 @@ files() {
   find /etc /opt /usr /var -xdev -not -path '/var/lib/dpkg/*-old' -not -path '/var/cache/*' | sort
 }
 
-# closed TITLE: waits for the window of that title, closes it as a person does, and waits for its program's end.
-closed() {
-  local window program
-  window=$(timeout 60 xdotool search --sync --onlyvisible --name "$1" | tail -n 1)
+# shown TITLE: waits for the window of that title and tells its number.
+shown() {
+  timeout 60 xdotool search --sync --onlyvisible --name "$1" | tail -n 1
+}
+
+# used TITLE: opens the manual in the window of that title, closes both as a person does, and waits for its program's
+# end. The manual comes from a library and a file of the package.
+used() {
+  local window manual program
+  window=$(shown "$1")
   program=$(xdotool getwindowpid "$window")
+  timeout 60 xdotool windowactivate --sync "$window" key F1
+  manual=$(shown 'Flumewise Help')
+  timeout 60 xdotool windowactivate --sync "$manual" key Escape
   timeout 60 xdotool windowactivate --sync "$window" key ctrl+q
   timeout 60 tail -s 0.1 -f /dev/null --pid "$program"
 }
@@ -22,9 +31,9 @@ windows() {
   openbox --sm-disable 2>/dev/null &
   until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "#"; do sleep 0.1; done
   gio launch "/usr/share/applications/$1.desktop"
-  closed 'Flumewise - Untitled'
+  used 'Flumewise - Untitled'
   gio open /usr/share/doc/flumewise/examples/box-culvert.fwd
-  closed 'Flumewise - box-culvert'
+  used 'Flumewise - box-culvert'
 }
 
 # on_the_copy PACKAGE ID
@@ -36,7 +45,7 @@ on_the_copy() {
   files >"$HOME/before"
   dpkg -i "$1" >"$HOME/log" 2>&1 || { cat "$HOME/log"; return 1; }
   xvfb-run -a -s "-screen 0 1280x900x24 -nolisten tcp" dbus-run-session -- \
-    bash -euc "$(declare -f windows closed); windows $2"
+    bash -euc "$(declare -f shown used windows); windows $2"
   dpkg --purge flumewise >>"$HOME/log" 2>&1
   diff "$HOME/before" <(files)
   if grep -rli flumewise /usr/share/applications /usr/share/mime /usr/share/icons; then
@@ -63,7 +72,7 @@ if ! unshare --mount --pid --net --fork true 2>/dev/null; then
 fi
 folder=$(mktemp -d)
 trap 'rmdir "$folder"' EXIT
-export -f files closed windows on_the_copy copy_of_the_machine
+export -f files shown used windows on_the_copy copy_of_the_machine
 # A network of its own too: displays of the same number, begun elsewhere, would meet there.
 unshare --mount --pid --net --fork --kill-child bash -euo pipefail -c '
   copy_of_the_machine "$1" 2>/dev/null || { echo "left out: this machine cannot be copied by an overlay"; exit; }

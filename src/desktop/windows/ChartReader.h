@@ -1,0 +1,7 @@
+// What a screen reader is told of a chart: the table of its points.
+#pragma once
+
+#include <QAccessible>
+
+/// For QAccessible::installFactory: null for what is no chart.
+QAccessibleInterface* ReadChart(const QString& className, QObject* object);
