@@ -56,6 +56,10 @@ bool NeedsOutline(const QPalette& palette) {
   return palette.color(QPalette::Active, QPalette::Window) == palette.color(QPalette::Active, QPalette::Base);
 }
 
+QColor Line(const QPalette& palette) {
+  return Mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.25);
+}
+
 QColor Faint(const QPalette& palette) {
   return Mixed(palette.color(QPalette::Active, QPalette::Base),
                palette.color(QPalette::Active, QPalette::Text), 0.7);

@@ -30,6 +30,9 @@ QColor OtherRow(const QPalette& palette);
 /// draw its frame too dark to be seen there.
 bool NeedsOutline(const QPalette& palette);
 
+/// Lines between the parts of a window.
+QColor Line(const QPalette& palette);
+
 /// Lines and notes that stay behind the others, on the ground of a text box.
 QColor Faint(const QPalette& palette);
 

@@ -79,7 +79,7 @@ void FieldPanel::AddUnderBox(QWidget* widget) {
   grid_->addWidget(widget, Row(), BoxColumn, 1, 2, Qt::AlignLeft);
 }
 
-void FieldPanel::KeepRoom(const QStringList& units) {
+void FieldPanel::KeepRoom(int unitWidth) {
   int captionWidth = 0;
   // The widest comes and goes with its caption; drawn, it is wider than its letters by a pixel or so.
   int symbolWidth = fontMetrics().horizontalAdvance(QStringLiteral("Wc "));
@@ -91,12 +91,8 @@ void FieldPanel::KeepRoom(const QStringList& units) {
     }
   }
   grid_->setColumnMinimumWidth(SymbolColumn, symbolWidth);
-  int unitWidth = 0;
-  for (const QString& unit : units) {
-    unitWidth = std::max(unitWidth, fontMetrics().horizontalAdvance(Printed(FromQt(unit))));
-  }
   grid_->setColumnMinimumWidth(CaptionColumn, captionWidth);
-  grid_->setColumnMinimumWidth(UnitColumn, unitWidth + 1);
+  grid_->setColumnMinimumWidth(UnitColumn, unitWidth);
   grid_->setColumnMinimumWidth(BoxColumn, fontMetrics().horizontalAdvance(QStringLiteral("12,345,678.901")));
 }
 

@@ -25,9 +25,9 @@ class FieldPanel : public QWidget {
   /// A row of its own under the boxes.
   void AddUnderBox(QWidget* widget);
 
-  /// Gives the captions, hidden ones too, and any of these units their room, so that the columns stay as they
+  /// Gives the captions, hidden ones too, and the widest unit their room, so that the columns stay as they
   /// are when others are shown.
-  void KeepRoom(const QStringList& units);
+  void KeepRoom(int unitWidth);
 
   /// More room between the rows, in pixels.
   void SetAiriness(int spacing);

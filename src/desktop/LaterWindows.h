@@ -3,8 +3,8 @@
 
 #include "desktop/OtherWindows.h"
 
-/// Loads them when they are not yet. Where they cannot be, the person is told and it is null: Flumewise is not
-/// installed whole, or another version was installed while this one runs.
+/// Loads them when they are not yet. Where they cannot be, the person is told and it is null: Flumewise is
+/// not installed whole, or another version was installed while this one runs.
 const OtherWindows* LaterWindows();
 
 class LaterPrinterDialog : public PrinterDialog {

