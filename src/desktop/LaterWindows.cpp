@@ -28,6 +28,19 @@ const OtherWindows* LaterWindows() {
   return loaded;
 }
 
+namespace {
+
+/// True when the service is there, now if not before.
+template <class Service>
+bool Load(std::unique_ptr<Service>& service, std::unique_ptr<Service> (*OtherWindows::*make)()) {
+  if (service == nullptr) {
+    if (const OtherWindows* const windows = LaterWindows()) service = (windows->*make)();
+  }
+  return service != nullptr;
+}
+
+}  // namespace
+
 Printer* LaterPrinterDialog::Choose(const PrintRequest& request) {
   return Loaded() ? loaded_->Choose(request) : nullptr;
 }
@@ -37,22 +50,19 @@ void LaterPrinterDialog::Preview(const PrintRequest& request, const std::functio
 }
 
 bool LaterPrinterDialog::Loaded() {
-  if (loaded_ == nullptr) {
-    if (const OtherWindows* const windows = LaterWindows()) loaded_ = windows->Printers();
-  }
-  return loaded_ != nullptr;
+  return Load(loaded_, &OtherWindows::Printers);
 }
 
 bool LaterHelpViewer::ShowContents() {
-  return Loaded() && loaded_->ShowContents();
+  return !Loaded() || loaded_->ShowContents();
 }
 
 bool LaterHelpViewer::ShowIndex() {
-  return Loaded() && loaded_->ShowIndex();
+  return !Loaded() || loaded_->ShowIndex();
 }
 
 bool LaterHelpViewer::ShowPage(const std::string& page, const std::string& anchor) {
-  return Loaded() && loaded_->ShowPage(page, anchor);
+  return !Loaded() || loaded_->ShowPage(page, anchor);
 }
 
 void LaterHelpViewer::Close() {
@@ -60,8 +70,5 @@ void LaterHelpViewer::Close() {
 }
 
 bool LaterHelpViewer::Loaded() {
-  if (loaded_ == nullptr) {
-    if (const OtherWindows* const windows = LaterWindows()) loaded_ = windows->Help();
-  }
-  return loaded_ != nullptr;
+  return Load(loaded_, &OtherWindows::Help);
 }

@@ -17,6 +17,7 @@ class LaterPrinterDialog : public PrinterDialog {
   std::unique_ptr<PrinterDialog> loaded_;
 };
 
+/// Where help cannot be loaded the person has been told why, and no help file is blamed.
 class LaterHelpViewer : public HelpViewer {
  public:
   bool ShowContents() override;

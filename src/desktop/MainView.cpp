@@ -18,7 +18,6 @@
 #include "desktop/Bind.h"
 #include "desktop/FieldPanel.h"
 #include "desktop/LineIcon.h"
-#include "desktop/Reachable.h"
 #include "desktop/ReflowArea.h"
 #include "desktop/ShapeWidget.h"
 #include "desktop/Text.h"
@@ -147,7 +146,6 @@ MainView::MainView(frmMain& form, QWidget* parent) : QMainWindow(parent), form_(
   Bind::Join(Declarations::DataChanged, this,
              [](MainView& view, bool changed) { view.setWindowModified(changed); });
   setAcceptDrops(true);
-  MakeReachable(*this);
   findChild<QWidget*>(ToQt((form.tbFlow.Locked ? form.tbDepth : form.tbFlow).Name()))->setFocus();
   PlaceOnScreen();
 }

@@ -1,7 +1,6 @@
 // See QtWindowHost.h.
 #include "desktop/QtWindowHost.h"
 
-#include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
@@ -10,17 +9,10 @@
 #include "desktop/Bind.h"
 #include "desktop/FrontWindow.h"
 #include "desktop/MainView.h"
-#include "desktop/ShapeWidget.h"
 #include "desktop/Text.h"
 #include "help/HTMLHelp.h"
 
 namespace {
-
-/// To a screen reader a cross-section is a picture in words.
-QAccessibleInterface* ReadShape(const QString&, QObject* object) {
-  auto* const shape = dynamic_cast<ShapeWidget*>(object);
-  return shape == nullptr ? nullptr : new QAccessibleWidget(shape, QAccessible::Graphic);
-}
 
 /// The title-bar box asks the form, which may refuse.
 class CloseAsksForm : public QObject {
@@ -40,7 +32,6 @@ class CloseAsksForm : public QObject {
 }  // namespace
 
 QtWindowHost::QtWindowHost(const OtherWindows* (*others)()) : others_(others) {
-  QAccessible::installFactory(ReadShape);
   // The application losing the keyboard (no new widget) is not leaving a control.
   QObject::connect(qApp, &QApplication::focusChanged, &connections_, [](QWidget*, QWidget* now) {
     FocusControl* const control = Bind::ControlOf(now);

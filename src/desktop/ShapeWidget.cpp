@@ -1,6 +1,7 @@
 // See ShapeWidget.h.
 #include "desktop/ShapeWidget.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
 
@@ -101,9 +102,16 @@ void DrawSurfaceMark(QPainter& painter, const QLineF& surface, double em) {
   painter.drawLine(QPointF(x - 0.4 * half, y + 6), QPointF(x + 0.4 * half, y + 6));
 }
 
+/// To a screen reader a cross-section is a picture in words.
+QAccessibleInterface* ReadShape(const QString&, QObject* object) {
+  auto* const shape = dynamic_cast<ShapeWidget*>(object);
+  return shape == nullptr ? nullptr : new QAccessibleWidget(shape, QAccessible::Graphic);
+}
+
 }  // namespace
 
 ShapeWidget::ShapeWidget(frmMain& form, QWidget* parent) : QWidget(parent), form_(form) {
+  QAccessible::installFactory(ReadShape);
   setAccessibleName(QStringLiteral("Cross-section"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   const auto refresh = [this] { Refresh(); };

@@ -4,14 +4,14 @@
 #include <QMainWindow>
 #include <QPainter>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "desktop/Appearance.h"
 
 namespace {
 
 /// A bar on the window's own ground with a line below. What a style draws there instead goes through the
-/// painter dot by dot, in threads that are made for it: a twentieth of the time that the window takes to
-/// show.
+/// painter dot by dot, in threads that are made for it, and keeps the window waiting.
 class FlatToolBar : public QToolBar {
  public:
   using QToolBar::QToolBar;
@@ -24,8 +24,15 @@ class FlatToolBar : public QToolBar {
 
 }  // namespace
 
+void NameToolBar(QToolBar& bar) {
+  bar.setWindowTitle(QToolBar::tr("Tools"));
+  for (auto* const more : bar.findChildren<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
+    more->setAccessibleName(QToolBar::tr("More tools"));
+}
+
 QToolBar* MakeToolBar(QMainWindow& window) {
-  auto* const bar = new FlatToolBar(QMainWindow::tr("Tools"), &window);
+  auto* const bar = new FlatToolBar(&window);
+  NameToolBar(*bar);
   window.addToolBar(bar);
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);

@@ -10,7 +10,6 @@
 
 #include "desktop/WidgetHands.h"
 #include "desktop/windows/ChartPlot.h"
-#include "desktop/windows/ChartReader.h"
 #include "desktop/windows/ChartWidget.h"
 #include "desktop/windows/EmptyNote.h"
 
@@ -81,7 +80,6 @@ TEST_F(Chart, EveryPairOfColumnsIsALine) {
 }
 
 TEST_F(Chart, AScreenReaderIsToldATableOfThePoints) {
-  QAccessible::installFactory(ReadChart);
   Show({{0.5, 2}, Gap, {1, 1234.5678}});
   QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(widget_.get());
   EXPECT_EQ(reader->role(), QAccessible::Chart);

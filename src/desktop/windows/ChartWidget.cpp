@@ -15,6 +15,7 @@
 #include "desktop/Bind.h"
 #include "desktop/Text.h"
 #include "desktop/windows/ChartPlot.h"
+#include "desktop/windows/ChartReader.h"
 #include "desktop/windows/EmptyNote.h"
 
 namespace {
@@ -75,6 +76,7 @@ ChartWidget::ChartWidget(XYChart& chart, QWidget* parent)
   plot_->installEventFilter(this);
   setFocusPolicy(Qt::StrongFocus);
   setContextMenuPolicy(Qt::ActionsContextMenu);
+  QAccessible::installFactory(ReadChart);  // no more than once
   AddReader();
   AddActions();
   chart_.LoadView = [this, guarded = QPointer<ChartWidget>(this)] {

@@ -15,7 +15,6 @@
 #include <algorithm>
 
 #include "desktop/LineIcon.h"
-#include "desktop/Reachable.h"
 #include "desktop/ToolBar.h"
 #include "desktop/windows/EmptyNote.h"
 #include "desktop/windows/FindBar.h"
@@ -39,7 +38,6 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file)
   MakeSearch();
   tabs_->tabBar()->installEventFilter(this);
   MakeTools();
-  MakeReachable(*this);
 
   auto* const right = new QWidget(this);
   auto* const column = new QVBoxLayout(right);

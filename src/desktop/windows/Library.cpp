@@ -2,7 +2,6 @@
 #include "desktop/windows/Library.h"
 
 #include "desktop/windows/AboutView.h"
-#include "desktop/windows/ChartReader.h"
 #include "desktop/windows/DigitsView.h"
 #include "desktop/windows/GraphSettingsView.h"
 #include "desktop/windows/GraphView.h"
@@ -33,7 +32,6 @@ constexpr QWidget* (*Makers[])(Form&, QWidget*) = {Make<frmDigits, DigitsView>,
                                                    Make<frmAbout, AboutView>};
 
 QWidget* MakeView(Form& form, QWidget* parent) {
-  QAccessible::installFactory(ReadChart);  // no more than once
   for (const auto make : Makers) {
     if (QWidget* const view = make(form, parent)) return view;
   }

@@ -3,19 +3,24 @@
 
 #include <qcustomplot.h>
 
+#include <QComboBox>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QGraphicsView>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QScreen>
+#include <QToolBar>
+#include <QToolButton>
 #include <cmath>
 
 #include "app/Declarations.h"
 #include "desktop/FrontWindow.h"
-#include "desktop/Reachable.h"
 #include "desktop/Text.h"
+#include "desktop/ToolBar.h"
 #include "desktop/windows/ChartWidget.h"
 
 namespace {
@@ -46,6 +51,20 @@ QFont SansSerif(const QString& family, int pixels) {
 bool IsWhole(const QString& name) {
   QFile file(name);
   return file.open(QIODevice::ReadOnly) && file.readAll().trimmed().endsWith("%%EOF");
+}
+
+/// Names the parts of a print preview and gives its buttons the keyboard.
+void MakePreviewReachable(const QPrintPreviewDialog& preview) {
+  for (auto* const bar : preview.findChildren<QToolBar*>()) NameToolBar(*bar);
+  for (auto* const button : preview.findChildren<QToolButton*>()) button->setFocusPolicy(Qt::TabFocus);
+  for (auto* const line : preview.findChildren<QLineEdit*>()) {
+    const bool zoom = qobject_cast<QComboBox*>(line->parent()) != nullptr;
+    line->setAccessibleName(zoom ? QObject::tr("Zoom") : QObject::tr("Page"));
+  }
+  for (auto* const pages : preview.findChildren<QGraphicsView*>()) {
+    for (QWidget* const part : {pages->parentWidget(), static_cast<QWidget*>(pages), pages->viewport()})
+      part->setAccessibleName(QObject::tr("Pages"));
+  }
 }
 
 }  // namespace
@@ -147,7 +166,7 @@ void QtPrinterDialog::Preview(const PrintRequest& request, const std::function<v
   QPrintPreviewDialog dialog(&Device(request), FrontWindow());
   dialog.setWindowModality(Qt::WindowModal);
   dialog.resize(dialog.screen()->availableSize() * 4 / 5);
-  MakeReachable(dialog);
+  MakePreviewReachable(dialog);
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&write](QPrinter* device) {
     QtPrinter printer(*device, {});
     write(printer);
