@@ -115,8 +115,13 @@ struct Roughness {
     }
   }
 
-  // Manning's flow of the subsections at W, added up; a dry one adds none.
-  double Flow(const Ground& ground, double W, double rootS) const {
+  struct WetFlow {
+    double Q = 0;
+    double P = 0;
+  };
+
+  // Manning's flow of the subsections at W and their wetted perimeter, added up; a dry one adds none.
+  WetFlow Flow(const Ground& ground, double W, double rootS) const {
     double wetArea = 0;
     double wetPerimeter = 0;
     double Q = 0;
@@ -135,17 +140,16 @@ struct Roughness {
     if (!AllFinite(wetArea, wetPerimeter, Q)) [[unlikely]] {
       ThrowFault("a number is too large or a Manning's n is zero");
     }
-    return Q;
+    return {Q, wetPerimeter};
   }
 
   size_t count = 0;
   std::array<Subsection, Rows> subsections;
 };
 
-// The inputs of the record but Depth and Flow; a number that is not finite faults.
+// The inputs of the record but Depth, Flow and the roughness; a number that is not finite faults.
 struct Inputs {
   Ground ground{ChannelState.IrregEnginePoints, ChannelState.IrregPointCount};
-  Roughness roughness{ChannelState.IrregEnginePoints, ground.last};
   double S = Finite(ChannelState.Slope.Number());
 };
 
@@ -197,7 +201,7 @@ double IrregTopWidth(const PointTable& points, int count, double W) {
 
 double IrregFlow(const PointTable& points, int count, double W, double S) {
   const Ground ground(points, count);
-  return Roughness(points, ground.last).Flow(ground, W, UniformFlow::RootOfSlope(S));
+  return Roughness(points, ground.last).Flow(ground, W, UniformFlow::RootOfSlope(S)).Q;
 }
 
 double IrregFroude(double V, double T, double A) {
@@ -213,7 +217,9 @@ void IrregFlowFromDepth() {
   const double W = Finite(ChannelState.Depth.Number());
   const Water water = in.ground.Below(W);
   AssignSection(water);
-  const double Q = in.roughness.Flow(in.ground, W, UniformFlow::RootOfSlope(in.S));
+  // Read only now: a first n that is missing spoils the flow, not the geometry.
+  const Roughness roughness(ChannelState.IrregEnginePoints, in.ground.last);
+  const double Q = roughness.Flow(in.ground, W, UniformFlow::RootOfSlope(in.S)).Q;
   ChannelState.Flow = Q;
   AssignFlowResults(in.ground, water, Q);
 }
@@ -222,12 +228,15 @@ void IrregDepthFromFlow() {
   const Inputs in;
   const double Q = Finite(ChannelState.Flow.Number());
   const double rootS = UniformFlow::RootOfSlope(in.S);
+  const Roughness roughness(ChannelState.IrregEnginePoints, in.ground.last);
   const double low = in.ground.LowPoint();
   const double W = LastMidpoint(low, low + Constants::SearchDepth, Q, [&](double elevation) {
-    // Far from zero a midpoint can round to the lowest point itself: no water, no hydraulic radius.
-    if (!(elevation > low)) [[unlikely]]
+    const auto [flow, P] = roughness.Flow(in.ground, elevation, rootS);
+    // All points lie at one place, or far from zero the midpoint rounds to the lowest point itself: no bed
+    // under water, no hydraulic radius.
+    if (P == 0) [[unlikely]]
       ThrowFault("the wetted perimeter is zero");
-    return in.roughness.Flow(in.ground, elevation, rootS);
+    return flow;
   });
   if (W > low + Constants::DeepestResult) {
     UniformFlow::AssignOverflow(ChannelState.Depth);

@@ -186,8 +186,20 @@ TEST_F(ManningIrregTest, Faults) {
   // A wall at the lowest point: water there has no width, and no critical depth can be told.
   EXPECT_THROW(ManningIrreg::IrregCriticalElevation(Table({{0, 10}, {0, -5}, {0, 0}, {10, 0}}), 4, 1e-9),
                EngineFault);
-  SetSection({{0, 1e20, 0.03}, {10, 1e20}}, 0.001);
-  EXPECT_THROW(SolveDepth(1), EngineFault);
+  // A lowest point beside which a midpoint rounds to it, and a section that is a single place.
+  for (const Points& nowhere : {Points{{0, 1e20, 0.03}, {10, 1e20}}, Points{{5, 7, 0.03}, {5, 7}, {5, 7}}}) {
+    SetSection(nowhere, 0.001);
+    EXPECT_THROW(SolveDepth(1), EngineFault);
+  }
+}
+
+TEST_F(ManningIrregTest, AMissingFirstRoughnessSpoilsTheFlowAndNotTheGeometry) {
+  SetSection({{0, 10}, {10, 0, 0.03}, {20, 10}}, 0.001);
+  EXPECT_THROW(SolveFlow(5), EngineFault);
+  EXPECT_EQ(ChannelState.Area, 25);
+  EXPECT_DOUBLE_EQ(ChannelState.WettedPerimeter.Number(), 10 * std::sqrt(2.0));
+  EXPECT_DOUBLE_EQ(ChannelState.HydraulicRadius.Number(), 25 / (10 * std::sqrt(2.0)));
+  EXPECT_EQ(ChannelState.Velocity, "");
 }
 
 }  // namespace
