@@ -1,7 +1,7 @@
 // The problems whose rating curves the benchmarks run.
 #pragma once
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 
 namespace RatingProblems {
 

@@ -1,9 +1,9 @@
 # A folder is a unit: every source in it belongs to it, so a new file needs no line here.
 
-# flumewise_library(engine DEPENDS ...): the static library of src/<name>.
+# flumewise_library(engine DEPENDS ...): the static library of src/<name>, the rooms inside it included.
 function(flumewise_library name)
   cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   add_library(flumewise_${name} STATIC ${sources})
   target_link_libraries(flumewise_${name} PUBLIC flumewise_flags ${arg_DEPENDS})
 endfunction()

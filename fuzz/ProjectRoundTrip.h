@@ -7,10 +7,10 @@
 #include <stdexcept>
 #include <string>
 
-#include "app/ProjectFile.h"
-#include "app/ProjectItems.h"
-#include "app/TextEncoding.h"
+#include "app/project/ProjectFile.h"
+#include "app/project/ProjectItems.h"
 #include "engine/NumberText.h"
+#include "files/TextEncoding.h"
 
 namespace ProjectRoundTrip {
 

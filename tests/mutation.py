@@ -20,9 +20,9 @@ TARGETS = {
     "engine/Bisection.h": ["engine_tests", "console_tests"],
     "app/Units.cpp": ["app_tests", "console_tests"],
     "app/NumberDisplay.cpp": ["app_tests", "console_tests"],
-    "app/ProjectFile.cpp": ["app_tests", "console_tests"],
-    "app/ProjectItems.cpp": ["app_tests", "console_tests"],
-    "app/FileNumber.cpp": ["app_tests", "console_tests"],
+    "app/project/ProjectFile.cpp": ["app_tests", "console_tests"],
+    "app/project/ProjectItems.cpp": ["app_tests", "console_tests"],
+    "app/project/FileNumber.cpp": ["app_tests", "console_tests"],
     "rating/RatingSeries.cpp": ["rating_tests", "console_tests"],
     "rating/RatingColumn.cpp": ["rating_tests", "console_tests"],
 }

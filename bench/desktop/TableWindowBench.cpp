@@ -10,8 +10,8 @@
 
 #include "RatingProblems.h"
 #include "app/Declarations.h"
-#include "desktop/windows/GridTable.h"
-#include "desktop/windows/TableView.h"
+#include "desktop/kit/GridTable.h"
+#include "desktop/rating/TableView.h"
 #include "rating/RatingSeries.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <stdexcept>
 
 #include "app/Declarations.h"
-#include "app/WholeFile.h"
+#include "files/WholeFile.h"
 #include "platform/Services.h"
 
 namespace fs = std::filesystem;
@@ -40,3 +40,20 @@ void ExportFile(const ExportKind& kind,
                              BoxIcon::Exclamation, BoxButtons::Ok);
   }
 }
+
+namespace ChartPicture {
+
+void Copy(const XYChart& chart) {
+  TheServices().clipboard.Clear();
+  if (chart.CopyView) chart.CopyView();
+}
+
+void Export(const XYChart& chart, const std::string& title) {
+  ExportFile({title, "Picture (*.png)|*.png|Drawing (*.svg)|*.svg|Document (*.pdf)|*.pdf|All Files (*.*)|*.*",
+              "png"},
+             [&chart](const std::string& extension) {
+               return chart.PictureView ? chart.PictureView(extension) : "";
+             });
+}
+
+}  // namespace ChartPicture

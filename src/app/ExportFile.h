@@ -1,8 +1,10 @@
-// Saving what a window shows as a file of another program's kind.
+// Handing what a window shows to other programs: as a file of their kind, and charts on the clipboard too.
 #pragma once
 
 #include <functional>
 #include <string>
+
+#include "platform/XYChart.h"
 
 struct ExportKind {
   std::string Title;      ///< of the file dialog
@@ -14,3 +16,13 @@ struct ExportKind {
 /// file is there whole or not at all; a failure, an empty content included, is told in one message box.
 void ExportFile(const ExportKind& kind,
                 const std::function<std::string(const std::string& extension)>& content);
+
+namespace ChartPicture {
+
+/// Empties the clipboard and puts the picture there.
+void Copy(const XYChart& chart);
+
+/// Asks under this title for a file and writes the picture as its extension says: png, svg or pdf.
+void Export(const XYChart& chart, const std::string& title);
+
+}  // namespace ChartPicture

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 #include "platform/Services.h"
 
 /// Positions on the page, in twips.

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 #include "platform/FlexGrid.h"
 #include "platform/Services.h"
 #include "platform/XYChart.h"

@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 
 struct ReportLine {
   Label frmMain::*Caption;

@@ -2,9 +2,9 @@
 #include "program/Program.h"
 
 #include "app/Declarations.h"
-#include "app/InitialFile.h"
-#include "app/frmDigits.h"
-#include "app/frmMannParam.h"
+#include "app/main/frmDigits.h"
+#include "app/main/frmMannParam.h"
+#include "app/settings/InitialFile.h"
 #include "help/HTMLHelp.h"
 #include "help/frmAbout.h"
 #include "print/Print.h"

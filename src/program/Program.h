@@ -2,8 +2,8 @@
 // window.
 #pragma once
 
-#include "app/SubWindows.h"
-#include "app/frmMain.h"
+#include "app/main/SubWindows.h"
+#include "app/main/frmMain.h"
 #include "platform/Services.h"
 
 class Program : private SubWindows {

@@ -2,7 +2,7 @@
 // and the window unless the dialog was cancelled.
 #pragma once
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 
 void OpenRatingGraph(const frmMain& main);
 void OpenRatingTable(const frmMain& main);

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "app/Declarations.h"
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 #include "engine/ChannelState.h"
 
 /// An input that a series can vary.

@@ -2,7 +2,7 @@
 // and let the range be set anew.
 #pragma once
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 
 class RatingWindow : public Form {
  public:

@@ -1,8 +1,8 @@
 // See frmGraph.h.
 #include "rating/frmGraph.h"
 
-#include "app/ChartPicture.h"
 #include "app/Declarations.h"
+#include "app/ExportFile.h"
 #include "platform/Services.h"
 #include "print/Print.h"
 #include "rating/RatingColumn.h"

@@ -6,9 +6,9 @@
 #include <stdexcept>
 #include <vector>
 
-#include "app/FileNumber.h"
-#include "app/TextEncoding.h"
+#include "app/project/FileNumber.h"
 #include "engine/NumberText.h"
+#include "files/TextEncoding.h"
 
 namespace PointsCsv {
 

@@ -1,8 +1,8 @@
 // See frmSection.h.
 #include "section/frmSection.h"
 
-#include "app/ChartPicture.h"
 #include "app/Declarations.h"
+#include "app/ExportFile.h"
 #include "app/Units.h"
 #include "engine/ChannelState.h"
 #include "engine/NumberText.h"

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "app/frmMain.h"
+#include "app/main/frmMain.h"
 #include "platform/XYChart.h"
 #include "section/SectionTable.h"
 

@@ -1,5 +1,5 @@
 // The bytes of a project file, worked out by hand, and what is and is not read as one.
-#include "app/ProjectFile.h"
+#include "app/project/ProjectFile.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +10,11 @@
 #include <tuple>
 #include <utility>
 
-#include "app/ProjectItems.h"
-#include "app/TextEncoding.h"
 #include "app/Version.h"
+#include "app/project/ProjectItems.h"
 #include "engine/ChannelState.h"
 #include "engine/NumberText.h"
+#include "files/TextEncoding.h"
 
 namespace {
 

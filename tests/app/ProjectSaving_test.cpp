@@ -13,8 +13,8 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "app/ProjectFile.h"
-#include "app/SafeReplace.h"
+#include "app/project/ProjectFile.h"
+#include "files/SafeReplace.h"
 #include "support/TestFolder.h"
 
 namespace fs = std::filesystem;

@@ -7,9 +7,9 @@
 
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
-#include "app/InitialFile.h"
-#include "app/SettingsFile.h"
 #include "app/Units.h"
+#include "app/settings/InitialFile.h"
+#include "app/settings/SettingsFile.h"
 #include "engine/ChannelState.h"
 #include "support/FakeServices.h"
 #include "support/LocaleTest.h"

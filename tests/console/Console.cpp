@@ -4,7 +4,7 @@
 #include <map>
 
 #include "app/Declarations.h"
-#include "app/SettingsFile.h"
+#include "app/settings/SettingsFile.h"
 #include "console/Inspect.h"
 #include "console/Words.h"
 

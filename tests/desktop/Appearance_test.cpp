@@ -1,5 +1,5 @@
 // What is written in colours of our own can be read, on light, dark and high-contrast desktops.
-#include "desktop/Appearance.h"
+#include "desktop/kit/Appearance.h"
 
 #include <gtest/gtest.h>
 

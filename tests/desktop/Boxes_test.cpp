@@ -1,9 +1,9 @@
 // Text boxes: editing stays what a person knows, and colours tell inputs, answers and what cannot be used.
 #include <QClipboard>
 
-#include "desktop/Appearance.h"
 #include "desktop/Desk.h"
-#include "desktop/Text.h"
+#include "desktop/kit/Appearance.h"
+#include "desktop/kit/Text.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // The numbers on the axes of a chart are round, few enough, and spelled as the boxes spell them.
-#include "desktop/windows/ChartTicks.h"
+#include "desktop/chart/ChartTicks.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

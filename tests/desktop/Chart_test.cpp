@@ -9,9 +9,9 @@
 #include <memory>
 
 #include "desktop/WidgetHands.h"
-#include "desktop/windows/ChartPlot.h"
-#include "desktop/windows/ChartWidget.h"
-#include "desktop/windows/EmptyNote.h"
+#include "desktop/chart/ChartPlot.h"
+#include "desktop/chart/ChartWidget.h"
+#include "desktop/kit/EmptyNote.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 #include <QApplication>
 #include <QTest>
 
-#include "app/SettingsFile.h"
-#include "desktop/BoxEdit.h"
+#include "app/settings/SettingsFile.h"
 #include "desktop/WidgetHands.h"
+#include "desktop/kit/BoxEdit.h"
 #include "engine/ChannelState.h"
 #include "program/Program.h"
 #include "support/FakeServices.h"

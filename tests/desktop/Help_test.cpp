@@ -9,12 +9,12 @@
 #include <QTextBlock>
 #include <QWheelEvent>
 
-#include "desktop/Appearance.h"
 #include "desktop/Desk.h"
-#include "desktop/FrontWindow.h"
-#include "desktop/windows/HelpBrowser.h"
-#include "desktop/windows/QtHelpViewer.h"
-#include "desktop/windows/TopicTree.h"
+#include "desktop/help/HelpBrowser.h"
+#include "desktop/help/QtHelpViewer.h"
+#include "desktop/help/TopicTree.h"
+#include "desktop/kit/Appearance.h"
+#include "desktop/kit/FrontWindow.h"
 #include "help/HTMLHelp.h"
 
 #ifdef HELP_FILE

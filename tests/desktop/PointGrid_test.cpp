@@ -3,7 +3,7 @@
 #include <QScrollBar>
 
 #include "desktop/Desk.h"
-#include "desktop/windows/PointGrid.h"
+#include "desktop/section/PointGrid.h"
 #include "section/frmIrreg.h"
 
 namespace {

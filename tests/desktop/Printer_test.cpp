@@ -16,7 +16,7 @@
 
 #include "desktop/Desk.h"
 #include "desktop/Dialogs.h"
-#include "desktop/windows/QtPrinter.h"
+#include "desktop/print/QtPrinter.h"
 #include "print/Print.h"
 #include "rating/frmGraph.h"
 #include "rating/frmTable.h"

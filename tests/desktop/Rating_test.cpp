@@ -4,9 +4,9 @@
 #include <QStatusBar>
 
 #include "desktop/Desk.h"
-#include "desktop/windows/ChartWidget.h"
-#include "desktop/windows/EmptyNote.h"
-#include "desktop/windows/GridTable.h"
+#include "desktop/chart/ChartWidget.h"
+#include "desktop/kit/EmptyNote.h"
+#include "desktop/kit/GridTable.h"
 #include "rating/frmGraph.h"
 #include "rating/frmTable.h"
 #include "rating/frmTableSettings.h"

@@ -1,9 +1,9 @@
 // The drawing of a section: its water stands where the pools are, and what leaves the program is the same
 // drawing.
-#include "desktop/Appearance.h"
 #include "desktop/Desk.h"
-#include "desktop/windows/ChartPlot.h"
-#include "desktop/windows/ChartWidget.h"
+#include "desktop/chart/ChartPlot.h"
+#include "desktop/chart/ChartWidget.h"
+#include "desktop/kit/Appearance.h"
 #include "section/frmSection.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include <QTest>
 
 #include "desktop/Dialogs.h"
-#include "desktop/QtServices.h"
+#include "desktop/shell/QtServices.h"
 
 namespace {
 

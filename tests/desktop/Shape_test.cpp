@@ -5,7 +5,7 @@
 #include <QGuiApplication>
 #include <cmath>
 
-#include "desktop/ShapeLayout.h"
+#include "desktop/main/ShapeLayout.h"
 #include "engine/ChannelState.h"
 
 namespace {

@@ -16,7 +16,7 @@
 #include <QToolBar>
 #include <map>
 
-#include "desktop/Text.h"
+#include "desktop/kit/Text.h"
 #include "platform/Keys.h"
 
 namespace {

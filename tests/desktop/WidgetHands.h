@@ -7,14 +7,12 @@
 #include <utility>
 
 #include "console/Console.h"
-#include "desktop/QtWindowHost.h"
-#include "desktop/windows/Library.h"
+#include "desktop/shell/QtWindowHost.h"
 
 /// Real windows whose modal ones wait by calling a function, so that a test can go on.
 class TestHost : public QtWindowHost {
  public:
-  explicit TestHost(std::function<void(Form&)> wait)
-      : QtWindowHost([] { return &flumewiseWindows; }), wait_(std::move(wait)) {}
+  explicit TestHost(std::function<void(Form&)> wait) : wait_(std::move(wait)) {}
 
  protected:
   void WaitUntilUnloaded(Form& form) override { wait_(form); }

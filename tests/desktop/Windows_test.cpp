@@ -15,11 +15,11 @@
 
 #include "app/Declarations.h"
 #include "desktop/Desk.h"
-#include "desktop/ScrollPage.h"
-#include "desktop/ShapeWidget.h"
-#include "desktop/Text.h"
-#include "desktop/windows/ChartWidget.h"
-#include "desktop/windows/PointGrid.h"
+#include "desktop/chart/ChartWidget.h"
+#include "desktop/kit/ScrollPage.h"
+#include "desktop/kit/Text.h"
+#include "desktop/main/ShapeWidget.h"
+#include "desktop/section/PointGrid.h"
 #include "engine/NumberText.h"
 #include "help/frmAbout.h"
 
@@ -309,13 +309,6 @@ TEST_F(Windows, TheAboutBoxHasLinks) {
                 testing::HasSubstr("href=\"https://www.gnu.org/licenses/gpl-3.0.html\""));
     EXPECT_TRUE(licence->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
   });
-}
-
-TEST_F(Windows, OneThatCannotBeLoadedIsUnloadedAgain) {
-  QtWindowHost host([]() -> const OtherWindows* { return nullptr; });
-  frmAbout form;
-  host.ShowModal(form);
-  EXPECT_FALSE(form.IsLoaded());
 }
 
 TEST_F(Windows, TheTitleBarBoxAsksAndMayBeRefused) {

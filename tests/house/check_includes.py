@@ -7,20 +7,35 @@ import re
 import sys
 from pathlib import Path
 
-CALCULATOR = ["engine", "platform", "app"]
+# The rooms that each room may include besides itself.
+SHARED = ["engine", "platform", "files", "app"]
+KEPT = [*SHARED, "app/project", "app/settings"]
+CALCULATOR = [*KEPT, "app/main"]
+WINDOWS = [*CALCULATOR, "rating", "section", "print", "help"]
+FRONT = [*WINDOWS, "program"]
+FLOOR = ["desktop/kit", "desktop/main", "desktop/chart", "desktop/help"]
 MAY_INCLUDE = {
     "engine": [],
     "platform": [],
-    "app": ["engine", "platform"],
+    "files": [],
+    "app": ["engine", "platform", "files"],
+    "app/project": SHARED,
+    "app/settings": SHARED,
+    "app/main": KEPT,
     "section": CALCULATOR,
     "print": CALCULATOR,
     "help": CALCULATOR,
     "rating": ["print", *CALCULATOR],
-    "program": ["rating", "section", "print", "help", *CALCULATOR],
-    "desktop": ["program", "rating", "section", "print", "help", *CALCULATOR],
+    "program": WINDOWS,
+    "desktop/kit": FRONT,
+    "desktop/main": ["desktop/kit", *FRONT],
+    "desktop/chart": ["desktop/kit", *FRONT],
+    "desktop/help": ["desktop/kit", *FRONT],
+    "desktop/section": [*FLOOR, *FRONT],
+    "desktop/rating": [*FLOOR, *FRONT],
+    "desktop/print": [*FLOOR, *FRONT],
+    "desktop/shell": [*FLOOR, "desktop/section", "desktop/rating", "desktop/print", *FRONT],
 }
-# The windows that the program loads when the first of them is needed, with the libraries that they stand on.
-LOADED = "desktop/windows/"
 WITH_QT = ["src/desktop/", "tests/desktop/", "bench/desktop/"]
 QT = re.compile(r"Q[A-Z]|Qt|q[a-z]+\.h$|qcustomplot")
 STANDARD = set("""
@@ -32,8 +47,8 @@ STANDARD = set("""
     semaphore set shared_mutex source_location span sstream stack stdexcept stop_token streambuf string string_view
     strstream syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility
     valarray variant vector version""".split())
-# The one file that may ask the system itself: the standard library cannot flush a file to the disk or keep its rights.
-WITH_POSIX = "src/app/SafeReplace.cpp"
+# The one room that may ask the system itself: the standard library cannot flush a file to the disk or keep its rights.
+WITH_POSIX = "files"
 POSIX = {"fcntl.h", "sys/file.h", "sys/stat.h", "unistd.h"}
 DIRECTIVE = re.compile(r'^\s*#\s*include\s*(?:<([^>]*)>|"([^"]*)"|(.*))')
 
@@ -50,30 +65,33 @@ def includes(file):
             yield number, directive[1], directive[2]
 
 
+def room(path):
+    """The folder of a path below src: "app/main" of "app/main/frmMain.h"."""
+    return path.rpartition("/")[0]
+
+
 def fault_of_include(place, system, own):
-    folder = place.split("/")[1]
+    folder = room(place.removeprefix("src/"))
     if system is None and own is None:
         return "an include names its header in <> or quotes"
-    if folder == "desktop" and (system is not None or own.endswith(".moc")):
+    if folder.startswith("desktop") and (system is not None or own.endswith(".moc")):
         return None
     if system is not None:
-        if system in STANDARD or (place == WITH_POSIX and system in POSIX):
+        if system in STANDARD or (folder == WITH_POSIX and system in POSIX):
             return None
         return f"{folder} stands on the standard library alone, not <{system}>"
-    target = own.split("/")[0]
-    if "/" not in own or target not in MAY_INCLUDE:
+    target = room(own)
+    if target not in MAY_INCLUDE:
         return f'"{own}" does not begin with a folder of src'
     if target != folder and target not in MAY_INCLUDE[folder]:
         return f"{folder} may not include {target}"
-    if own.startswith(LOADED) and not place.startswith("src/" + LOADED):
-        return f"{LOADED} is loaded when the program runs"
     return None
 
 
 def faults_of_folders(root):
     for file in sources(root, "src"):
         place = file.relative_to(root)
-        folder = place.parts[1]
+        folder = room(str(place.relative_to("src")))
         if folder not in MAY_INCLUDE:
             yield f"{place}: no rule says what {folder} may include"
             continue

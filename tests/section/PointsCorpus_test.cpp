@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "../../fuzz/PointsRoundTrip.h"
-#include "app/WholeFile.h"
+#include "files/WholeFile.h"
 
 namespace {
 

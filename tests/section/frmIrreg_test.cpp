@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "app/Declarations.h"
-#include "app/WholeFile.h"
 #include "engine/ChannelState.h"
+#include "files/WholeFile.h"
 #include "support/FakeServices.h"
 #include "support/LocaleTest.h"
 #include "support/ScriptedHost.h"

@@ -1,0 +1,165 @@
+// The main window's controls: their captions, and which event runs which method. See frmMain.h.
+#include "app/main/frmMain.h"
+
+#include "app/Declarations.h"
+#include "app/FormStuff.h"
+#include "app/settings/InitialFile.h"
+#include "engine/ChannelState.h"
+
+frmMain::frmMain(SubWindows& windows) : Form("frmMain"), windows_(windows) {
+  CaptionControls();
+  JoinInputs();
+  JoinCommands();
+}
+
+void frmMain::CaptionControls() {
+  struct Text {
+    HasCaption& Of;
+    const char* Caption;
+  };
+  for (const Text& each : std::initializer_list<Text>{{lblProjName, "Project"},
+                                                      {lblFlow, "Flow"},
+                                                      {lblDepth, "Depth"},
+                                                      {lblSlope, "Slope"},
+                                                      {lblMann, "Manning's n"},
+                                                      {lblBaseWidth, "Base Width"},
+                                                      {lblSSL, "Left Side Slope"},
+                                                      {lblSSR, "Right Side Slope"},
+                                                      {lblDiameter, "Diameter"},
+                                                      {lblVelocity, "Velocity"},
+                                                      {lblVelHead, "Velocity Head"},
+                                                      {lblArea, "Flow Area"},
+                                                      {lblWP, "Wetted Perimeter"},
+                                                      {lblHRad, "Hydraulic Radius"},
+                                                      {lblTopW, "Top Width"},
+                                                      {lblFroude, "Froude Number"},
+                                                      {lblCritD, "Critical Depth"},
+                                                      {lblCritS, "Critical Slope"},
+                                                      {cmdMannParams, "Typical values..."},
+                                                      {cmdIrreg, "Edit points..."},
+                                                      {mnuFileNew, "New"},
+                                                      {mnuFileOpen, "Open..."},
+                                                      {mnuFileSave, "Save"},
+                                                      {mnuFileSaveAs, "Save As..."},
+                                                      {mnuFilePrint, "Print..."},
+                                                      {mnuFilePrintPreview, "Print Preview..."},
+                                                      {mnuFileExit, "Exit"},
+                                                      {mnuEditCut, "Cut"},
+                                                      {mnuEditCopy, "Copy"},
+                                                      {mnuEditPaste, "Paste"},
+                                                      {mnuEditDelete, "Delete"},
+                                                      {mnuSolveForFlow, "For Flow"},
+                                                      {mnuSolveForDepth, "For Depth"},
+                                                      {mnuSolveGraph, "Rating Graph..."},
+                                                      {mnuSolveTable, "Rating Table..."},
+                                                      {mnuSolveSection, "Cross Section..."},
+                                                      {mnuOptionsRect, ChannelTypes::Rectangular.data()},
+                                                      {mnuOptionsTriangular, ChannelTypes::Triangular.data()},
+                                                      {mnuOptionsTrap, ChannelTypes::Trapezoidal.data()},
+                                                      {mnuOptionsCircular, ChannelTypes::Circular.data()},
+                                                      {mnuOptionsIrreg, ChannelTypes::Irregular.data()},
+                                                      {mnuOptionsUnitsEnglish, "English Units"},
+                                                      {mnuOptionsUnitsMetric, "Metric Units"},
+                                                      {mnuOptionsDigits, "Digits..."},
+                                                      {mnuHelpContents, "Contents"},
+                                                      {mnuHelpIndex, "Index"},
+                                                      {mnuHelpAbout, "About Flumewise"}}) {
+    each.Of.Caption = each.Caption;
+  }
+}
+
+void frmMain::JoinInputs() {
+  for (TextBox* const box :
+       {&tbFlow, &tbDepth, &tbSlope, &tbMann, &tbBaseWidth, &tbSSL, &tbSSR, &tbDiameter}) {
+    // A result box changes with every answer; only an input box starts a computation or is tidied when left.
+    box->Change = [this, box] {
+      if (!box->Locked) Input_Change();
+    };
+    box->GotFocus = [box] {
+      if (!box->Locked) FormStuff::SelectAllText(*box);
+    };
+    box->Validate = [this, box] {
+      if (!box->Locked) Input_Validate();
+    };
+  }
+  for (TextBox* const box :
+       {&tbVelocity, &tbVelHead, &tbArea, &tbWP, &tbHRad, &tbTopW, &tbFroude, &tbCritD, &tbCritS}) {
+    box->Locked = true;
+    box->Bold = true;
+    box->BackColor = TextBox::LightYellow;
+  }
+  tbProjName.Change = [] { Declarations::DataChanged = true; };
+}
+
+void frmMain::JoinCommands() {
+  struct Command {
+    HasClick& Of;
+    void (frmMain::*Run)();
+  };
+  for (const Command& each :
+       std::initializer_list<Command>{{mnuFileNew, &frmMain::mnuFileNew_Click},
+                                      {Toolbar1.New, &frmMain::mnuFileNew_Click},
+                                      {mnuFileOpen, &frmMain::mnuFileOpen_Click},
+                                      {Toolbar1.Open, &frmMain::mnuFileOpen_Click},
+                                      {mnuFileSave, &frmMain::mnuFileSave_Click},
+                                      {Toolbar1.Save, &frmMain::mnuFileSave_Click},
+                                      {mnuFileSaveAs, &frmMain::mnuFileSaveAs_Click},
+                                      {mnuFilePrint, &frmMain::mnuFilePrint_Click},
+                                      {Toolbar1.Print, &frmMain::mnuFilePrint_Click},
+                                      {mnuFilePrintPreview, &frmMain::mnuFilePrintPreview_Click},
+                                      {mnuFileExit, &frmMain::mnuFileExit_Click},
+                                      {mnuEditCut, &frmMain::mnuEditCut_Click},
+                                      {mnuEditCopy, &frmMain::mnuEditCopy_Click},
+                                      {mnuEditPaste, &frmMain::mnuEditPaste_Click},
+                                      {mnuEditDelete, &frmMain::mnuEditDelete_Click},
+                                      {mnuSolveForFlow, &frmMain::mnuSolveForFlow_Click},
+                                      {mnuSolveForDepth, &frmMain::mnuSolveForDepth_Click},
+                                      {mnuSolveSection, &frmMain::mnuSolveSection_Click},
+                                      {Toolbar1.Section, &frmMain::mnuSolveSection_Click},
+                                      {mnuSolveGraph, &frmMain::mnuSolveGraph_Click},
+                                      {Toolbar1.Graph, &frmMain::mnuSolveGraph_Click},
+                                      {mnuSolveTable, &frmMain::mnuSolveTable_Click},
+                                      {Toolbar1.Table, &frmMain::mnuSolveTable_Click},
+                                      {mnuOptionsRect, &frmMain::mnuOptionsRect_Click},
+                                      {mnuOptionsTriangular, &frmMain::mnuOptionsTriangular_Click},
+                                      {mnuOptionsTrap, &frmMain::mnuOptionsTrap_Click},
+                                      {mnuOptionsCircular, &frmMain::mnuOptionsCircular_Click},
+                                      {mnuOptionsIrreg, &frmMain::mnuOptionsIrreg_Click},
+                                      {mnuOptionsUnitsEnglish, &frmMain::mnuOptionsUnitsEnglish_Click},
+                                      {mnuOptionsUnitsMetric, &frmMain::mnuOptionsUnitsMetric_Click},
+                                      {mnuOptionsDigits, &frmMain::mnuOptionsDigits_Click},
+                                      {mnuHelpContents, &frmMain::mnuHelpContents_Click},
+                                      {mnuHelpIndex, &frmMain::mnuHelpIndex_Click},
+                                      {mnuHelpAbout, &frmMain::mnuHelpAbout_Click},
+                                      {cmdIrreg, &frmMain::cmdIrreg_Click},
+                                      {cmdMannParams, &frmMain::cmdMannParams_Click}}) {
+    each.Of.Click = [this, run = each.Run] { (this->*run)(); };
+  }
+}
+
+void frmMain::Form_Load() {
+  SetUnitsEorM();
+  ResetForm();
+}
+
+void frmMain::Form_Activate() {
+  ToggleControls();
+  CheckInputs();
+}
+
+bool frmMain::Form_QueryUnload() {
+  if (!ChecknSave()) return false;
+  InitialFile::SavePreferences();
+  windows_.CloseHelp();
+  return true;
+}
+
+void frmMain::mnuHelpContents_Click() {
+  windows_.OpenHelpContents();
+}
+void frmMain::mnuHelpIndex_Click() {
+  windows_.OpenHelpIndex();
+}
+void frmMain::mnuHelpAbout_Click() {
+  windows_.OpenAbout();
+}

@@ -1,0 +1,175 @@
+// The main window: one channel problem typed in, checked and solved at every keystroke, and the commands
+// around it.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "app/main/SubWindows.h"
+#include "app/project/ProjectFile.h"
+#include "platform/Controls.h"
+
+class frmMain : public Form {
+ public:
+  explicit frmMain(SubWindows& windows);
+
+  Label lblProjName{this, "lblProjName"}, lblChanType{this, "lblChanType"};
+  TextBox tbProjName{this, "tbProjName"};
+
+  // Inputs; of flow and depth the one not solved for.
+  Label lblFlow{this, "lblFlow"}, lblDepth{this, "lblDepth"}, lblSlope{this, "lblSlope"},
+      lblMann{this, "lblMann"}, lblBaseWidth{this, "lblBaseWidth"}, lblSSL{this, "lblSSL"},
+      lblSSR{this, "lblSSR"}, lblDiameter{this, "lblDiameter"};
+  TextBox tbFlow{this, "tbFlow"}, tbDepth{this, "tbDepth"}, tbSlope{this, "tbSlope"}, tbMann{this, "tbMann"},
+      tbBaseWidth{this, "tbBaseWidth"}, tbSSL{this, "tbSSL"}, tbSSR{this, "tbSSR"},
+      tbDiameter{this, "tbDiameter"};
+  Label lblFlowUnits{this, "lblFlowUnits"}, lblDepthUnits{this, "lblDepthUnits"},
+      lblSlopeUnits{this, "lblSlopeUnits"}, lblBaseWidthUnits{this, "lblBaseWidthUnits"},
+      lblDiameterUnits{this, "lblDiameterUnits"};
+  Button cmdMannParams{this, "cmdMannParams"}, cmdIrreg{this, "cmdIrreg"};
+
+  // Results.
+  Label lblVelocity{this, "lblVelocity"}, lblVelHead{this, "lblVelHead"}, lblArea{this, "lblArea"},
+      lblWP{this, "lblWP"}, lblHRad{this, "lblHRad"}, lblTopW{this, "lblTopW"}, lblFroude{this, "lblFroude"},
+      lblCritD{this, "lblCritD"}, lblCritS{this, "lblCritS"};
+  TextBox tbVelocity{this, "tbVelocity"}, tbVelHead{this, "tbVelHead"}, tbArea{this, "tbArea"},
+      tbWP{this, "tbWP"}, tbHRad{this, "tbHRad"}, tbTopW{this, "tbTopW"}, tbFroude{this, "tbFroude"},
+      tbCritD{this, "tbCritD"}, tbCritS{this, "tbCritS"};
+  Label lblVelocityUnits{this, "lblVelocityUnits"}, lblVelHeadUnits{this, "lblVelHeadUnits"},
+      lblFlowAreaUnits{this, "lblFlowAreaUnits"}, lblWPunits{this, "lblWPunits"},
+      lblHRadUnits{this, "lblHRadUnits"}, lblTopWUnits{this, "lblTopWUnits"},
+      lblCritdUnits{this, "lblCritdUnits"}, lblCritSUnits{this, "lblCritSUnits"};
+
+  /// Why there is no result, in words; else what was solved.
+  Label lblStatus{this, "lblStatus"};
+
+  MenuItem mnuFileNew{this, "mnuFileNew"}, mnuFileOpen{this, "mnuFileOpen"}, mnuFileSave{this, "mnuFileSave"},
+      mnuFileSaveAs{this, "mnuFileSaveAs"}, mnuFilePrint{this, "mnuFilePrint"},
+      mnuFilePrintPreview{this, "mnuFilePrintPreview"}, mnuFileExit{this, "mnuFileExit"};
+  MenuItem mnuEditCut{this, "mnuEditCut"}, mnuEditCopy{this, "mnuEditCopy"},
+      mnuEditPaste{this, "mnuEditPaste"}, mnuEditDelete{this, "mnuEditDelete"};
+  MenuItem mnuSolveForFlow{this, "mnuSolveForFlow"}, mnuSolveForDepth{this, "mnuSolveForDepth"},
+      mnuSolveGraph{this, "mnuSolveGraph"}, mnuSolveTable{this, "mnuSolveTable"},
+      mnuSolveSection{this, "mnuSolveSection"};
+  MenuItem mnuOptionsRect{this, "mnuOptionsRect"}, mnuOptionsTriangular{this, "mnuOptionsTriangular"},
+      mnuOptionsTrap{this, "mnuOptionsTrap"}, mnuOptionsCircular{this, "mnuOptionsCircular"},
+      mnuOptionsIrreg{this, "mnuOptionsIrreg"}, mnuOptionsUnitsEnglish{this, "mnuOptionsUnitsEnglish"},
+      mnuOptionsUnitsMetric{this, "mnuOptionsUnitsMetric"}, mnuOptionsDigits{this, "mnuOptionsDigits"};
+  MenuItem mnuHelpContents{this, "mnuHelpContents"}, mnuHelpIndex{this, "mnuHelpIndex"},
+      mnuHelpAbout{this, "mnuHelpAbout"};
+
+  struct {
+    ToolButton New, Open, Save, Print, Graph, Table, Section;
+  } Toolbar1{{this, "Toolbar1.New"},    {this, "Toolbar1.Open"},  {this, "Toolbar1.Save"},
+             {this, "Toolbar1.Print"},  {this, "Toolbar1.Graph"}, {this, "Toolbar1.Table"},
+             {this, "Toolbar1.Section"}};
+
+  // Check and solve (frmMainSolve.cpp).
+  /// Tests every input of the channel type, computes or clears the results, enables the commands that need
+  /// them.
+  void CheckInputs();
+  /// Copies the input boxes into the problem record, in feet and seconds.
+  void InputToGlobal();
+  /// A pipe typed full is full: the same length typed as depth and as diameter differs in its last bits.
+  static void FillPipe();
+  /// Runs the engine and fills the result boxes; EngineFault when the inputs have no solution.
+  void ComputeResults();
+  void ClearResults();
+  void EnablePrint(bool enabled);
+
+  // What is shown (frmMainView.cpp).
+  /// Shows the boxes of the channel type and gives flow and depth the look of input and result.
+  void ToggleControls();
+  /// Unit captions and check marks of the unit system in force.
+  void SetUnitsEorM();
+
+  // Inputs as texts (frmMainInputs.cpp).
+  /// Rewrites the typed inputs after the unit system has changed.
+  void ConvertInput();
+  void FormatInputs();
+  /// A new, empty project.
+  void ResetForm();
+
+  // Project (frmMainFile.cpp).
+  /// True when the project in work may be let go: unchanged, saved, or given up by the person.
+  bool ChecknSave();
+  /// True when the project was written to its file.
+  bool FileSave();
+  /// Asks for a name and saves. False when the person cancels or the file cannot be written: then everything
+  /// is as before.
+  bool SaveAsDialog();
+  /// Fills the boxes from a project file. False, with a message and nothing changed, when it is no whole
+  /// project.
+  bool FileOpen(const std::string& path);
+  /// Opens a file as the project in work, in place of the one before.
+  void OpenProject(const std::string& path);
+  /// Likewise, when the project before may be let go: a file dropped on the window.
+  void OpenInstead(const std::string& path);
+  /// Takes up a kept copy of unsaved work, which still has no file of its own.
+  void RecoverProject(const std::string& path);
+  ProjectFile::Project CurrentProject() const;
+
+  // Commands: a menu item and the tool button of the same role run the same one.
+  void mnuFileNew_Click();
+  void mnuFileOpen_Click();
+  void mnuFileSave_Click();
+  void mnuFileSaveAs_Click();
+  void mnuFilePrint_Click();
+  void mnuFilePrintPreview_Click();
+  void mnuFileExit_Click();
+  void mnuEditCut_Click();
+  void mnuEditCopy_Click();
+  void mnuEditPaste_Click();
+  void mnuEditDelete_Click();
+  void mnuOptionsRect_Click();
+  void mnuOptionsTriangular_Click();
+  void mnuOptionsTrap_Click();
+  void mnuOptionsCircular_Click();
+  void mnuOptionsIrreg_Click();
+  void mnuOptionsUnitsEnglish_Click();
+  void mnuOptionsUnitsMetric_Click();
+  void mnuOptionsDigits_Click();
+  void mnuSolveForFlow_Click();
+  void mnuSolveForDepth_Click();
+  void mnuSolveGraph_Click();
+  void mnuSolveTable_Click();
+  void mnuSolveSection_Click();
+  void mnuHelpContents_Click();
+  void mnuHelpIndex_Click();
+  void mnuHelpAbout_Click();
+  void cmdMannParams_Click();
+  void cmdIrreg_Click();
+
+  void Form_Activate() override;
+
+ protected:
+  void Form_Load() override;
+  bool Form_QueryUnload() override;
+
+ private:
+  void CaptionControls();
+  void JoinInputs();
+  void JoinCommands();
+  void Input_Change();
+  void Input_Validate();
+  bool SaveProject();
+  void ShowProject();
+  void ShowTitle();
+  void SelectChannelType(std::string_view type);
+  void SelectSolveForFlow(bool solveForFlow);
+  void SelectUnits(int units);
+  /// The types without side slopes or without a base width hold "0" in the boxes that they do not ask for.
+  void WriteHiddenZeros();
+  /// A change that is no edit of a box counts as one when the project has a file to differ from.
+  void MarkProjectChanged();
+
+  /// Marks the boxes that cannot be used and returns the reason of the first; empty when all can.
+  std::string MarkOffences();
+  std::string WaterSurfaceOffence() const;
+  /// What to tell after the engine has run: why there is no result, or what was solved.
+  std::string Outcome() const;
+  std::string CriticalSlopeNote() const;
+
+  SubWindows& windows_;
+  bool loading_ = false;  // boxes are being filled: their Change events neither compute nor clear
+};

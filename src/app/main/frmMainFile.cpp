@@ -1,0 +1,183 @@
+// The project in work: new, opened, saved or let go. See frmMain.h.
+#include <exception>
+
+#include "app/Declarations.h"
+#include "app/main/Loading.h"
+#include "app/main/frmMain.h"
+#include "app/project/ProjectFile.h"
+#include "engine/ChannelState.h"
+#include "platform/Services.h"
+
+namespace {
+
+struct ProjectBox {
+  TextBox frmMain::*Box;
+  std::string ProjectFile::Project::*Text;
+};
+
+constexpr ProjectBox ProjectBoxes[] = {
+    {&frmMain::tbFlow, &ProjectFile::Project::Flow},
+    {&frmMain::tbDepth, &ProjectFile::Project::Depth},
+    {&frmMain::tbMann, &ProjectFile::Project::ManningN},
+    {&frmMain::tbSlope, &ProjectFile::Project::Slope},
+    {&frmMain::tbDiameter, &ProjectFile::Project::Diameter},
+    {&frmMain::tbBaseWidth, &ProjectFile::Project::BaseWidth},
+    {&frmMain::tbSSR, &ProjectFile::Project::SideSlopeRight},
+    {&frmMain::tbSSL, &ProjectFile::Project::SideSlopeLeft},
+    {&frmMain::tbProjName, &ProjectFile::Project::ProjName},
+};
+
+constexpr const char* Filter = "Flumewise Data (*.fwd)|*.fwd|All Files (*.*)|*.*";
+
+void Complain(const char* text) {
+  TheServices().messageBox.Show(text, Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);
+}
+
+/// The project's file from now on; the dialogs start in its folder.
+void TakePath(const std::string& path) {
+  const std::size_t name = path.rfind('/') + 1;
+  Declarations::FilePath = path;
+  Declarations::FileTitle = path.substr(name);
+  Declarations::UserPath = path.substr(0, name);
+}
+
+}  // namespace
+
+void frmMain::ShowTitle() {
+  Caption = std::string(Declarations::AppTitle) + " - " + Declarations::FileTitle;
+}
+
+bool frmMain::ChecknSave() {
+  if (!Declarations::DataChanged) return true;
+  const BoxAnswer answer =
+      TheServices().messageBox.Show("Save changes to " + Declarations::FilePath + "?", Declarations::AppTitle,
+                                    BoxIcon::Exclamation, BoxButtons::YesNoCancel);
+  if (answer == BoxAnswer::Yes) return SaveProject();
+  return answer == BoxAnswer::No;
+}
+
+bool frmMain::SaveProject() {
+  return Declarations::FileTitle == Declarations::Untitled ? SaveAsDialog() : FileSave();
+}
+
+bool frmMain::FileSave() {
+  try {
+    ProjectFile::Write(Declarations::FilePath, CurrentProject());
+  } catch (const std::exception&) {
+    Complain("File not saved; data corrupted.");
+    return false;
+  }
+  Declarations::DataChanged = false;
+  return true;
+}
+
+bool frmMain::SaveAsDialog() {
+  const auto path = TheServices().fileDialog.Choose(
+      {true, "File SaveAs", Declarations::UserPath, Filter, Declarations::FileTitle});
+  if (!path) return false;
+  const std::string before[] = {Declarations::FilePath, Declarations::FileTitle, Declarations::UserPath};
+  TakePath(*path);
+  const bool saved = FileSave();
+  if (!saved) {
+    Declarations::FilePath = before[0];
+    Declarations::FileTitle = before[1];
+    Declarations::UserPath = before[2];
+  }
+  ShowTitle();
+  return saved;
+}
+
+ProjectFile::Project frmMain::CurrentProject() const {
+  const ChannelRecord& record = ChannelState;
+  ProjectFile::Project project;
+  for (const ProjectBox& each : ProjectBoxes) project.*each.Text = (this->*each.Box).Text;
+  project.ChannelType = record.ChannelType;
+  project.SolveForFlow = record.SolveForFlow;
+  project.UnitsEorM = record.UnitsEorM;
+  project.SigDigs = Declarations::SigDigs;
+  project.EngDigs = Declarations::EngDigs;
+  for (std::size_t row = 1; row <= static_cast<std::size_t>(record.IrregPointCount); ++row) {
+    const auto& point = record.IrregPoints[row];
+    project.Points.push_back({point[1], point[2], point[3]});
+  }
+  return project;
+}
+
+bool frmMain::FileOpen(const std::string& path) {
+  ProjectFile::Project project;
+  try {
+    project = ProjectFile::Read(path);
+  } catch (const std::exception&) {
+    Complain("Cannot open entire file.");
+    return false;
+  }
+  const Loading loading(loading_);
+  ChannelRecord& record = ChannelState;
+  record.ChannelType = project.ChannelType;
+  record.SolveForFlow = project.SolveForFlow;
+  record.UnitsEorM = project.UnitsEorM;
+  Declarations::SigDigs = project.SigDigs;
+  Declarations::EngDigs = project.EngDigs;
+  for (const ProjectBox& each : ProjectBoxes) (this->*each.Box).Text = project.*each.Text;
+  EmptySection();
+  for (const auto& [station, elevation, roughness] : project.Points) {
+    auto& point = record.IrregPoints[static_cast<std::size_t>(++record.IrregPointCount)];
+    point[1] = station;
+    point[2] = elevation;
+    point[3] = roughness;
+  }
+  Declarations::DataChanged = false;
+  return true;
+}
+
+void frmMain::OpenProject(const std::string& path) {
+  if (!FileOpen(path)) return;
+  TakePath(path);
+  ShowProject();
+}
+
+void frmMain::RecoverProject(const std::string& path) {
+  if (!FileOpen(path)) return;
+  Declarations::FilePath = Declarations::FileTitle = Declarations::Untitled;
+  ShowProject();
+  Declarations::DataChanged = true;
+}
+
+void frmMain::ShowProject() {
+  ShowTitle();
+  ToggleControls();
+  SetUnitsEorM();
+  CheckInputs();
+  FormatInputs();
+  Declarations::DataChanged = false;  // tidied texts are no edit
+}
+
+void frmMain::OpenInstead(const std::string& path) {
+  if (ChecknSave()) OpenProject(path);
+}
+
+void frmMain::mnuFileNew_Click() {
+  if (ChecknSave()) ResetForm();
+}
+
+void frmMain::mnuFileOpen_Click() {
+  if (!ChecknSave()) return;
+  const auto path = TheServices().fileDialog.Choose({false, "File Open", Declarations::UserPath, Filter, ""});
+  if (path) OpenProject(*path);
+}
+
+void frmMain::mnuFileSave_Click() {
+  SaveProject();
+}
+void frmMain::mnuFileSaveAs_Click() {
+  SaveAsDialog();
+}
+void frmMain::mnuFilePrint_Click() {
+  windows_.PrintReport();
+}
+void frmMain::mnuFilePrintPreview_Click() {
+  windows_.PreviewReport();
+}
+void frmMain::mnuFileExit_Click() {
+  Unload();
+}

@@ -1,0 +1,56 @@
+// See frmMannParam.h.
+#include "app/main/frmMannParam.h"
+
+#include "app/NumberDisplay.h"
+#include "engine/NumberText.h"
+
+namespace {
+
+struct Roughness {
+  const char* Line;
+  double Value;
+};
+
+constexpr Roughness TypicalValues[] = {
+    {"0.011   Plastic or Welded Steel Surface", 0.011},
+    {"0.013   Concrete Channel or Pipe", 0.013},
+    {"0.024   Corrugated Metal", 0.024},
+    {"0.025   Excavated Gravel Channel", 0.025},
+    {"0.030   Natural Stream (Clean)", 0.030},
+    {"0.035   Natural Stream (Small Stones)", 0.035},
+    {"0.050   Natural Stream (Mountain)", 0.050},
+    {"0.100   Natural Stream (Floodway)", 0.100},
+};
+
+}  // namespace
+
+frmMannParam::frmMannParam(frmMain& main) : Form("frmMannParam"), main_(main) {
+  Caption = "Manning Roughness Values";
+  cmdOK.Caption = "OK";
+  cmdCancel.Caption = "Cancel";
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdCancel.Click = [this] { cmdCancel_Click(); };
+  lstMannParam.DblClick = [this] { cmdOK_Click(); };
+}
+
+void frmMannParam::Form_Load() {
+  std::vector<std::string> lines;
+  int current = 0;
+  const double typed = LeadingNumber(main_.tbMann.Text.Get());
+  for (const Roughness& each : TypicalValues) {
+    if (typed == each.Value) current = static_cast<int>(lines.size());
+    lines.emplace_back(each.Line);
+  }
+  lstMannParam.Items = lines;
+  lstMannParam.ListIndex = current;
+}
+
+void frmMannParam::cmdOK_Click() {
+  const int line = lstMannParam.ListIndex;
+  if (line >= 0) main_.tbMann.Text = FixedFormat(TypicalValues[line].Value, 1, 3).Text();
+  Unload();
+}
+
+void frmMannParam::cmdCancel_Click() {
+  Unload();
+}

@@ -1,0 +1,30 @@
+// The widget of a text box: a line edit that shows the box and tells it what is typed and selected.
+#pragma once
+
+#include <QLineEdit>
+
+#include "platform/Controls.h"
+
+class BoxEdit : public QLineEdit {
+ public:
+  BoxEdit(TextBox& box, QWidget* parent);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void ShowText();
+  void ShowSelection();
+  void ShowLook();
+  void TellSelection();
+
+  TextBox& box_;
+  bool focusedByPress_ = false;
+  bool selectOnRelease_ = false;
+};

@@ -1,0 +1,102 @@
+// See FieldPanel.h.
+#include "desktop/kit/FieldPanel.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <algorithm>
+
+#include "desktop/kit/Bind.h"
+#include "desktop/kit/Symbol.h"
+#include "desktop/kit/Text.h"
+
+namespace {
+
+enum Column { CaptionColumn, SymbolColumn, BoxColumn, UnitColumn };
+
+QString SymbolOf(const FieldPanel::Field& field) {
+  const QString symbols = QLatin1String(field.Symbol);
+  const bool elevation = field.Caption.Caption.Get().find("WSElev") != std::string::npos;
+  return symbols.section(QLatin1Char('|'), elevation ? -1 : 0, elevation ? -1 : 0);
+}
+
+/// What a screen reader adds to the name of the box: its unit, and why it cannot be used.
+QString Description(const FieldPanel::Field& field) {
+  QStringList parts;
+  if (field.Unit != nullptr) parts << Printed(field.Unit->Caption.Get());
+  if (field.FixedUnit != nullptr) parts << QLatin1String(field.FixedUnit);
+  parts << ToQt(field.Box.ToolTip.Get());
+  parts.removeAll(QString());
+  return parts.join(QLatin1String(", "));
+}
+
+}  // namespace
+
+FieldPanel::FieldPanel(QLabel* heading, QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
+  QFont font = heading->font();
+  font.setBold(true);
+  font.setPointSizeF(font.pointSizeF() * 1.15);
+  heading->setFont(font);
+  grid_->setContentsMargins(0, 0, 0, 0);
+  grid_->setColumnStretch(BoxColumn, 1);
+  grid_->setHorizontalSpacing(fontMetrics().averageCharWidth());
+  grid_->addWidget(heading, 0, 0, 1, 4);
+}
+
+int FieldPanel::Row() const {
+  return grid_->rowCount();
+}
+
+BoxEdit* FieldPanel::AddField(const Field& field) {
+  const int row = Row();
+  QLabel* const caption = Bind::Caption(field.Caption, this, field.Letters);
+  BoxEdit* const box = Bind::Box(field.Box, this);
+  caption->setBuddy(box);
+  box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* const symbol = new QLabel(this);
+  auto* const unit = field.Unit != nullptr ? Bind::Caption(*field.Unit, this) : new QLabel(this);
+  if (field.FixedUnit != nullptr) unit->setText(QLatin1String(field.FixedUnit));
+  Bind::Follow(field.Caption.Caption, this,
+               [field, symbol] { symbol->setText(SymbolAsRichText(SymbolOf(field))); });
+  Bind::Follow(field.Caption.Visible, this, [field, symbol, unit] {
+    symbol->setVisible(field.Caption.Visible);
+    if (field.Unit == nullptr) unit->setVisible(field.Caption.Visible);
+  });
+  const auto describe = [field, box] { box->setAccessibleDescription(Description(field)); };
+  Bind::Follow(field.Box.ToolTip, this, describe);
+  if (field.Unit != nullptr) {
+    Bind::Follow(field.Unit->Caption, this, [field, unit, describe] {
+      unit->setText(Printed(field.Unit->Caption.Get()));
+      describe();
+    });
+  }
+  grid_->addWidget(caption, row, CaptionColumn);
+  grid_->addWidget(symbol, row, SymbolColumn);
+  grid_->addWidget(box, row, BoxColumn);
+  grid_->addWidget(unit, row, UnitColumn);
+  return box;
+}
+
+void FieldPanel::AddUnderBox(QWidget* widget) {
+  grid_->addWidget(widget, Row(), BoxColumn, 1, 2, Qt::AlignLeft);
+}
+
+void FieldPanel::KeepRoom(int unitWidth) {
+  int captionWidth = 0;
+  // The widest comes and goes with its caption; drawn, it is wider than its letters by a pixel or so.
+  int symbolWidth = fontMetrics().horizontalAdvance(QStringLiteral("Wc "));
+  for (int row = 1; row < Row(); ++row) {
+    if (const QLayoutItem* const item = grid_->itemAtPosition(row, CaptionColumn)) {
+      captionWidth = std::max(captionWidth, item->widget()->sizeHint().width());
+      const QWidget* const symbol = grid_->itemAtPosition(row, SymbolColumn)->widget();
+      symbolWidth = std::max(symbolWidth, symbol->sizeHint().width());
+    }
+  }
+  grid_->setColumnMinimumWidth(SymbolColumn, symbolWidth);
+  grid_->setColumnMinimumWidth(CaptionColumn, captionWidth);
+  grid_->setColumnMinimumWidth(UnitColumn, unitWidth);
+  grid_->setColumnMinimumWidth(BoxColumn, fontMetrics().horizontalAdvance(QStringLiteral("12,345,678.901")));
+}
+
+void FieldPanel::SetAiriness(int spacing) {
+  grid_->setVerticalSpacing(spacing);
+}

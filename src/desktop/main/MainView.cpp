@@ -1,0 +1,210 @@
+// See MainView.h; its menus and tools are in MainViewCommands.cpp.
+#include "desktop/main/MainView.h"
+
+#include <QDragEnterEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "app/Declarations.h"
+#include "app/Units.h"
+#include "desktop/kit/Appearance.h"
+#include "desktop/kit/Bind.h"
+#include "desktop/kit/FieldPanel.h"
+#include "desktop/kit/LineIcon.h"
+#include "desktop/kit/Text.h"
+#include "desktop/main/ReflowArea.h"
+#include "desktop/main/ShapeWidget.h"
+
+namespace {
+
+struct FieldRow {
+  Label frmMain::*Caption;
+  TextBox frmMain::*Box;
+  Label frmMain::*Unit;
+  const char* FixedUnit;
+  const char* Symbol;
+  const char* Letters;  // unique in the window, the menu titles (F, E, S, O, H) included
+};
+
+constexpr FieldRow FlowRows[] = {
+    {&frmMain::lblFlow, &frmMain::tbFlow, &frmMain::lblFlowUnits, nullptr, "Q", "w"},
+    {&frmMain::lblDepth, &frmMain::tbDepth, &frmMain::lblDepthUnits, nullptr, "y|W", "dv"},
+    {&frmMain::lblSlope, &frmMain::tbSlope, &frmMain::lblSlopeUnits, nullptr, "S", "p"},
+    {&frmMain::lblMann, &frmMain::tbMann, nullptr, nullptr, "n", "m"},
+};
+
+constexpr FieldRow ShapeRows[] = {
+    {&frmMain::lblDiameter, &frmMain::tbDiameter, &frmMain::lblDiameterUnits, nullptr, "D", "a"},
+    {&frmMain::lblBaseWidth, &frmMain::tbBaseWidth, &frmMain::lblBaseWidthUnits, nullptr, "b", "b"},
+    {&frmMain::lblSSL, &frmMain::tbSSL, nullptr, ":1", "z_L", "l"},
+    {&frmMain::lblSSR, &frmMain::tbSSR, nullptr, ":1", "z_R", "r"},
+};
+
+constexpr FieldRow ResultRows[] = {
+    {&frmMain::lblVelocity, &frmMain::tbVelocity, &frmMain::lblVelocityUnits, nullptr, "V", ""},
+    {&frmMain::lblVelHead, &frmMain::tbVelHead, &frmMain::lblVelHeadUnits, nullptr, "h_v", ""},
+    {&frmMain::lblArea, &frmMain::tbArea, &frmMain::lblFlowAreaUnits, nullptr, "A", ""},
+    {&frmMain::lblWP, &frmMain::tbWP, &frmMain::lblWPunits, nullptr, "P", ""},
+    {&frmMain::lblHRad, &frmMain::tbHRad, &frmMain::lblHRadUnits, nullptr, "R", ""},
+    {&frmMain::lblTopW, &frmMain::tbTopW, &frmMain::lblTopWUnits, nullptr, "T", ""},
+    {&frmMain::lblFroude, &frmMain::tbFroude, nullptr, nullptr, "Fr", ""},
+    {&frmMain::lblCritD, &frmMain::tbCritD, &frmMain::lblCritdUnits, nullptr, "y_c|W_c", ""},
+    {&frmMain::lblCritS, &frmMain::tbCritS, &frmMain::lblCritSUnits, nullptr, "S_c", ""},
+};
+
+template <std::size_t Count>
+void AddRows(FieldPanel& panel, frmMain& form, const FieldRow (&rows)[Count]) {
+  for (const FieldRow& row : rows) {
+    panel.AddField({form.*row.Caption, form.*row.Box, row.Unit == nullptr ? nullptr : &(form.*row.Unit),
+                    row.FixedUnit, row.Symbol, row.Letters});
+  }
+}
+
+/// The room that the widest unit takes.
+int UnitWidth(const QFontMetrics& letters) {
+  QStringList units;
+  for (const int system : {Units::English, Units::Metric}) {
+    for (int quantity = Units::Length; quantity <= Units::Dimensionless; ++quantity) {
+      units << Printed(UnitLabel(system, quantity));
+    }
+  }
+  units.removeDuplicates();
+  int width = 0;
+  for (const QString& unit : units) width = std::max(width, letters.horizontalAdvance(unit));
+  return width + 1;
+}
+
+struct Sign {
+  const char* Icon;
+  const char* Words;
+  QColor (*Colour)(const QPalette&);
+};
+constexpr Sign Solved{"solved", "Solved", Appearance::Good};
+constexpr Sign Missing{"missing", "To be filled in", Appearance::Neutral};
+constexpr Sign Wrong{"wrong", "Cannot be used", Appearance::Bad};
+
+const Sign& StatusOf(const frmMain& form) {
+  if (!form.tbArea.Text.Get().empty()) return Solved;
+  bool missing = false;
+  bool wrong = false;
+  for (const TextBox* const box : {&form.tbFlow, &form.tbDepth, &form.tbSlope, &form.tbMann, &form.tbDiameter,
+                                   &form.tbBaseWidth, &form.tbSSL, &form.tbSSR}) {
+    if (box->Locked || !box->Visible) continue;
+    missing = missing || box->Text.Get().empty();
+    wrong = wrong || box->Offending;
+  }
+  return missing && !wrong ? Missing : Wrong;
+}
+
+/// The project file that is being dragged; empty when it is anything else.
+QString DraggedProject(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  if (urls.size() != 1) return {};
+  const QString path = urls.first().toLocalFile();
+  return path.endsWith(QLatin1String(".fwd"), Qt::CaseInsensitive) ? path : QString();
+}
+
+}  // namespace
+
+MainView::MainView(frmMain& form, QWidget* parent) : QMainWindow(parent), form_(form) {
+  AddMenus();
+  AddTools();
+  auto* const central = new QWidget(this);
+  auto* const page = new QWidget(central);
+  auto* const top = ProjectRow(page);
+  auto* const inputs = Inputs(page);
+  auto* const drawing = new ShapeWidget(form, page);
+  auto* const results = Results(page);
+  const int unitWidth = UnitWidth(fontMetrics());
+  for (FieldPanel* const panel : {inputs, results}) panel->KeepRoom(unitWidth);
+  auto* const column = new QVBoxLayout(central);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(new ReflowArea(page, {top, inputs, drawing, results}, central), 1);
+  column->addWidget(StatusLine());
+  setCentralWidget(central);
+  Bind::Join(Declarations::DataChanged, this,
+             [](MainView& view, bool changed) { view.setWindowModified(changed); });
+  setAcceptDrops(true);
+  findChild<QWidget*>(ToQt((form.tbFlow.Locked ? form.tbDepth : form.tbFlow).Name()))->setFocus();
+  PlaceOnScreen();
+}
+
+void MainView::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DraggedProject(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainView::dropEvent(QDropEvent* event) {
+  const QString path = DraggedProject(*event->mimeData());
+  event->acceptProposedAction();
+  // Afterwards: opening may ask something, and the program dragged from waits for the drop to end.
+  QTimer::singleShot(0, this, [this, path] { form_.OpenInstead(FromQt(path)); });
+}
+
+QWidget* MainView::ProjectRow(QWidget* parent) {
+  auto* const row = new QWidget(parent);
+  auto* const layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  QLabel* const caption = Bind::Caption(form_.lblProjName, row, "j");
+  BoxEdit* const box = Bind::Box(form_.tbProjName, row);
+  caption->setBuddy(box);
+  layout->addWidget(caption);
+  layout->addWidget(box);
+  return row;
+}
+
+FieldPanel* MainView::Inputs(QWidget* parent) {
+  auto* const panel = new FieldPanel(Bind::Caption(form_.lblChanType, parent), parent);
+  AddRows(*panel, form_, FlowRows);
+  panel->AddUnderBox(Bind::Push(form_.cmdMannParams, panel, "t"));
+  AddRows(*panel, form_, ShapeRows);
+  panel->AddUnderBox(Bind::Push(form_.cmdIrreg, panel, "i"));
+  return panel;
+}
+
+FieldPanel* MainView::Results(QWidget* parent) {
+  auto* const panel = new FieldPanel(new QLabel(QStringLiteral("Results"), parent), parent);
+  AddRows(*panel, form_, ResultRows);
+  return panel;
+}
+
+QWidget* MainView::StatusLine() {
+  auto* const line = new QFrame(this);
+  line->setBackgroundRole(QPalette::Midlight);
+  auto* const layout = new QHBoxLayout(line);
+  const int em = fontMetrics().height();
+  layout->setContentsMargins(em * 3 / 4, em / 4, em * 3 / 4, em / 4);
+  auto* const sign = new QLabel(line);
+  QLabel* const text = Bind::Caption(form_.lblStatus, line);
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  layout->addWidget(sign);
+  layout->addWidget(text, 1);
+  Bind::Follow(form_.lblStatus.Caption, sign, [this, sign, em] {
+    const Sign& status = StatusOf(form_);
+    sign->setPixmap(LineIcon(status.Icon, status.Colour(palette())).pixmap(em * 5 / 4));
+    sign->setAccessibleName(QLatin1String(status.Words));
+  });
+  return line;
+}
+
+void MainView::PlaceOnScreen() {
+  const int em = fontMetrics().height();
+  const QSize room = screen()->availableSize() - QSize(em / 2, 2 * em);
+  resize(QSize(76 * em, 46 * em).boundedTo(room));
+}
+
+void MainView::resizeEvent(QResizeEvent* event) {
+  // The texts go below their icons before a tool is hidden for want of room.
+  auto* const bar = findChild<QToolBar*>();
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  if (bar->sizeHint().width() > width()) bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  QMainWindow::resizeEvent(event);
+}

@@ -1,0 +1,97 @@
+// See ReflowArea.h.
+#include "desktop/main/ReflowArea.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QScrollBar>
+#include <QStyle>
+#include <algorithm>
+
+#include "desktop/kit/FieldPanel.h"
+
+namespace {
+
+/// How much a drawing gains from its room: channels are wider than high.
+int Worth(int width, int height) {
+  return std::min(width, height * 9 / 5);
+}
+
+}  // namespace
+
+ReflowArea::ReflowArea(QWidget* page, const Parts& parts, QWidget* parent)
+    : ScrollPage(page, parent), parts_(parts), grid_(new QGridLayout(page)) {}
+
+void ReflowArea::changeEvent(QEvent* event) {
+  ScrollPage::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Arrange();
+}
+
+void ReflowArea::resizeEvent(QResizeEvent* event) {
+  Arrange();
+  ScrollPage::resizeEvent(event);
+}
+
+ReflowArea::Flow ReflowArea::Best(QSize room) const {
+  const int gap = grid_->horizontalSpacing();
+  const QSize inputs = parts_.Inputs->sizeHint();
+  const QSize results = parts_.Results->sizeHint();
+  const QSize drawing = parts_.Drawing->minimumSizeHint();
+  const int fields = inputs.width() + gap + results.width();
+  const int fieldHeight = std::max(inputs.height(), results.height());
+  const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+
+  const int beside = room.width() - fields - gap;
+  const int below = room.height() - fieldHeight - gap;
+  const bool three = beside >= drawing.width() && room.height() >= fieldHeight;
+  const bool two = room.width() >= fields + (below >= drawing.height() ? 0 : scrollBar);
+  if (three && (below < drawing.height() || Worth(beside, room.height()) >= Worth(room.width(), below))) {
+    return Flow::Three;
+  }
+  return two ? Flow::Two : Flow::One;
+}
+
+void ReflowArea::Arrange() {
+  const int em = fontMetrics().height();
+  const int margin = em * 3 / 4;
+  grid_->setContentsMargins(margin, margin, margin, margin);
+  grid_->setHorizontalSpacing(em * 3 / 2);
+  grid_->setVerticalSpacing(margin);
+  const int rowGap = em * 3 / 8;
+  for (FieldPanel* const panel : {parts_.Inputs, parts_.Results}) panel->SetAiriness(rowGap);
+
+  const QSize room = maximumViewportSize() - QSize(2 * margin, 3 * margin + parts_.Top->sizeHint().height());
+  const Flow flow = Best(room);
+  Place(flow);
+  if (flow != Flow::Three) return;
+  // Rows grow with the window as far as they still read as one block.
+  const int spare =
+      room.height() - std::max(parts_.Inputs->sizeHint().height(), parts_.Results->sizeHint().height());
+  for (FieldPanel* const panel : {parts_.Inputs, parts_.Results}) {
+    panel->SetAiriness(std::clamp(rowGap + spare / 10, rowGap, em * 5 / 4));
+  }
+}
+
+void ReflowArea::Place(Flow flow) {
+  struct Cell {
+    int Row, Column, Columns;
+  };
+  struct Placing {
+    int Columns, DrawingRow;
+    Cell Inputs, Drawing, Results;
+    int Stretches[3];
+  };
+  static constexpr Placing Placings[] = {{3, 1, {1, 0, 1}, {1, 1, 1}, {1, 2, 1}, {2, 5, 2}},
+                                         {2, 2, {1, 0, 1}, {2, 0, 2}, {1, 1, 1}, {1, 1, 0}},
+                                         {1, 3, {1, 0, 1}, {3, 0, 1}, {2, 0, 1}, {1, 0, 0}}};
+  const Placing& placing = Placings[static_cast<int>(flow)];
+  const auto put = [this](QWidget* widget, const Cell& cell, Qt::Alignment alignment) {
+    grid_->removeWidget(widget);
+    grid_->addWidget(widget, cell.Row, cell.Column, 1, cell.Columns, alignment);
+  };
+  put(parts_.Top, {0, 0, placing.Columns}, {});
+  put(parts_.Inputs, placing.Inputs, Qt::AlignTop);
+  put(parts_.Results, placing.Results, Qt::AlignTop);
+  put(parts_.Drawing, placing.Drawing, {});
+  for (int column = 0; column < 3; ++column) grid_->setColumnStretch(column, placing.Stretches[column]);
+  for (int row = 1; row <= 3; ++row) grid_->setRowStretch(row, row == placing.DrawingRow ? 1 : 0);
+}

@@ -1,0 +1,33 @@
+// The middle of the main window: inputs, drawing and results beside each other while there is room, below
+// each other when the window is small or the text large, and scrolled when even that is too much.
+#pragma once
+
+#include "desktop/kit/ScrollPage.h"
+
+class FieldPanel;
+class QGridLayout;
+
+class ReflowArea : public ScrollPage {
+ public:
+  struct Parts {
+    QWidget* Top;  ///< over the full width
+    FieldPanel* Inputs;
+    QWidget* Drawing;
+    FieldPanel* Results;
+  };
+  /// The parts are children of `page`, which becomes the area's own.
+  ReflowArea(QWidget* page, const Parts& parts, QWidget* parent);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  enum class Flow { Three, Two, One };
+  Flow Best(QSize room) const;
+  void Arrange();
+  void Place(Flow flow);
+
+  Parts parts_;
+  QGridLayout* grid_;
+};

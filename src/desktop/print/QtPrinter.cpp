@@ -1,0 +1,175 @@
+// See QtPrinter.h.
+#include "desktop/print/QtPrinter.h"
+
+#include <qcustomplot.h>
+
+#include <QComboBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QGraphicsView>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QScreen>
+#include <QToolBar>
+#include <QToolButton>
+#include <cmath>
+
+#include "app/Declarations.h"
+#include "desktop/chart/ChartWidget.h"
+#include "desktop/kit/FrontWindow.h"
+#include "desktop/kit/Text.h"
+#include "desktop/kit/ToolBar.h"
+
+namespace {
+
+constexpr double TwipsOfInch = 1440;
+constexpr double MillimetresOfInch = 25.4;
+constexpr int TwipsOfPoint = 20;
+constexpr int TwipsOfPixel = 15;   // of a screen of 96 dots to the inch, as which a picture is laid out
+constexpr int PicturePixels = 12;  // size of its letters
+
+int Twips(double millimetres) {
+  return static_cast<int>(std::lround(millimetres * TwipsOfInch / MillimetresOfInch));
+}
+
+QRectF Paper(const QPrinter& device) {
+  return device.pageLayout().fullRect(QPageLayout::Millimeter);
+}
+
+QFont SansSerif(const QString& family, int pixels) {
+  QFont font;
+  font.setFamilies({family, QStringLiteral("Liberation Sans")});  // which has the widths of Arial
+  font.setStyleHint(QFont::SansSerif);
+  font.setPixelSize(pixels);
+  return font;
+}
+
+/// Asks the file itself, as Qt does not tell when the disk is full.
+bool IsWhole(const QString& name) {
+  QFile file(name);
+  return file.open(QIODevice::ReadOnly) && file.readAll().trimmed().endsWith("%%EOF");
+}
+
+/// Names the parts of a print preview and gives its buttons the keyboard.
+void MakePreviewReachable(const QPrintPreviewDialog& preview) {
+  for (auto* const bar : preview.findChildren<QToolBar*>()) NameToolBar(*bar);
+  for (auto* const button : preview.findChildren<QToolButton*>()) button->setFocusPolicy(Qt::TabFocus);
+  for (auto* const line : preview.findChildren<QLineEdit*>()) {
+    const bool zoom = qobject_cast<QComboBox*>(line->parent()) != nullptr;
+    line->setAccessibleName(zoom ? QObject::tr("Zoom") : QObject::tr("Page"));
+  }
+  for (auto* const pages : preview.findChildren<QGraphicsView*>()) {
+    for (QWidget* const part : {pages->parentWidget(), static_cast<QWidget*>(pages), pages->viewport()})
+      part->setAccessibleName(QObject::tr("Pages"));
+  }
+}
+
+}  // namespace
+
+int QtPrinter::PageWidth() const {
+  return Twips(Paper(device_).width());
+}
+
+int QtPrinter::PageHeight() const {
+  return Twips(Paper(device_).height());
+}
+
+void QtPrinter::SetFont(const PrintFont& font) {
+  font_ = SansSerif(ToQt(font.Name), font.Size * TwipsOfPoint);
+  font_.setBold(font.Bold);
+  font_.setItalic(font.Italic);
+  font_.setUnderline(font.Underline);
+}
+
+void QtPrinter::Text(int x, int y, const std::string& text, int maxWidth) {
+  if (text.empty() || maxWidth <= 0) return;
+  const QString shown = ToQt(text);
+  const QFontMetricsF metrics(font_);
+  const double width = metrics.horizontalAdvance(shown);
+  const double condensed = width > maxWidth ? maxWidth / width : 1;
+  const QPointF baseline(x, y + metrics.ascent());
+  pages_.back().push_back([font = font_, shown, condensed, baseline](QCPPainter& painter) {
+    painter.save();
+    painter.setFont(font);
+    painter.translate(baseline);
+    painter.scale(condensed, 1);
+    painter.drawText(QPointF(0, 0), shown);
+    painter.restore();
+  });
+}
+
+void QtPrinter::Line(int x1, int y1, int x2, int y2, int penWidth) {
+  pages_.back().push_back([=](QCPPainter& painter) {
+    painter.setPen(QPen(Qt::black, penWidth));
+    painter.drawLine(QLineF(x1, y1, x2, y2));
+  });
+}
+
+void QtPrinter::Picture(const XYChart& chart, int x, int y, int width, int height) {
+  const ChartWidget* const shown = ChartWidget::Of(chart);
+  if (shown == nullptr) return;
+  pages_.back().push_back([=](QCPPainter& painter) {
+    painter.save();
+    painter.translate(x, y);
+    painter.scale(TwipsOfPixel, TwipsOfPixel);
+    shown->Paint(painter, QSize(width, height) / TwipsOfPixel,
+                 SansSerif(QStringLiteral("Arial"), PicturePixels));
+    painter.restore();
+  });
+}
+
+bool QtPrinter::End() {
+  QCPPainter painter;
+  if (!painter.begin(&device_)) return false;
+  painter.scale(device_.logicalDpiX() / TwipsOfInch, device_.logicalDpiY() / TwipsOfInch);
+  const int pages = static_cast<int>(pages_.size());
+  bool works = true;
+  bool cancelled = false;
+  for (int page = 0; page < pages && works && !cancelled; ++page) {
+    works = page == 0 || device_.newPage();
+    for (const Stroke& stroke : pages_[static_cast<std::size_t>(page)]) stroke(painter);
+    cancelled = !TheServices().progress.Show("Preparing the pages", page + 1, pages);
+  }
+  works = painter.end() && works && device_.printerState() != QPrinter::Error &&
+          (file_.isEmpty() || IsWhole(file_));
+  if ((cancelled || !works) && QFileInfo(file_).isFile()) QFile::remove(file_);
+  return works || cancelled;
+}
+
+QtPrinterDialog::QtPrinterDialog() = default;
+QtPrinterDialog::~QtPrinterDialog() = default;
+
+QPrinter& QtPrinterDialog::Device(const PrintRequest& request) {
+  if (!device_) {
+    device_ = std::make_unique<QPrinter>(QPrinter::ScreenResolution);
+    device_->setFullPage(true);
+  }
+  device_->setDocName(ToQt(std::string(Declarations::AppTitle) + " - " + Declarations::FileTitle));
+  device_->setPageOrientation(request.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+  return *device_;
+}
+
+Printer* QtPrinterDialog::Choose(const PrintRequest& request) {
+  QPrinter& device = Device(request);
+  QPrintDialog dialog(&device, FrontWindow());
+  dialog.setWindowTitle(ToQt(request.Title));
+  dialog.setWindowModality(Qt::WindowModal);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  if (dialog.exec() != QDialog::Accepted) return nullptr;
+  return &printer_.emplace(device, device.outputFileName());
+}
+
+void QtPrinterDialog::Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) {
+  QPrintPreviewDialog dialog(&Device(request), FrontWindow());
+  dialog.setWindowModality(Qt::WindowModal);
+  dialog.resize(dialog.screen()->availableSize() * 4 / 5);
+  MakePreviewReachable(dialog);
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&write](QPrinter* device) {
+    QtPrinter printer(*device, {});
+    write(printer);
+  });
+  dialog.exec();
+}

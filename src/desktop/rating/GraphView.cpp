@@ -1,0 +1,49 @@
+// See GraphView.h.
+#include "desktop/rating/GraphView.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "desktop/chart/ChartWidget.h"
+#include "desktop/kit/Bind.h"
+#include "desktop/kit/Text.h"
+
+namespace {
+
+/// What the marked stretches are, after a sample of one.
+QWidget* Legend(frmGraph& form, QWidget* parent) {
+  auto* const legend = new QWidget(parent);
+  auto* const row = new QHBoxLayout(legend);
+  const int em = legend->fontMetrics().height();
+  row->setContentsMargins(em, 0, em, em / 2);
+  row->addWidget(ChartWidget::MarkedSample(legend));
+  row->addWidget(Bind::Caption(form.lblMarked, legend), 1);
+  Bind::Follow(form.lblMarked.Visible, legend,
+               [&form, legend] { legend->setVisible(form.lblMarked.Visible); });
+  return legend;
+}
+
+}  // namespace
+
+GraphView::GraphView(frmGraph& form, QWidget* parent) : RatingView(form, parent) {
+  auto* const page = new QWidget(this);
+  auto* const column = new QVBoxLayout(page);
+  ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, page));
+  column->setContentsMargins({});
+  column->addWidget(chart, 1);
+  column->addWidget(Legend(form, page));
+  setCentralWidget(page);
+  const auto tell = [&form, chart] { chart->SetTexts(WhyNoPoints(), ToQt(form.lblMarked.Caption.Get())); };
+  Bind::Follow(form.MSChart1.XTitle, chart, tell);
+
+  QMenu* const view = menuBar()->addMenu(tr("&View"));
+  view->addAction(chart->LogarithmicAction());
+  view->addSeparator();
+  view->addActions(chart->ZoomActions());
+  chart->insertAction(chart->LogarithmicAction(), CopyAction());
+  chart->setFocus();
+  SetSize({56, 38});
+}

@@ -1,0 +1,74 @@
+// See IrregView.h.
+#include "desktop/section/IrregView.h"
+
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktop/chart/ChartPlot.h"
+#include "desktop/chart/ChartWidget.h"
+#include "desktop/kit/Bind.h"
+#include "desktop/kit/ScrollPage.h"
+#include "desktop/section/PointGrid.h"
+#include "desktop/section/SectionBackdrop.h"
+
+namespace {
+
+/// The table with the buttons that act on it.
+QVBoxLayout* TableColumn(PointGrid* grid, frmIrreg& form, QWidget* page) {
+  auto* const column = new QVBoxLayout;
+  column->addWidget(grid, 1);
+  auto* const buttons = new QGridLayout;
+  buttons->addWidget(Bind::Push(form.cmdCopy, page, "c"), 0, 0);
+  buttons->addWidget(Bind::Push(form.cmdPaste, page, "p"), 0, 1);
+  buttons->addWidget(Bind::Push(form.cmdIns, page, "i"), 1, 0);
+  buttons->addWidget(Bind::Push(form.cmdDel, page, "d"), 1, 1);
+  column->addLayout(buttons);
+  return column;
+}
+
+ChartWidget* Drawing(frmIrreg& form, QWidget* page) {
+  ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, page));
+  chart->SetTexts(IrregView::tr("The section is drawn here as its points are entered."), {});
+  chart->Dress([](ChartPlot& plot) {
+    plot.NameLines({IrregView::tr("Ground")});
+    new SectionBackdrop(plot, {});  // the plot owns it
+  });
+  chart->LogarithmicAction()->setEnabled(false);
+  // The table needs most of a small screen.
+  chart->Plot().setMinimumSize(QSize(10, 8) * page->fontMetrics().height());
+  return chart;
+}
+
+}  // namespace
+
+IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent) {
+  AddMenu(tr("&File"), {{&form.mnuFileImport, "i", {}}, {&form.mnuFileExport, "e", {}}});
+  QMenu* const edit =
+      AddMenu(tr("&Edit"), {{&form.mnuEditUndo, "u", QKeySequence::Undo}, {&form.mnuEditRedo, "r", {}}});
+  edit->actions().last()->setShortcuts(
+      {QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
+
+  auto* const window = new QWidget(this);
+  auto* const page = new QWidget(window);
+  auto* const row = new QHBoxLayout(page);
+  auto* const grid = new PointGrid(form, page);
+  row->addLayout(TableColumn(grid, form, page));
+  row->addWidget(Drawing(form, page), 1);
+  auto* const ending = new QDialogButtonBox(window);
+  ending->addButton(Bind::Push(form.cmdOK, ending, "o"), QDialogButtonBox::AcceptRole);
+  ending->addButton(Bind::Push(form.cmdCancel, ending, "a"), QDialogButtonBox::RejectRole);
+  // Above what is scrolled: a text that wraps would keep the table from giving way on a small screen.
+  QLabel* const hint = Bind::Caption(form.Label1, window);
+  hint->setWordWrap(true);
+  QMargins margins = row->contentsMargins();
+  margins.setBottom(0);
+  hint->setContentsMargins(margins);
+  ScrollPage::Fill(window, page, ending)->insertWidget(0, hint);
+  setCentralWidget(window);
+  grid->setFocus();
+  SetSize({56, 38});
+}

@@ -1,8 +1,0 @@
-// See TableSettingsView.h.
-#include "desktop/windows/TableSettingsView.h"
-
-TableSettingsView::TableSettingsView(frmTableSettings& form, QWidget* parent)
-    : RangeSettingsView(form, form.Label4, parent) {
-  AddRow(form.Label3, form.tbIncrement, "s", SameUnit());
-  Finish();
-}
