@@ -8,7 +8,7 @@ import sys
 from pathlib import Path
 
 # The rooms that each room may include besides itself.
-SHARED = ["engine", "platform", "files", "app"]
+SHARED = ["engine", "notes", "platform", "files", "app"]
 KEPT = [*SHARED, "app/project", "app/settings"]
 CALCULATOR = [*KEPT, "app/main"]
 WINDOWS = [*CALCULATOR, "rating", "section", "print", "help"]
@@ -16,9 +16,10 @@ FRONT = [*WINDOWS, "program"]
 FLOOR = ["desktop/kit", "desktop/main", "desktop/chart", "desktop/help"]
 MAY_INCLUDE = {
     "engine": [],
+    "notes": ["engine"],
     "platform": [],
     "files": [],
-    "app": ["engine", "platform", "files"],
+    "app": ["engine", "notes", "platform", "files"],
     "app/project": SHARED,
     "app/settings": SHARED,
     "app/main": KEPT,
