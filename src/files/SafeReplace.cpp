@@ -1,128 +1,127 @@
-// See SafeReplace.h. Locks and flushing to the disk need the system's own calls, which stand here alone.
+// See SafeReplace.h.
 #include "files/SafeReplace.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
+#include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <system_error>
+
+#include "files/FileAttributes.h"
+#include "files/OpenFile.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void FailStep(const char* step) {
-  throw std::system_error(errno, std::generic_category(), step);
-}
-
-fs::path FollowLinks(fs::path path) {
-  constexpr int MostLinks = 40;
-  for (int links = 0; fs::is_symlink(path); ++links) {
-    if (links == MostLinks) throw std::runtime_error("the link leads to itself");
-    path = path.parent_path() / fs::read_symlink(path);
-  }
-  return path;
-}
-
-bool IsWritableFile(const fs::path& path) {
-  return fs::is_regular_file(path) && faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
-}
-
-/// Locks the file; false when another program holds it, or has given its name away meanwhile. A file system
-/// without locks does not hinder saving.
-bool Lock(int file, const fs::path& name) {
-  if (flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
-  struct stat held {};
-  struct stat named {};
-  return fstat(file, &held) == 0 && stat(name.c_str(), &named) == 0 && held.st_dev == named.st_dev &&
-         held.st_ino == named.st_ino;
+bool IsRefused(const std::system_error& failure) {
+  const int code = failure.code().value();
+  return code == EACCES || code == EPERM || code == EROFS || code == EBUSY;
 }
 
 /// Removes the file that a killed program left; one that is locked stays.
-void RemoveAbandoned(const fs::path& name) {
-  const int file = open(name.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-  if (file < 0 && errno == ENOENT) return;
-  if (file < 0) FailStep("open what was left");
-  if (Lock(file, name)) unlink(name.c_str());
-  close(file);
+void RemoveAbandoned(const fs::path& path) {
+  try {
+    const OpenFile left(path, O_RDWR | O_NOFOLLOW | O_NONBLOCK);
+    if (left.Lock(path)) unlink(path.c_str());
+  } catch (const std::system_error& failure) {
+    if (failure.code().value() != ENOENT) throw;
+  }
 }
 
 /// Makes a file that did not exist and locks it, so that no other program takes it for abandoned.
-int CreateLocked(const fs::path& name, mode_t mode) {
+OpenFile CreateLocked(const fs::path& path, mode_t mode) {
   constexpr int Attempts = 3;  // another program may come and go between two steps
   for (int attempt = 0; attempt < Attempts; ++attempt) {
-    const int file = open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-    if (file < 0 && errno != EEXIST) FailStep("create");
-    if (file < 0) {
-      RemoveAbandoned(name);
-    } else if (Lock(file, name)) {
-      return file;
-    } else {
-      close(file);
+    try {
+      OpenFile file(path, O_RDWR | O_CREAT | O_EXCL, mode);
+      if (file.Lock(path)) return file;
+    } catch (const std::system_error& failure) {
+      if (failure.code().value() != EEXIST) throw;
+      RemoveAbandoned(path);
     }
   }
-  throw std::runtime_error("another program is replacing the file");
+  throw std::runtime_error("another program is saving the file");
 }
 
-/// Owner and permissions of `old`. The owner stays where the system allows it to be given.
-void TakeOver(int file, const struct stat& old) {
-  [[maybe_unused]] const int given = fchown(file, old.st_uid, old.st_gid);
-  if (fchmod(file, old.st_mode & 07777) != 0) FailStep("keep the permissions");
+/// The hidden name beside the file; a short one where the file's own name leaves no room for more.
+fs::path NameBeside(const fs::path& file, bool isShort) {
+  std::string name = file.filename().string();
+  if (isShort) {
+    std::ostringstream digits;
+    digits << std::hex << std::hash<std::string>{}(name);
+    name = digits.str();
+  }
+  return file.parent_path() / ("." + name + ".saving");
+}
+
+/// The new file until it takes the old one's place; gone with this object if it does not.
+class NewFile {
+ public:
+  NewFile(fs::path path, mode_t mode) : path_(std::move(path)), file_(CreateLocked(path_, mode)) {}
+  ~NewFile() {
+    if (!placed_) unlink(path_.c_str());
+  }
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+
+  const OpenFile& File() const { return file_; }
+  void Place(const fs::path& target) {
+    file_.Flush();  // the attributes
+    fs::rename(path_, target);
+    placed_ = true;
+  }
+
+ private:
+  fs::path path_;
+  OpenFile file_;
+  bool placed_ = false;
+};
+
+void MakeBeside(std::optional<NewFile>& made, const fs::path& file, mode_t mode) {
+  try {
+    made.emplace(NameBeside(file, false), mode);
+  } catch (const std::system_error& failure) {
+    if (failure.code().value() != ENAMETOOLONG) throw;
+    made.emplace(NameBeside(file, true), mode);
+  }
 }
 
 /// A rename outlives a power cut once its folder is flushed. Not all file systems can do that, and by now the
 /// file is replaced: no failure.
 void FlushFolder(const fs::path& file) {
-  const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-  const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (opened < 0) return;
-  fsync(opened);
-  close(opened);
+  try {
+    OpenFile(file.has_parent_path() ? file.parent_path() : fs::path("."), O_RDONLY | O_DIRECTORY).Flush();
+  } catch (const std::system_error&) {
+  }
 }
 
 }  // namespace
 
-SafeReplace::SafeReplace(const std::string& path) : target_(FollowLinks(path)) {
-  if (!target_.has_filename()) throw std::runtime_error("no file name");
-  const bool exists = fs::exists(target_);
-  if (exists && !IsWritableFile(target_)) throw std::runtime_error("no file that may be replaced");
-  fresh_ = target_.parent_path() / ("." + target_.filename().string() + ".saving");
-  file_ = CreateLocked(fresh_, exists ? 0600 : 0666);
-}
-
-SafeReplace::~SafeReplace() {
-  if (!committed_) unlink(fresh_.c_str());
-  close(file_);
-}
-
-void SafeReplace::Append(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = write(file_, bytes.data(), bytes.size());
-    if (written < 0 && errno != EINTR) FailStep("write");
-    if (written > 0) bytes.remove_prefix(static_cast<size_t>(written));
+bool SafeReplace(const fs::path& file, std::string_view bytes) {
+  constexpr mode_t Private = 0600;
+  constexpr mode_t AsUsual = 0666;
+  const bool exists = fs::exists(file);
+  std::optional<FileAttributes> before;
+  if (exists) {
+    if (fs::hard_link_count(file) > 1) return false;
+    before = FileAttributes::Of(OpenFile(file, O_RDONLY | O_NONBLOCK).Number());
   }
-}
-
-std::string SafeReplace::ReadBack() const {
-  std::string bytes;
-  std::array<char, 1 << 14> part{};
-  for (;;) {
-    const ssize_t count = pread(file_, part.data(), part.size(), static_cast<off_t>(bytes.size()));
-    if (count == 0) return bytes;
-    if (count < 0 && errno != EINTR) FailStep("read back");
-    if (count > 0) bytes.append(part.data(), static_cast<size_t>(count));
+  try {
+    std::optional<NewFile> made;
+    MakeBeside(made, file, exists ? Private : AsUsual);
+    made->File().Write(bytes);
+    if (before && !before->GiveTo(made->File().Number())) return false;
+    made->Place(file);
+  } catch (const std::system_error& failure) {
+    if (exists && IsRefused(failure)) return false;
+    throw;
   }
-}
-
-void SafeReplace::Commit() {
-  struct stat old {};
-  if (stat(target_.c_str(), &old) == 0) TakeOver(file_, old);
-  if (fsync(file_) != 0) FailStep("flush");
-  fs::rename(fresh_, target_);
-  committed_ = true;
-  FlushFolder(target_);
+  FlushFolder(file);
+  return true;
 }

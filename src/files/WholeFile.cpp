@@ -1,31 +1,86 @@
 // See WholeFile.h.
 #include "files/WholeFile.h"
 
-#include <filesystem>
-#include <fstream>
-#include <stdexcept>
+#include <fcntl.h>
+#include <unistd.h>
 
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
+
+#include "files/KeptCopy.h"
+#include "files/OpenFile.h"
 #include "files/SafeReplace.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path FollowLinks(fs::path path) {
+  constexpr int MostLinks = 40;
+  for (int links = 0; fs::is_symlink(path); ++links) {
+    if (links == MostLinks) throw std::runtime_error("the link leads to itself");
+    path = path.parent_path() / fs::read_symlink(path);
+  }
+  return path;
+}
+
+void RequireWritable(const fs::path& file) {
+  if (!fs::is_regular_file(file)) throw std::runtime_error("not a regular file");
+  if (faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) FailStep("write");
+}
+
+/// While this runs the copy has the new content whole; it stays where a kill, or a disk that takes neither
+/// the new content nor the old one, leaves the file damaged.
+void WriteInPlace(const fs::path& file, std::string_view bytes) {
+  const OpenFile target(file, O_RDWR);
+  if (!target.Lock(file)) throw std::runtime_error("another program is saving the file");
+  KeptCopy copy(fs::absolute(file).string());
+  copy.Write(bytes);
+  const std::string before = target.Read();
+  try {
+    target.Write(bytes);
+  } catch (const std::exception&) {
+    target.Write(before);
+    copy.Remove();
+    throw;
+  }
+  copy.Remove();
+}
+
+}  // namespace
 
 namespace WholeFile {
 
 std::string Read(const std::string& path) {
   // Opening a pipe would wait, and opening a device can set it going: ask first.
-  if (!std::filesystem::is_regular_file(path)) throw std::runtime_error("no regular file");
-  const auto size = std::filesystem::file_size(path);
-  if (size > MaxSize) throw std::runtime_error("too large");
-  std::string bytes(size, '\0');
-  std::ifstream file(path, std::ios::binary);
-  if (!file.read(bytes.data(), static_cast<std::streamsize>(size)))
-    throw std::runtime_error("not read to its end");
-  return bytes;
+  const fs::file_status status = fs::status(path);
+  if (!fs::exists(status)) throw std::runtime_error("there is no such file");
+  if (!fs::is_regular_file(status)) throw std::runtime_error("not a regular file");
+  if (fs::file_size(path) > MaxSize) throw std::runtime_error("the file is too large");
+  return OpenFile(path, O_RDONLY | O_NONBLOCK).Read();
+}
+
+bool IsStill(const std::string& path, std::string_view bytes) {
+  std::error_code error;
+  if (fs::status(path, error).type() == fs::file_type::not_found) return true;
+  try {
+    return Read(path) == bytes;
+  } catch (const std::runtime_error&) {
+    return false;
+  }
 }
 
 void Write(const std::string& path, std::string_view bytes) {
-  SafeReplace file(path);
-  file.Append(bytes);
-  if (file.ReadBack() != bytes) throw std::runtime_error("not read back as written");
-  file.Commit();
+  const fs::path file = FollowLinks(path);
+  if (!file.has_filename()) throw std::runtime_error("there is no file name");
+  if (fs::exists(file)) RequireWritable(file);
+  if (!SafeReplace(file, bytes)) WriteInPlace(file, bytes);
+}
+
+std::string ReasonOf(const std::exception& failure) {
+  const auto* const system = dynamic_cast<const std::system_error*>(&failure);
+  return system == nullptr ? failure.what() : system->code().message();
 }
 
 }  // namespace WholeFile

@@ -21,7 +21,7 @@ class Clipboard {
 };
 
 enum class BoxIcon { Exclamation, Information };
-enum class BoxButtons { Ok, YesNoCancel };
+enum class BoxButtons { Ok, YesNo, YesNoCancel };
 enum class BoxAnswer { Ok, Yes, No, Cancel };
 
 class MessageBox {

@@ -2,10 +2,12 @@
 // whole.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -14,7 +16,8 @@
 #include <stdexcept>
 
 #include "app/project/ProjectFile.h"
-#include "files/SafeReplace.h"
+#include "files/KeptCopy.h"
+#include "files/WholeFile.h"
 #include "support/TestFolder.h"
 
 namespace fs = std::filesystem;
@@ -42,23 +45,21 @@ class NearlyFullDisk {
     getrlimit(RLIMIT_FSIZE, &before_);
     const rlimit limit{size, before_.rlim_max};
     setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, SIG_DFL);
   }
-  ~NearlyFullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
+  ~NearlyFullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
   NearlyFullDisk(const NearlyFullDisk&) = delete;
   NearlyFullDisk& operator=(const NearlyFullDisk&) = delete;
 
  private:
   rlimit before_{};
-  void (*handler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
 };
 
 class ProjectSaving : public testing::Test {
  protected:
   ProjectSaving() {
-    fs::permissions(folder_, fs::perms(0755));
+    setenv("XDG_DATA_HOME", data_.Path().c_str(), 1);
+    for (const fs::path& folder : {folder_, data_.Path()}) fs::permissions(folder, fs::perms(0777));
     old_.ChannelType = new_.ChannelType = "Circular Channel";
     old_.ProjName = "old";
     new_.ProjName = std::string(30000, 'n');
@@ -74,7 +75,7 @@ class ProjectSaving : public testing::Test {
     EXPECT_THROW(ProjectFile::Read(path), std::runtime_error) << path;
   }
 
-  TestFolder temporary_;
+  TestFolder temporary_, data_;
   const fs::path folder_ = temporary_.Path(), path_ = folder_ / "canal.fwd";
   Project old_, new_;
 };
@@ -107,31 +108,48 @@ bool KilledWhileSaving(const fs::path& path, const Project& project, int step) {
   return true;
 }
 
+/// What a next start would open after a kill: the file, or the copy that was kept meanwhile.
+std::vector<std::string> LeftAfterKill(const fs::path& path) {
+  std::vector<std::string> left = {BytesOf(path)};
+  for (const fs::path& each : KeptCopy::All()) {
+    auto copy = KeptCopy::TakeOver(each);
+    EXPECT_TRUE(copy) << "a lock outlived its program";
+    EXPECT_EQ(copy->Origin(), path);
+    left.push_back(BytesOf(each));
+    copy->Remove();
+  }
+  return left;
+}
+
 TEST_F(ProjectSaving, SurvivesAThousandKills) {
   const std::string oldBytes = ProjectFile::Format(old_);
   const std::string newBytes = ProjectFile::Format(new_);
-  SaveOld();
-  int kills = 0, step = 0, keptOld = 0, tookNew = 0, left = 0;
-  while (kills < 1000) {
-    if (!KilledWhileSaving(path_, new_, step++)) {
-      ASSERT_GT(step, 10) << "the child did not let itself be traced";
-      EXPECT_EQ(BytesOf(path_), newBytes);
-      EXPECT_EQ(FilesInFolder(), 1);  // what the kills left is gone
-      SaveOld();
-      step = 0;
-      continue;
+  for (const bool inPlace : {false, true}) {
+    SaveOld();
+    if (inPlace) fs::create_hard_link(path_, data_.Path() / "link.fwd");
+    int kills = 0, step = 0, keptOld = 0, tookNew = 0, onlyKept = 0;
+    while (kills < 500) {
+      if (!KilledWhileSaving(path_, new_, step++)) {
+        ASSERT_GT(step, 10) << "the child did not let itself be traced";
+        EXPECT_EQ(LeftAfterKill(path_), std::vector{newBytes});
+        EXPECT_EQ(FilesInFolder(), 1);  // what the kills left is gone
+        SaveOld();
+        step = 0;
+        continue;
+      }
+      ++kills;
+      const std::vector<std::string> left = LeftAfterKill(path_);
+      const bool old = left[0] == oldBytes;
+      const bool whole = old || left[0] == newBytes;
+      ASSERT_TRUE(whole || (inPlace && left.size() == 2 && left[1] == newBytes)) << "killed at step " << step;
+      ASSERT_LE(FilesInFolder(), 2);
+      ++(old ? keptOld : whole ? tookNew : onlyKept);
+      if (!old) SaveOld();
     }
-    ++kills;
-    const std::string bytes = BytesOf(path_);
-    ASSERT_TRUE(bytes == oldBytes || bytes == newBytes) << "killed at step " << step;
-    ASSERT_LE(FilesInFolder(), 2);
-    left += FilesInFolder() == 2;
-    ++(bytes == oldBytes ? keptOld : tookNew);
-    if (bytes == newBytes) SaveOld();
+    EXPECT_GT(keptOld, 100);
+    EXPECT_GT(tookNew, 0);
+    EXPECT_EQ(onlyKept > 0, inPlace);
   }
-  EXPECT_GT(keptOld, 100);
-  EXPECT_GT(tookNew, 10);
-  EXPECT_GT(left, 100);
 }
 
 TEST_F(ProjectSaving, KeepsTheOldFileWhenTheDiskIsFull) {
@@ -216,25 +234,92 @@ TEST_F(ProjectSaving, FollowsLinks) {
 TEST_F(ProjectSaving, KeepsRightsAndOwner) {
   const mode_t mask = umask(027);
   SaveOld();
-  EXPECT_EQ(fs::status(path_).permissions(), fs::perms(0640));
-  fs::permissions(path_, fs::perms(0606));
-  const bool given = chown(path_.c_str(), 65534, 65534) == 0;  // only root can
-  ProjectFile::Write(path_, new_);
   umask(mask);
-  EXPECT_EQ(fs::status(path_).permissions(), fs::perms(0606));
-  struct stat status {};
-  ASSERT_EQ(stat(path_.c_str(), &status), 0);
-  EXPECT_EQ(status.st_uid, given ? 65534 : geteuid());
+  EXPECT_EQ(fs::status(path_).permissions(), fs::perms(0640));
+  // The list of a file that one more user may write: owner rw, user 65534 rw, group r, mask rw, others none.
+  const unsigned char list[] = {2, 0,   0,   0,   1,   0,   6,  0, 255, 255, 255, 255, 2,   0,  6,
+                                0, 254, 255, 0,   0,   4,   0,  4, 0,   255, 255, 255, 255, 16, 0,
+                                6, 0,   255, 255, 255, 255, 32, 0, 0,   0,   255, 255, 255, 255};
+  constexpr const char* List = "system.posix_acl_access";
+  constexpr const char* Note = "user.surveyor";
+  if (setxattr(path_.c_str(), List, list, sizeof list, 0) != 0 ||
+      setxattr(path_.c_str(), Note, "Ann", 3, 0) != 0)
+    GTEST_SKIP() << "a file system without attributes";
+  const auto attribute = [this](const char* name) {
+    char value[64];
+    const ssize_t size = getxattr(path_.c_str(), name, value, sizeof value);
+    return std::string(value, size < 0 ? 0 : static_cast<size_t>(size));
+  };
+  const auto status = [this] {
+    struct stat read {};
+    EXPECT_EQ(stat(path_.c_str(), &read), 0);
+    return read;
+  };
+  const auto expectSaved = [&](const Project& project) {
+    const struct stat before = status();
+    ProjectFile::Write(path_, project);
+    const struct stat after = status();
+    EXPECT_EQ(ProjectFile::Read(path_), project);
+    EXPECT_EQ(after.st_mode, before.st_mode);
+    EXPECT_EQ(after.st_uid, before.st_uid);
+    EXPECT_EQ(after.st_gid, before.st_gid);
+    EXPECT_EQ(after.st_nlink, before.st_nlink);
+    EXPECT_EQ(attribute(List), std::string(reinterpret_cast<const char*>(list), sizeof list));
+    EXPECT_EQ(attribute(Note), "Ann");
+    EXPECT_TRUE(KeptCopy::All().empty());
+    return after.st_ino != before.st_ino;
+  };
+  EXPECT_TRUE(expectSaved(new_)) << "replaced by rename";
+  fs::create_hard_link(path_, folder_ / "link.fwd");
+  EXPECT_FALSE(expectSaved(old_));
+  EXPECT_EQ(ProjectFile::Read(folder_ / "link.fwd"), old_);
+  fs::remove(folder_ / "link.fwd");
+  if (geteuid() != 0 || chown(path_.c_str(), 4711, 4712) != 0) return;
+  EXPECT_TRUE(expectSaved(new_)) << "root gives the new file to the owner";
+  fs::remove_all(data_.Path() / "Flumewise");  // root's own copies
+  const AsOrdinaryUser user;
+  EXPECT_FALSE(expectSaved(old_)) << "another user would become its owner";
+  EXPECT_EQ(FilesInFolder(), 1);
+}
+
+TEST_F(ProjectSaving, WritesInPlaceWhereTheFolderIsProtected) {
+  SaveOld();
+  fs::permissions(path_, fs::perms(0666));
+  fs::permissions(folder_, fs::perms(0555));
+  const AsOrdinaryUser user;
+  ProjectFile::Write(path_, new_);
+  EXPECT_EQ(ProjectFile::Read(path_), new_);
+}
+
+TEST_F(ProjectSaving, DoesNotInheritAnAccessListFromTheFolder) {
+  SaveOld();
+  const unsigned char list[] = {2, 0,   0,   0,   1,   0,   7,  0, 255, 255, 255, 255, 2,   0,  7,
+                                0, 254, 255, 0,   0,   4,   0,  5, 0,   255, 255, 255, 255, 16, 0,
+                                7, 0,   255, 255, 255, 255, 32, 0, 5,   0,   255, 255, 255, 255};
+  if (setxattr(folder_.c_str(), "system.posix_acl_default", list, sizeof list, 0) != 0) GTEST_SKIP();
+  ProjectFile::Write(path_, new_);
+  EXPECT_EQ(getxattr(path_.c_str(), "system.posix_acl_access", nullptr, 0), -1);
+}
+
+TEST_F(ProjectSaving, SavesUnderEveryNameThatTheSystemTakes) {
+  for (const size_t length : {247U, 248U, 255U}) {
+    const fs::path path = folder_ / (std::string(length - 4, 'n') + ".fwd");
+    for (const Project& project : {old_, new_}) ProjectFile::Write(path, project);
+    EXPECT_EQ(ProjectFile::Read(path), new_) << length;
+  }
+  EXPECT_EQ(FilesInFolder(), 3);
+  ExpectNotSaved(folder_ / std::string(256, 'n'));
 }
 
 TEST_F(ProjectSaving, LetsOneProgramSaveAtATime) {
-  SafeReplace other(path_);
-  other.Append("half a pro");
+  const fs::path beside = folder_ / ".canal.fwd.saving";
+  std::ofstream(beside) << "half a project";
+  const int other = open(beside.c_str(), O_RDWR);
+  ASSERT_EQ(flock(other, LOCK_EX), 0);
   ExpectNotSaved(path_);
-  EXPECT_EQ(other.ReadBack(), "half a pro");
-  other.Append("ject");
-  other.Commit();
-  EXPECT_EQ(BytesOf(path_), "half a project");
+  EXPECT_EQ(BytesOf(beside), "half a project");
+  close(other);
+  SaveOld();
   EXPECT_EQ(FilesInFolder(), 1);
 }
 

@@ -50,7 +50,7 @@ STANDARD = set("""
     valarray variant vector version""".split())
 # The one room that may ask the system itself: the standard library cannot flush a file to the disk or keep its rights.
 WITH_POSIX = "files"
-POSIX = {"fcntl.h", "sys/file.h", "sys/stat.h", "unistd.h"}
+POSIX = {"fcntl.h", "sys/file.h", "sys/stat.h", "sys/xattr.h", "unistd.h"}
 DIRECTIVE = re.compile(r'^\s*#\s*include\s*(?:<([^>]*)>|"([^"]*)"|(.*))')
 
 

@@ -153,6 +153,7 @@ class frmMain : public Form {
   void Input_Change();
   void Input_Validate();
   bool SaveProject();
+  bool WriteProject();
   void ShowProject();
   void ShowTitle();
   void SelectChannelType(std::string_view type);
@@ -171,5 +172,6 @@ class frmMain : public Form {
   std::string CriticalSlopeNote() const;
 
   SubWindows& windows_;
-  bool loading_ = false;  // boxes are being filled: their Change events neither compute nor clear
+  std::string fileBytes_;  // of the project's file when it was opened or last saved
+  bool loading_ = false;   // boxes are being filled: their Change events neither compute nor clear
 };

@@ -6,6 +6,7 @@
 #include "app/main/frmMain.h"
 #include "app/project/ProjectFile.h"
 #include "engine/ChannelState.h"
+#include "files/WholeFile.h"
 #include "platform/Services.h"
 
 namespace {
@@ -61,8 +62,18 @@ bool frmMain::SaveProject() {
 }
 
 bool frmMain::FileSave() {
+  if (!WholeFile::IsStill(Declarations::FilePath, fileBytes_) &&
+      TheServices().messageBox.Show(
+          Declarations::FileTitle + " was changed by another program. Overwrite it?", Declarations::AppTitle,
+          BoxIcon::Exclamation, BoxButtons::YesNo) != BoxAnswer::Yes) {
+    return false;
+  }
+  return WriteProject();
+}
+
+bool frmMain::WriteProject() {
   try {
-    ProjectFile::Write(Declarations::FilePath, CurrentProject());
+    fileBytes_ = ProjectFile::Write(Declarations::FilePath, CurrentProject());
   } catch (const std::exception&) {
     Complain("File not saved; data corrupted.");
     return false;
@@ -77,7 +88,7 @@ bool frmMain::SaveAsDialog() {
   if (!path) return false;
   const std::string before[] = {Declarations::FilePath, Declarations::FileTitle, Declarations::UserPath};
   TakePath(*path);
-  const bool saved = FileSave();
+  const bool saved = WriteProject();  // the dialog has asked whether to overwrite
   if (!saved) {
     Declarations::FilePath = before[0];
     Declarations::FileTitle = before[1];
@@ -104,13 +115,16 @@ ProjectFile::Project frmMain::CurrentProject() const {
 }
 
 bool frmMain::FileOpen(const std::string& path) {
+  std::string bytes;
   ProjectFile::Project project;
   try {
-    project = ProjectFile::Read(path);
+    bytes = WholeFile::Read(path);
+    project = ProjectFile::Parse(bytes);
   } catch (const std::exception&) {
     Complain("Cannot open entire file.");
     return false;
   }
+  fileBytes_ = std::move(bytes);
   const Loading loading(loading_);
   ChannelRecord& record = ChannelState;
   record.ChannelType = project.ChannelType;

@@ -212,10 +212,11 @@ Project Parse(std::string_view bytes) {
   return project;
 }
 
-void Write(const std::string& path, const Project& project) {
-  const std::string bytes = Format(project);
+std::string Write(const std::string& path, const Project& project) {
+  std::string bytes = Format(project);
   Parse(bytes);  // what does not open must not replace what does
   WholeFile::Write(path, bytes);
+  return bytes;
 }
 
 Project Read(const std::string& path) {

@@ -37,10 +37,9 @@ std::string Format(const Project& project);
 /// default.
 Project Parse(std::string_view bytes);
 
-/// Writes the project to a file, over the one that is there. std::runtime_error when it could not: the
-/// previous file is then as it was. The file keeps its permissions; a link stays, and the file it leads to is
-/// written.
-void Write(const std::string& path, const Project& project);
+/// Writes the project to a file, over the one that is there, and returns its bytes. Fails as
+/// WholeFile::Write.
+std::string Write(const std::string& path, const Project& project);
 
 /// Reads a project from a regular file. std::runtime_error when it cannot be read or, as for Parse, is no
 /// whole project.

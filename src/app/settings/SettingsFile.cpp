@@ -2,12 +2,12 @@
 #include "app/settings/SettingsFile.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
-#include "files/SafeReplace.h"
+#include "files/UserFolders.h"
+#include "files/WholeFile.h"
 
 namespace fs = std::filesystem;
 
@@ -21,13 +21,6 @@ using Lines = std::vector<std::string>;
 using Line = Lines::iterator;
 
 constexpr std::uintmax_t LargestFile = 1 << 20;
-
-/// Absolute file name from an environment variable; empty when it is unset or relative.
-fs::path EnvironmentFolder(const char* variable) {
-  const char* const value = std::getenv(variable);
-  const fs::path folder = value == nullptr ? "" : value;
-  return folder.is_absolute() ? folder : fs::path();
-}
 
 Lines ReadLines() {
   std::error_code error;
@@ -68,9 +61,9 @@ void WriteLines(const Lines& lines) {
   std::error_code error;
   fs::create_directories(fs::path(path_).parent_path(), error);
   try {
-    SafeReplace file(path_);
-    for (const std::string& line : lines) file.Append(line + '\n');
-    file.Commit();
+    std::string text;
+    for (const std::string& line : lines) text += line + '\n';
+    WholeFile::Write(path_, text);
   } catch (const std::runtime_error&) {
     // The settings before stay.
   }
@@ -79,13 +72,8 @@ void WriteLines(const Lines& lines) {
 }  // namespace
 
 std::string DefaultPath() {
-  fs::path folder = EnvironmentFolder("XDG_CONFIG_HOME");
-  if (folder.empty()) {
-    const fs::path home = EnvironmentFolder("HOME");
-    if (home.empty()) return "";
-    folder = home / ".config";
-  }
-  return (folder / "flumewise" / "settings.ini").string();
+  const fs::path folder = UserFolders::Config();
+  return folder.empty() ? "" : (folder / "flumewise" / "settings.ini").string();
 }
 
 void Use(std::string path) {

@@ -20,6 +20,17 @@ QString WithCrLf(QString text) {
   return text.replace(crLf, QLatin1String("\n")).replace(u'\r', u'\n').replace(QLatin1String("\n"), crLf);
 }
 
+QMessageBox::StandardButtons Buttons(BoxButtons buttons) {
+  switch (buttons) {
+    case BoxButtons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
 }  // namespace
 
 void QtClipboard::Clear() {
@@ -36,10 +47,8 @@ void QtClipboard::SetText(const std::string& text) {
 
 BoxAnswer QtMessageBox::Show(const std::string& text, const std::string& title, BoxIcon icon,
                              BoxButtons buttons) {
-  const bool asks = buttons == BoxButtons::YesNoCancel;
-  QMessageBox box(
-      icon == BoxIcon::Exclamation ? QMessageBox::Warning : QMessageBox::Information, ToQt(title), ToQt(text),
-      asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel : QMessageBox::Ok, FrontWindow());
+  QMessageBox box(icon == BoxIcon::Exclamation ? QMessageBox::Warning : QMessageBox::Information, ToQt(title),
+                  ToQt(text), Buttons(buttons), FrontWindow());
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::WindowModal);
   switch (box.exec()) {
@@ -48,7 +57,7 @@ BoxAnswer QtMessageBox::Show(const std::string& text, const std::string& title, 
     case QMessageBox::No:
       return BoxAnswer::No;
     default:
-      return asks ? BoxAnswer::Cancel : BoxAnswer::Ok;
+      return buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::Cancel;
   }
 }
 
