@@ -8,18 +8,27 @@ namespace {
 struct Unit {
   const char* Label = "";
   double Factor = 0;
+  std::optional<int> Decimals = {};
 };
 
 constexpr std::array<std::array<Unit, 9>, 3> UnitTable = {{
-    {{{}, {"ft", 1}, {"cfs", 1}, {"ft/ft", 1}, {"in", 1.0 / 12}, {"sf", 1}, {"fps", 1}, {"ft", 1}, {"", 1}}},
     {{{},
-      {"m", 3.28084},
-      {"m^3/s", 35.31467},
+      {"ft", 1, 2},
+      {"cfs", 1, 1},
+      {"ft/ft", 1},
+      {"in", 1.0 / 12, 1},
+      {"sf", 1},
+      {"fps", 1},
+      {"ft", 1, 2},
+      {"", 1}}},
+    {{{},
+      {"m", 3.28084, 3},
+      {"m^3/s", 35.31467, 3},
       {"m/m", 1},
-      {"mm", 0.00328084},
+      {"mm", 0.00328084, 0},
       {"m^2", 10.76391},
       {"m/s", 3.28084},
-      {"m", 3.28084},
+      {"m", 3.28084, 3},
       {"", 1}}},
     {},
 }};
@@ -36,4 +45,8 @@ std::string UnitLabel(int units, int row) {
 
 double UnitFactor(int units, int row) {
   return At(units, row).Factor;
+}
+
+std::optional<int> TypedDecimals(int units, int row) {
+  return At(units, row).Decimals;
 }

@@ -2,6 +2,7 @@
 // system.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace Units {
@@ -9,6 +10,7 @@ namespace Units {
 /// Unit systems, as the problem record holds them.
 inline constexpr int English = 0;
 inline constexpr int Metric = 1;
+inline constexpr int Last = Metric;
 
 /// Rows of the unit table.
 enum Quantity { Length = 1, Flow, Slope, Diameter, Area, Velocity, BaseWidth, Dimensionless };
@@ -22,3 +24,7 @@ std::string UnitLabel(int units, int row);
 /// Engine units (feet, seconds) in one displayed unit: engine value = displayed value x factor.
 /// std::out_of_range as above.
 double UnitFactor(int units, int row);
+
+/// Decimals of a typed number that is rewritten in this unit system; nothing for a quantity that a person
+/// never types or that is the same number in every system. std::out_of_range as above.
+std::optional<int> TypedDecimals(int units, int row);

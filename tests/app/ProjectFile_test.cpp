@@ -28,12 +28,18 @@ class ProjectFileTest : public testing::Test {
   ~ProjectFileTest() override { SetNumberLocale({}); }
 };
 
+/// Places of inputs in a project.
+enum Input : size_t { Flow, Depth, ManningN, Slope, SideSlopeLeft = 7 };
+
 Project Sample() {
-  return {"100.5",    "",    ".03125",
-          "0.015625", "abc", "5",
-          "2",        "1e1", "Trapezoidal Channel",
-          false,      1,     "12\" pipe,\r\nupper",
-          4,          2,     {{"0", "10.5", ".5"}, {25.25, "8 m", ""}}};
+  return {{"100.5", "", ".03125", "0.015625", "abc", "5", "2", "1e1"},
+          "Trapezoidal Channel",
+          false,
+          1,
+          "12\" pipe,\r\nupper",
+          4,
+          2,
+          {{"0", "10.5", ".5"}, {25.25, "8 m", ""}}};
 }
 
 /// The records of Sample without the checksum, line ends included.
@@ -172,8 +178,8 @@ TEST_F(ProjectFileTest, ReadsOtherDigitsThanOneToFiveAsTheirDefault) {
 
 TEST_F(ProjectFileTest, CountsWhatOverflowsAsNothing) {
   Project project = Sample();
-  project.Flow = "1e999";
-  project.Depth = project.Slope = "1.7e308";
+  project.Inputs[Flow] = "1e999";
+  project.Inputs[Depth] = project.Inputs[Slope] = "1.7e308";
   EXPECT_EQ(ProjectFile::Parse(ProjectFile::Format(project)), project);
   EXPECT_TRUE(ProjectFile::Format(project).ends_with("\r\n1.7e+308\r\n"));
 }
@@ -207,14 +213,14 @@ void ExpectSpelling(const NumberLocale& locale, const std::string& typed, const 
                     const std::string& back) {
   SetNumberLocale(locale);
   Project project = Sample();
-  project.SideSlopeLeft = typed;
+  project.Inputs[SideSlopeLeft] = typed;
   project.Points[1][2] = typed;
   project.ProjName = "1,5";
   const std::string bytes = ProjectFile::Format(project);
   const std::string quoted = "\"" + inFile + "\"\r\n";
   EXPECT_NE(bytes.find(quoted + "\"Trapezoidal"), std::string::npos) << bytes;
   EXPECT_NE(bytes.find("25.25,\"8 m\"," + quoted), std::string::npos) << bytes;
-  project.SideSlopeLeft = back;
+  project.Inputs[SideSlopeLeft] = back;
   project.Points[1][2] = back;
   EXPECT_EQ(ProjectFile::Parse(bytes), project) << bytes;
 }
@@ -246,14 +252,14 @@ TEST_F(ProjectFileTest, SpeaksTheSameNumbersInEveryLocale) {
 TEST_F(ProjectFileTest, TravelsBetweenLocales) {
   SetNumberLocale(Comma);
   Project project = Sample();
-  project.Flow = "1.234,5";
-  project.Slope = "0.001";  // typed by mistake: no number here
+  project.Inputs[Flow] = "1.234,5";
+  project.Inputs[Slope] = "0.001";  // typed by mistake: no number here
   const std::string bytes = ProjectFile::Format(project);
   for (const auto& [locale, flow] :
        {std::pair(Point, "1,234.5"), {NoBreak, "1\u202F234,5"}, {Ungrouped, "1234,5"}}) {
     SetNumberLocale(locale);
-    EXPECT_EQ(ProjectFile::Parse(bytes).Flow, flow);
-    EXPECT_EQ(ProjectFile::Parse(bytes).Slope, "0.001");
+    EXPECT_EQ(ProjectFile::Parse(bytes).Inputs[Flow], flow);
+    EXPECT_EQ(ProjectFile::Parse(bytes).Inputs[Slope], "0.001");
   }
 }
 
@@ -267,7 +273,8 @@ class Typist {
 
   Project Next() {
     Project project = Sample();
-    for (std::string* const text : {&project.Flow, &project.Depth, &project.ManningN, &project.ProjName})
+    for (std::string* const text :
+         {&project.Inputs[Flow], &project.Inputs[Depth], &project.Inputs[ManningN], &project.ProjName})
       *text = Text();
     project.Points.resize(Below(10));
     for (auto& point : project.Points)

@@ -3,8 +3,8 @@
 
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
+#include "app/main/ChannelTypes.h"
 #include "app/settings/InitialFile.h"
-#include "engine/ChannelState.h"
 
 frmMain::frmMain(SubWindows& windows) : Form("frmMain"), windows_(windows) {
   CaptionControls();
@@ -18,23 +18,6 @@ void frmMain::CaptionControls() {
     const char* Caption;
   };
   for (const Text& each : std::initializer_list<Text>{{lblProjName, "Project"},
-                                                      {lblFlow, "Flow"},
-                                                      {lblDepth, "Depth"},
-                                                      {lblSlope, "Slope"},
-                                                      {lblMann, "Manning's n"},
-                                                      {lblBaseWidth, "Base Width"},
-                                                      {lblSSL, "Left Side Slope"},
-                                                      {lblSSR, "Right Side Slope"},
-                                                      {lblDiameter, "Diameter"},
-                                                      {lblVelocity, "Velocity"},
-                                                      {lblVelHead, "Velocity Head"},
-                                                      {lblArea, "Flow Area"},
-                                                      {lblWP, "Wetted Perimeter"},
-                                                      {lblHRad, "Hydraulic Radius"},
-                                                      {lblTopW, "Top Width"},
-                                                      {lblFroude, "Froude Number"},
-                                                      {lblCritD, "Critical Depth"},
-                                                      {lblCritS, "Critical Slope"},
                                                       {cmdMannParams, "Typical values..."},
                                                       {cmdIrreg, "Edit points..."},
                                                       {mnuFileNew, "New"},
@@ -53,11 +36,6 @@ void frmMain::CaptionControls() {
                                                       {mnuSolveGraph, "Rating Graph..."},
                                                       {mnuSolveTable, "Rating Table..."},
                                                       {mnuSolveSection, "Cross Section..."},
-                                                      {mnuOptionsRect, ChannelTypes::Rectangular.data()},
-                                                      {mnuOptionsTriangular, ChannelTypes::Triangular.data()},
-                                                      {mnuOptionsTrap, ChannelTypes::Trapezoidal.data()},
-                                                      {mnuOptionsCircular, ChannelTypes::Circular.data()},
-                                                      {mnuOptionsIrreg, ChannelTypes::Irregular.data()},
                                                       {mnuOptionsUnitsEnglish, "English Units"},
                                                       {mnuOptionsUnitsMetric, "Metric Units"},
                                                       {mnuOptionsDigits, "Digits..."},
@@ -66,27 +44,27 @@ void frmMain::CaptionControls() {
                                                       {mnuHelpAbout, "About Flumewise"}}) {
     each.Of.Caption = each.Caption;
   }
+  for (const Field& field : Fields()) (this->*field.Name).Caption = field.Caption.Usual;
+  for (const ChannelType& type : AllChannelTypes()) (this->*type.Item).Caption = std::string(type.Name);
 }
 
 void frmMain::JoinInputs() {
-  for (TextBox* const box :
-       {&tbFlow, &tbDepth, &tbSlope, &tbMann, &tbBaseWidth, &tbSSL, &tbSSR, &tbDiameter}) {
+  for (const Field& field : Fields()) {
+    TextBox& box = this->*field.Box;
+    if (field.Result == ResultWhen::Always) {
+      SetResultLook(box, true);
+      continue;
+    }
     // A result box changes with every answer; only an input box starts a computation or is tidied when left.
-    box->Change = [this, box] {
-      if (!box->Locked) Input_Change();
+    box.Change = [this, &box] {
+      if (!box.Locked) Input_Change();
     };
-    box->GotFocus = [box] {
-      if (!box->Locked) FormStuff::SelectAllText(*box);
+    box.GotFocus = [&box] {
+      if (!box.Locked) FormStuff::SelectAllText(box);
     };
-    box->Validate = [this, box] {
-      if (!box->Locked) Input_Validate();
+    box.Validate = [this, &box] {
+      if (!box.Locked) Input_Validate();
     };
-  }
-  for (TextBox* const box :
-       {&tbVelocity, &tbVelHead, &tbArea, &tbWP, &tbHRad, &tbTopW, &tbFroude, &tbCritD, &tbCritS}) {
-    box->Locked = true;
-    box->Bold = true;
-    box->BackColor = TextBox::LightYellow;
   }
   tbProjName.Change = [] { Declarations::DataChanged = true; };
 }
@@ -120,11 +98,6 @@ void frmMain::JoinCommands() {
                                       {Toolbar1.Graph, &frmMain::mnuSolveGraph_Click},
                                       {mnuSolveTable, &frmMain::mnuSolveTable_Click},
                                       {Toolbar1.Table, &frmMain::mnuSolveTable_Click},
-                                      {mnuOptionsRect, &frmMain::mnuOptionsRect_Click},
-                                      {mnuOptionsTriangular, &frmMain::mnuOptionsTriangular_Click},
-                                      {mnuOptionsTrap, &frmMain::mnuOptionsTrap_Click},
-                                      {mnuOptionsCircular, &frmMain::mnuOptionsCircular_Click},
-                                      {mnuOptionsIrreg, &frmMain::mnuOptionsIrreg_Click},
                                       {mnuOptionsUnitsEnglish, &frmMain::mnuOptionsUnitsEnglish_Click},
                                       {mnuOptionsUnitsMetric, &frmMain::mnuOptionsUnitsMetric_Click},
                                       {mnuOptionsDigits, &frmMain::mnuOptionsDigits_Click},
@@ -134,6 +107,9 @@ void frmMain::JoinCommands() {
                                       {cmdIrreg, &frmMain::cmdIrreg_Click},
                                       {cmdMannParams, &frmMain::cmdMannParams_Click}}) {
     each.Of.Click = [this, run = each.Run] { (this->*run)(); };
+  }
+  for (const ChannelType& type : AllChannelTypes()) {
+    (this->*type.Item).Click = [this, &type] { SelectChannelType(type); };
   }
 }
 

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "app/main/SubWindows.h"
 #include "app/project/ProjectFile.h"
 #include "platform/Controls.h"
+
+struct ChannelType;
+struct Field;
 
 class frmMain : public Form {
  public:
@@ -39,6 +41,11 @@ class frmMain : public Form {
       lblFlowAreaUnits{this, "lblFlowAreaUnits"}, lblWPunits{this, "lblWPunits"},
       lblHRadUnits{this, "lblHRadUnits"}, lblTopWUnits{this, "lblTopWUnits"},
       lblCritdUnits{this, "lblCritdUnits"}, lblCritSUnits{this, "lblCritSUnits"};
+
+  /// How far the problem in the boxes has come: an input is still empty, or cannot be used, or all results
+  /// are there.
+  enum class Progress { Missing, Wrong, Solved };
+  Progress CurrentProgress() const;
 
   /// Why there is no result, in words; else what was solved.
   Label lblStatus{this, "lblStatus"};
@@ -84,8 +91,8 @@ class frmMain : public Form {
   void SetUnitsEorM();
 
   // Inputs as texts (frmMainInputs.cpp).
-  /// Rewrites the typed inputs after the unit system has changed.
-  void ConvertInput();
+  /// Rewrites the typed inputs after the unit system has changed from `before`.
+  void ConvertInput(int before);
   void FormatInputs();
   /// A new, empty project.
   void ResetForm();
@@ -121,11 +128,11 @@ class frmMain : public Form {
   void mnuEditCopy_Click();
   void mnuEditPaste_Click();
   void mnuEditDelete_Click();
-  void mnuOptionsRect_Click();
-  void mnuOptionsTriangular_Click();
-  void mnuOptionsTrap_Click();
-  void mnuOptionsCircular_Click();
-  void mnuOptionsIrreg_Click();
+  void mnuOptionsRect_Click() { mnuOptionsRect.Click(); }
+  void mnuOptionsTriangular_Click() { mnuOptionsTriangular.Click(); }
+  void mnuOptionsTrap_Click() { mnuOptionsTrap.Click(); }
+  void mnuOptionsCircular_Click() { mnuOptionsCircular.Click(); }
+  void mnuOptionsIrreg_Click() { mnuOptionsIrreg.Click(); }
   void mnuOptionsUnitsEnglish_Click();
   void mnuOptionsUnitsMetric_Click();
   void mnuOptionsDigits_Click();
@@ -156,7 +163,7 @@ class frmMain : public Form {
   bool WriteProject();
   void ShowProject();
   void ShowTitle();
-  void SelectChannelType(std::string_view type);
+  void SelectChannelType(const ChannelType& type);
   void SelectSolveForFlow(bool solveForFlow);
   void SelectUnits(int units);
   /// The types without side slopes or without a base width hold "0" in the boxes that they do not ask for.
@@ -166,12 +173,15 @@ class frmMain : public Form {
 
   /// Marks the boxes that cannot be used and returns the reason of the first; empty when all can.
   std::string MarkOffences();
-  std::string WaterSurfaceOffence() const;
+  /// What is wrong with an input; empty when nothing is or nobody asks for it.
+  std::string OffenceOf(const Field& field) const;
+  void SetResultLook(TextBox& box, bool result);
   /// What to tell after the engine has run: why there is no result, or what was solved.
   std::string Outcome() const;
   std::string CriticalSlopeNote() const;
 
   SubWindows& windows_;
   std::string fileBytes_;  // of the project's file when it was opened or last saved
-  bool loading_ = false;   // boxes are being filled: their Change events neither compute nor clear
+  bool solved_ = false;
+  bool loading_ = false;  // boxes are being filled: their Change events neither compute nor clear
 };

@@ -2,6 +2,7 @@
 #include <exception>
 
 #include "app/Declarations.h"
+#include "app/main/Fields.h"
 #include "app/main/Loading.h"
 #include "app/main/frmMain.h"
 #include "app/project/ProjectFile.h"
@@ -11,27 +12,15 @@
 
 namespace {
 
-struct ProjectBox {
-  TextBox frmMain::*Box;
-  std::string ProjectFile::Project::*Text;
-};
-
-constexpr ProjectBox ProjectBoxes[] = {
-    {&frmMain::tbFlow, &ProjectFile::Project::Flow},
-    {&frmMain::tbDepth, &ProjectFile::Project::Depth},
-    {&frmMain::tbMann, &ProjectFile::Project::ManningN},
-    {&frmMain::tbSlope, &ProjectFile::Project::Slope},
-    {&frmMain::tbDiameter, &ProjectFile::Project::Diameter},
-    {&frmMain::tbBaseWidth, &ProjectFile::Project::BaseWidth},
-    {&frmMain::tbSSR, &ProjectFile::Project::SideSlopeRight},
-    {&frmMain::tbSSL, &ProjectFile::Project::SideSlopeLeft},
-    {&frmMain::tbProjName, &ProjectFile::Project::ProjName},
-};
-
 constexpr const char* Filter = "Flumewise Data (*.fwd)|*.fwd|All Files (*.*)|*.*";
 
 void Complain(const char* text) {
   TheServices().messageBox.Show(text, Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);
+}
+
+/// The text of a project that belongs in the box of a field; null for a result.
+std::string* ItemOf(ProjectFile::Project& project, const Field& field) {
+  return field.FileItem < 0 ? nullptr : &project.Inputs.at(static_cast<std::size_t>(field.FileItem));
 }
 
 /// The project's file from now on; the dialogs start in its folder.
@@ -101,7 +90,10 @@ bool frmMain::SaveAsDialog() {
 ProjectFile::Project frmMain::CurrentProject() const {
   const ChannelRecord& record = ChannelState;
   ProjectFile::Project project;
-  for (const ProjectBox& each : ProjectBoxes) project.*each.Text = (this->*each.Box).Text;
+  project.ProjName = tbProjName.Text;
+  for (const Field& field : Fields()) {
+    if (std::string* const item = ItemOf(project, field)) *item = (this->*field.Box).Text;
+  }
   project.ChannelType = record.ChannelType;
   project.SolveForFlow = record.SolveForFlow;
   project.UnitsEorM = record.UnitsEorM;
@@ -132,7 +124,10 @@ bool frmMain::FileOpen(const std::string& path) {
   record.UnitsEorM = project.UnitsEorM;
   Declarations::SigDigs = project.SigDigs;
   Declarations::EngDigs = project.EngDigs;
-  for (const ProjectBox& each : ProjectBoxes) (this->*each.Box).Text = project.*each.Text;
+  tbProjName.Text = project.ProjName;
+  for (const Field& field : Fields()) {
+    if (const std::string* const item = ItemOf(project, field)) (this->*field.Box).Text = *item;
+  }
   EmptySection();
   for (const auto& [station, elevation, roughness] : project.Points) {
     auto& point = record.IrregPoints[static_cast<std::size_t>(++record.IrregPointCount)];

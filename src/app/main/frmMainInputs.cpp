@@ -1,26 +1,24 @@
 // The inputs as texts: edited, tidied, emptied, rewritten in other units, cut and pasted. See frmMain.h.
 #include <cmath>
-#include <initializer_list>
+#include <utility>
 
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
+#include "app/main/ChannelTypes.h"
 #include "app/main/Loading.h"
 #include "app/main/frmMain.h"
-#include "engine/ChannelState.h"
 #include "platform/Services.h"
 
 namespace {
 
-/// A typed length, flow or diameter in the unit system now in force. What is not a number, or too large for
-/// one afterwards, stays as it is.
-EngineValue InOtherUnits(const EngineValue& typed, int quantity, int metricDecimals, int englishDecimals) {
-  const bool metric = ChannelState.UnitsEorM == Units::Metric;
-  const int before = metric ? Units::English : Units::Metric;
+/// A typed number in the unit system now in force. What is not a number, or too large for one afterwards,
+/// stays as it is.
+EngineValue InOtherUnits(const EngineValue& typed, int quantity, int before, int decimals) {
   const double factor = UnitFactor(before, quantity) / UnitFactor(ChannelState.UnitsEorM, quantity);
   if (!std::isfinite(factor * typed.Number())) return typed;
-  return FixedFormat(typed, factor, metric ? metricDecimals : englishDecimals);
+  return FixedFormat(typed, factor, decimals);
 }
 
 }  // namespace
@@ -35,19 +33,16 @@ void frmMain::Input_Validate() {
 }
 
 void frmMain::FormatInputs() {
-  TextBox& quantity = ChannelState.SolveForFlow ? tbDepth : tbFlow;
-  for (TextBox* const box : {&quantity, &tbMann, &tbSlope, &tbDiameter, &tbBaseWidth, &tbSSR, &tbSSL}) {
-    box->Text = FormStuff::AddLeadingZero(*box);
+  for (const Field& field : Fields()) {
+    TextBox& box = this->*field.Box;
+    if (field.IsInput()) box.Text = FormStuff::AddLeadingZero(box);
   }
 }
 
 void frmMain::WriteHiddenZeros() {
   const Loading loading(loading_);
-  if (ChannelState.ChannelType == ChannelTypes::Rectangular) {
-    tbSSR.Text = "0";
-    tbSSL.Text = "0";
-  } else if (ChannelState.ChannelType == ChannelTypes::Triangular) {
-    tbBaseWidth.Text = "0";
+  for (const Field& field : Fields()) {
+    if (CurrentChannelType().UseOf(field) == Use::Zero) (this->*field.Box).Text = "0";
   }
 }
 
@@ -56,9 +51,9 @@ void frmMain::ResetForm() {
   ShowTitle();
   {
     const Loading loading(loading_);
-    for (TextBox* const box :
-         {&tbProjName, &tbFlow, &tbDepth, &tbMann, &tbSlope, &tbDiameter, &tbBaseWidth}) {
-      box->Text = "";
+    tbProjName.Text = "";
+    for (const Field& field : Fields()) {
+      if (field.Result != ResultWhen::Always && !field.KeptByNew) (this->*field.Box).Text = "";
     }
     EmptySection();
     WriteHiddenZeros();
@@ -70,9 +65,9 @@ void frmMain::ResetForm() {
 void frmMain::SelectUnits(int units) {
   if (units == ChannelState.UnitsEorM) return;
   MarkProjectChanged();
-  ChannelState.UnitsEorM = units;
+  const int before = std::exchange(ChannelState.UnitsEorM, units);
   SetUnitsEorM();
-  ConvertInput();
+  ConvertInput(before);
   CheckInputs();
 }
 
@@ -83,24 +78,21 @@ void frmMain::mnuOptionsUnitsMetric_Click() {
   SelectUnits(Units::Metric);
 }
 
-void frmMain::ConvertInput() {
+void frmMain::ConvertInput(int before) {
   const Loading loading(loading_);
-  struct Conversion {
-    TextBox& Box;
-    int Quantity, MetricDecimals, EnglishDecimals;
-  };
-  for (const Conversion& each : std::initializer_list<Conversion>{{tbFlow, Units::Flow, 3, 1},
-                                                                  {tbDepth, Units::Length, 3, 2},
-                                                                  {tbDiameter, Units::Diameter, 0, 1},
-                                                                  {tbBaseWidth, Units::Length, 3, 2}}) {
-    each.Box.Text =
-        InOtherUnits(each.Box.Text.Get(), each.Quantity, each.MetricDecimals, each.EnglishDecimals).Text();
+  const int units = ChannelState.UnitsEorM;
+  for (const Field& field : Fields()) {
+    const auto decimals = TypedDecimals(units, field.Quantity);
+    if (field.Result == ResultWhen::Always || !decimals) continue;
+    Property<std::string>& text = (this->*field.Box).Text;
+    text = InOtherUnits(text.Get(), field.Quantity, before, *decimals).Text();
   }
   PointTable& points = ChannelState.IrregPoints;
   if (points[1][1] == EngineValue("")) return;
+  const int decimals = TypedDecimals(units, Units::Length).value();
   for (std::size_t row = 1; row <= static_cast<std::size_t>(ChannelState.IrregPointCount); ++row) {
     for (const std::size_t column : {1U, 2U}) {
-      points[row][column] = InOtherUnits(points[row][column], Units::Length, 3, 2);
+      points[row][column] = InOtherUnits(points[row][column], Units::Length, before, decimals);
     }
   }
 }

@@ -34,11 +34,6 @@ constexpr int DefaultDigits = 3;
 constexpr size_t FirstInput = 4, TypeItem = 12, ModeItem = 13, UnitsItem = 14, NameItem = 15,
                  SigDigsItem = 16, EngDigsItem = 17, PointCountItem = 18, FirstPoint = 19;
 
-/// The input boxes in the order of the file.
-constexpr std::array Inputs = {&Project::Flow,           &Project::Depth,        &Project::ManningN,
-                               &Project::Slope,          &Project::Diameter,     &Project::BaseWidth,
-                               &Project::SideSlopeRight, &Project::SideSlopeLeft};
-
 /// Begins an extra item behind the points that names items by their places: texts that are no number for the
 /// user who typed them but would be one in the file's spelling ("1.5" where the decimal sign is a comma).
 /// They are not respelled.
@@ -177,7 +172,7 @@ std::string Format(const Project& project) {
   records.AddText(CompanyName);
   records.AddText(Declarations::AppTitle);
   records.AddText(VersionText());
-  for (const auto input : Inputs) records.AddTyped(project.*input);
+  for (const std::string& input : project.Inputs) records.AddTyped(input);
   records.AddText(project.ChannelType);
   records.Add(project.SolveForFlow ? True : False);
   records.Add(std::to_string(project.UnitsEorM));
@@ -198,10 +193,10 @@ Project Parse(std::string_view bytes) {
   if (bytes.size() > WholeFile::MaxSize) throw std::runtime_error("too large for a project");
   const ItemList items(bytes);
   Project project;
-  for (size_t i = 0; i < Inputs.size(); ++i) project.*Inputs[i] = items.Typed(FirstInput + i);
+  for (size_t i = 0; i < project.Inputs.size(); ++i) project.Inputs[i] = items.Typed(FirstInput + i);
   project.ChannelType = KnownType(items.At(TypeItem));
   project.SolveForFlow = Boolean(items.At(ModeItem));
-  project.UnitsEorM = WholeNumber(items.At(UnitsItem), Units::English, Units::Metric);
+  project.UnitsEorM = WholeNumber(items.At(UnitsItem), Units::English, Units::Last);
   project.ProjName = items.At(NameItem).Text;
   project.SigDigs = Digits(items.At(SigDigsItem));
   project.EngDigs = Digits(items.At(EngDigsItem));

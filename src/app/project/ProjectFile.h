@@ -14,8 +14,9 @@ namespace ProjectFile {
 
 /// All that a project file keeps. The texts stand as in the boxes, in the user's number locale.
 struct Project {
-  std::string Flow, Depth, ManningN, Slope, Diameter, BaseWidth, SideSlopeRight, SideSlopeLeft;
-  std::string ChannelType;  ///< one of ChannelTypes::All
+  /// Flow, depth, Manning's n, slope, diameter, base width, right and left side slope.
+  std::array<std::string, 8> Inputs;
+  std::string ChannelType;  ///< one that the engine knows
   bool SolveForFlow = false;
   int UnitsEorM = 0;  ///< 0 English, 1 metric
   std::string ProjName;

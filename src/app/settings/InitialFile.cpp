@@ -33,7 +33,7 @@ void LoadPreferences() {
   const bool known = std::ranges::find(ChannelTypes::All, std::string_view(type)) != ChannelTypes::All.end();
   ChannelState.ChannelType = known ? type : ChannelTypes::Circular;
   ChannelState.SolveForFlow = Stored("SolveForFlow") == "True";
-  ChannelState.UnitsEorM = StoredDigit("UnitsEorM", Units::English, Units::Metric, Units::English);
+  ChannelState.UnitsEorM = StoredDigit("UnitsEorM", Units::English, Units::Last, Units::English);
   Declarations::SigDigs = StoredDigit("SigDigs", 1, 5, 3);
   Declarations::EngDigs = StoredDigit("EngDigs", 1, 5, 3);
   Declarations::UserPath = Stored("UserPath");

@@ -91,16 +91,9 @@ constexpr Sign Missing{"missing", "To be filled in", Appearance::Neutral};
 constexpr Sign Wrong{"wrong", "Cannot be used", Appearance::Bad};
 
 const Sign& StatusOf(const frmMain& form) {
-  if (!form.tbArea.Text.Get().empty()) return Solved;
-  bool missing = false;
-  bool wrong = false;
-  for (const TextBox* const box : {&form.tbFlow, &form.tbDepth, &form.tbSlope, &form.tbMann, &form.tbDiameter,
-                                   &form.tbBaseWidth, &form.tbSSL, &form.tbSSR}) {
-    if (box->Locked || !box->Visible) continue;
-    missing = missing || box->Text.Get().empty();
-    wrong = wrong || box->Offending;
-  }
-  return missing && !wrong ? Missing : Wrong;
+  const frmMain::Progress progress = form.CurrentProgress();
+  if (progress == frmMain::Progress::Solved) return Solved;
+  return progress == frmMain::Progress::Missing ? Missing : Wrong;
 }
 
 /// The project file that is being dragged; empty when it is anything else.
