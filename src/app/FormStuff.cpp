@@ -13,13 +13,13 @@ std::string Bound(const char* inclusiveWord, const char* exclusiveWord, bool inc
          PlainNumberInLocale(bound);
 }
 
+}  // namespace
+
 bool Within(double x, const Range& range) {
   if (range.Min && (range.MinInclusive ? x < *range.Min : x <= *range.Min)) return false;
   if (range.Max && (range.MaxInclusive ? x > *range.Max : x >= *range.Max)) return false;
   return true;
 }
-
-}  // namespace
 
 std::string RangeText(const Range& range) {
   std::string text;

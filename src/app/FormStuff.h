@@ -17,6 +17,9 @@ struct Range {
   bool MaxInclusive = false;
 };
 
+/// True when the number is within the bounds.
+bool Within(double x, const Range& range);
+
 /// " greater than 0 and less than 1": what a number of this range must be, with a blank in front.
 std::string RangeText(const Range& range);
 

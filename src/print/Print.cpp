@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "app/Declarations.h"
-#include "engine/ChannelState.h"
+#include "app/main/ChannelTypes.h"
 #include "print/PageWriter.h"
 #include "print/ReportLines.h"
 #include "print/frmTempPic.h"
@@ -31,11 +31,11 @@ void TurnPage(PageWriter& page) {
   page.SetFont(BodyFont);
 }
 
-void Lines(PageWriter& page, const frmMain& main, std::span<const ReportLine> lines) {
-  for (const ReportLine& line : lines) {
+void Lines(PageWriter& page, const frmMain& main, const std::vector<const Field*>& lines) {
+  for (const Field* const line : lines) {
     if (page.IsFull(1)) TurnPage(page);
-    page.Cell(LabelColumn, ValueColumn, (main.*line.Caption).Caption);
-    page.Cell(ValueColumn, page.Right(), line.Value(main));
+    page.Cell(LabelColumn, ValueColumn, (main.*line->Name).Caption);
+    page.Cell(ValueColumn, page.Right(), ReportValue(main, *line));
     page.EndLine();
   }
 }
@@ -75,7 +75,7 @@ void Points(PageWriter& page) {
 void Inputs(PageWriter& page, const frmMain& main) {
   page.SetFont(BodyFont);
   Lines(page, main, ReportInputs());
-  if (ChannelState.ChannelType == ChannelTypes::Irregular) Points(page);
+  if (CurrentChannelType().IsSurveyed()) Points(page);
 }
 
 /// The results stay together where a page can hold them.

@@ -2,10 +2,9 @@
 #include "rating/OpenRating.h"
 
 #include "app/Declarations.h"
-#include "app/Units.h"
-#include "engine/ChannelState.h"
-#include "engine/ManningIrreg.h"
+#include "app/main/Fields.h"
 #include "platform/Services.h"
+#include "rating/RatingSeries.h"
 #include "rating/frmGraph.h"
 #include "rating/frmGraphSettings.h"
 #include "rating/frmTable.h"
@@ -15,12 +14,10 @@ namespace {
 
 /// From nothing up to the depth or flow typed in.
 void SetDefaultRange(int steps) {
-  const ChannelRecord& record = ChannelState;
-  RatingRange.VaryCode = record.SolveForFlow ? Units::Length : Units::Flow;
-  const bool elevation = record.SolveForFlow && record.ChannelType == ChannelTypes::Irregular;
-  RatingRange.RangeMin =
-      elevation ? ManningIrreg::IrregLowPoint(record.IrregEnginePoints, record.IrregPointCount) : 0;
-  RatingRange.RangeMax = record.SolveForFlow ? record.Depth : record.Flow;
+  const Field& given = FieldOf(ChannelState.SolveForFlow ? &frmMain::tbDepth : &frmMain::tbFlow);
+  RatingRange.VaryCode = given.PageQuantity;
+  RatingRange.RangeMin = LowestVaried(given);
+  RatingRange.RangeMax = ChannelState.*given.Cell;
   RatingRange.RangeStep = (RatingRange.RangeMax.Number() - RatingRange.RangeMin.Number()) / steps;
 }
 
@@ -37,7 +34,8 @@ void Open(const frmMain& main) {
 
 void OpenRatingGraph(const frmMain& main) {
   SetDefaultRange(100);
-  RatingRange.GraphYColumn = ChannelState.SolveForFlow ? 1 : 2;
+  const auto solved = ChannelState.SolveForFlow ? &frmMain::tbFlow : &frmMain::tbDepth;
+  RatingRange.GraphYColumn = FieldOf(solved).RatingColumn;
   Open<frmGraphSettings, frmGraph>(main);
 }
 

@@ -7,22 +7,19 @@
 #include "app/Declarations.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
-#include "engine/ManningIrreg.h"
+#include "app/main/ChannelTypes.h"
 #include "engine/NumberText.h"
 #include "rating/RatingSeries.h"
 
 namespace {
 
 /// The inputs that the channel type lets vary; the quantity solved for is none of them.
-std::vector<int> VariableInputs() {
-  const std::string_view type = ChannelState.ChannelType;
-  std::vector<int> codes = {ChannelState.SolveForFlow ? Units::Length : Units::Flow, Units::Slope};
-  if (type != ChannelTypes::Irregular) codes.push_back(Units::Dimensionless);
-  if (type == ChannelTypes::Rectangular || type == ChannelTypes::Trapezoidal) {
-    codes.push_back(Units::BaseWidth);
+std::vector<const Field*> VariableInputs() {
+  std::vector<const Field*> inputs;
+  for (const Field& field : Fields()) {
+    if (field.CanVary() && CurrentChannelType().AsksFor(field)) inputs.push_back(&field);
   }
-  if (type == ChannelTypes::Circular) codes.push_back(Units::Diameter);
-  return codes;
+  return inputs;
 }
 
 bool IsNumber(const TextBox& box) {
@@ -49,13 +46,13 @@ RangeSettings::RangeSettings(std::string name) : Form(std::move(name)) {
 
 void RangeSettings::Form_Load() {
   lblSolveFor.Caption = ChannelState.SolveForFlow ? "Solve for Flow" : "Solve for Depth";
-  codes_ = VariableInputs();
+  inputs_ = VariableInputs();
   std::vector<std::string> names;
-  for (const int code : codes_) names.emplace_back(FindVariedInput(code)->Name);
+  for (const Field* const input : inputs_) names.emplace_back(input->ListName);
   cbxVary.Items = names;
-  const auto current = std::ranges::find(codes_, RatingRange.VaryCode);
-  if (current != codes_.end()) {
-    cbxVary.ListIndex = static_cast<int>(current - codes_.begin());
+  const auto current = std::ranges::find(inputs_, RatingRange.VaryCode, &Field::PageQuantity);
+  if (current != inputs_.end()) {
+    cbxVary.ListIndex = static_cast<int>(current - inputs_.begin());
     tbMin.Text = Shown(RatingRange.RangeMin);
     tbMax.Text = Shown(RatingRange.RangeMax);
   }
@@ -63,19 +60,13 @@ void RangeSettings::Form_Load() {
 }
 
 void RangeSettings::cbxVary_Click() {
-  const int code = codes_[static_cast<std::size_t>(cbxVary.ListIndex)];
-  RatingRange.VaryCode = code;
-  const bool roughness = code == Units::Dimensionless;
-  const bool elevation = code == Units::Length && ChannelState.ChannelType == ChannelTypes::Irregular;
-  tbMin.Text =
-      roughness ? TwoDecimals(0.01)
-      : elevation
-          ? Shown(ManningIrreg::IrregLowPoint(ChannelState.IrregEnginePoints, ChannelState.IrregPointCount))
-          : "0";
-  tbMax.Text = roughness              ? TwoDecimals(0.05)
-               : code == Units::Slope ? TwoDecimals(0.20)
-                                      : Shown(ChannelState.*FindVariedInput(code)->Field);
-  for (const int which : {0, 1}) lblunits[which].Caption = UnitLabel(ChannelState.UnitsEorM, code);
+  const Field& input = *inputs_[static_cast<std::size_t>(cbxVary.ListIndex)];
+  RatingRange.VaryCode = input.PageQuantity;
+  const std::string lowest = input.IsElevation() ? Shown(LowestVaried(input)) : "0";
+  tbMin.Text = input.FirstOffered ? TwoDecimals(*input.FirstOffered) : lowest;
+  tbMax.Text = input.LastOffered ? TwoDecimals(*input.LastOffered) : Shown(ChannelState.*input.Cell);
+  for (const int which : {0, 1})
+    lblunits[which].Caption = UnitLabel(ChannelState.UnitsEorM, RatingRange.VaryCode);
   EnableOK();
 }
 
@@ -115,8 +106,13 @@ double RangeSettings::Internal(const TextBox& box) {
   return LeadingNumber(box.Text.Get()) * UnitFactor(ChannelState.UnitsEorM, RatingRange.VaryCode);
 }
 
+bool RangeSettings::HasFixedDecimals() {
+  const Field* const input = FindVariedInput(RatingRange.VaryCode);
+  return input != nullptr && input->FixedDecimals;
+}
+
 std::string RangeSettings::Shown(const EngineValue& value) {
   // Rounding up might leave the numbers that there are.
   if (!std::isfinite(2 * value.Number())) return value.Text();
-  return ShownNumber(value, RatingRange.VaryCode, RatingRange.VaryCode == Units::Length);
+  return ShownNumber(value, RatingRange.VaryCode, HasFixedDecimals());
 }

@@ -8,6 +8,8 @@
 #include "engine/EngineValue.h"
 #include "platform/Controls.h"
 
+struct Field;
+
 class RangeSettings : public Form {
  public:
   Label lblSolveFor{this, "lblSolveFor"};
@@ -37,9 +39,11 @@ class RangeSettings : public Form {
   static double Internal(const TextBox& box);
   /// A value of the varied input as the boxes show it, from feet and seconds.
   static std::string Shown(const EngineValue& value);
+  /// The varied input is shown with decimals.
+  static bool HasFixedDecimals();
 
  private:
   std::string LastOffence() const;
 
-  std::vector<int> codes_;  // the VaryCode of each line of cbxVary
+  std::vector<const Field*> inputs_;  // each line of cbxVary
 };

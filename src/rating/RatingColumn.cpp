@@ -3,38 +3,20 @@
 
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
+#include "app/main/ChannelTypes.h"
 #include "engine/EngineFault.h"
 
-namespace {
-
-constexpr RatingColumns Columns = {{
-    {},
-    {"Flow, ", Units::Flow, &ChannelRecord::Flow},
-    {"Depth, ", Units::Length, &ChannelRecord::Depth, true},
-    {"Slope, ", Units::Slope, &ChannelRecord::Slope},
-    {"n", Units::Dimensionless, &ChannelRecord::ManningN},
-    {"B.Width, ", Units::BaseWidth, &ChannelRecord::BaseWidth},
-    {"Vel., ", Units::Velocity, &ChannelRecord::Velocity},
-    {"Vel.H., ", Units::Length, &ChannelRecord::VelocityHead},
-    {"Area, ", Units::Area, &ChannelRecord::Area},
-    {"WP, ", Units::Length, &ChannelRecord::WettedPerimeter},
-    {"H.Rad., ", Units::Length, &ChannelRecord::HydraulicRadius},
-    {"Top W., ", Units::Length, &ChannelRecord::TopWidth},
-    {"Froude#", Units::Dimensionless, &ChannelRecord::Froude},
-    {"Crit.D., ", Units::Length, &ChannelRecord::CriticalDepth, true},
-    {"Crit.S., ", Units::Slope, &ChannelRecord::CriticalSlope},
-}};
-
-}  // namespace
-
 RatingColumns CurrentRatingColumns() {
-  RatingColumns columns = Columns;
-  if (ChannelState.ChannelType == ChannelTypes::Circular) {
-    columns[5] = {"Dia., ", Units::Diameter, &ChannelRecord::Diameter};
-  } else if (ChannelState.ChannelType == ChannelTypes::Irregular) {
-    columns[2].Caption = "WSEL, ";
-    columns[5] = {"Irr.Geom."};
-    columns[14] = {};
+  const ChannelType& type = CurrentChannelType();
+  RatingColumns columns;
+  for (const Field& field : Fields()) {
+    if (field.RatingColumn == 0) continue;
+    RatingColumn& column = columns.at(static_cast<std::size_t>(field.RatingColumn));
+    if (type.Has(field)) {
+      column = {field.RatingHead.Current(), field.PageQuantity, field.Cell, field.FixedDecimals};
+    } else if (field.HeadWithout != nullptr && *column.Caption == '\0') {
+      column = {field.HeadWithout};
+    }
   }
   return columns;
 }

@@ -1,26 +1,15 @@
 // See RatingSeries.h.
 #include "rating/RatingSeries.h"
 
-#include <algorithm>
 #include <cmath>
-#include <initializer_list>
-#include <iterator>
 
 #include "app/Units.h"
+#include "app/main/ChannelTypes.h"
 #include "engine/EngineFault.h"
 #include "engine/ManningIrreg.h"
 #include "engine/SolveChannel.h"
 
 namespace {
-
-constexpr VariedInput VariedInputs[] = {
-    {"Depth", &ChannelRecord::Depth, Units::Length, 2},
-    {"Flow", &ChannelRecord::Flow, Units::Flow, 1},
-    {"Slope", &ChannelRecord::Slope, Units::Slope, 3},
-    {"Diameter", &ChannelRecord::Diameter, Units::Diameter, 5},
-    {"Base Width", &ChannelRecord::BaseWidth, Units::BaseWidth, 5},
-    {"Mannings n", &ChannelRecord::ManningN, Units::Dimensionless, 4},
-};
 
 constexpr double SnapDistance = 1e-10;  // internal units
 
@@ -46,22 +35,28 @@ bool SolvePoint(int varyCode) {
 
 }  // namespace
 
-const VariedInput* FindVariedInput(int varyCode) {
-  const auto* const found =
-      std::ranges::find_if(VariedInputs, [=](const VariedInput& each) { return each.VaryCode == varyCode; });
-  return found == std::end(VariedInputs) ? nullptr : found;
+const Field* FindVariedInput(int varyCode) {
+  for (const Field& field : Fields()) {
+    if (field.CanVary() && field.PageQuantity == varyCode) return &field;
+  }
+  return nullptr;
+}
+
+double LowestVaried(const Field& field) {
+  if (!field.IsElevation()) return 0;
+  return ManningIrreg::IrregLowPoint(ChannelState.IrregEnginePoints, ChannelState.IrregPointCount);
 }
 
 void RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastValue lastValue,
                      const std::function<void(int row)>& store) {
   const RestoredInputs restored(main);
-  const VariedInput* const input = FindVariedInput(range.VaryCode);
+  const Field* const input = FindVariedInput(range.VaryCode);
   const double last = range.RangeMax.Number();
   const double step = range.RangeStep.Number();
   bool maySnap = lastValue == LastValue::Snapped;
   int rows = 0;
   for (double x = range.RangeMin.Number(); x <= last;) {
-    if (input != nullptr) ChannelState.*input->Field = x;
+    if (input != nullptr) ChannelState.*input->Cell = x;
     try {
       if (SolvePoint(range.VaryCode)) {
         store(rows + 1);
@@ -81,51 +76,21 @@ void RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastVa
 
 bool IsRatingPointValid(int varyCode) {
   const ChannelRecord& record = ChannelState;
-  const bool irregular = record.ChannelType == ChannelTypes::Irregular;
-  switch (varyCode) {
-    case Units::Length: {
-      const double depth = record.Depth.Number();
-      if (irregular) {
-        return depth > ManningIrreg::IrregLowPoint(record.IrregEnginePoints, record.IrregPointCount);
-      }
-      const bool circular = record.ChannelType == ChannelTypes::Circular;
-      return depth > 0 && !(circular && depth > record.Diameter.Number());
-    }
-    case Units::Flow:
-      return record.Flow.Number() > 0;
-    case Units::Slope:
-      return record.Slope.Number() > 0 && record.Slope.Number() <= 1;
-    case Units::Diameter: {
-      const double diameter = record.Diameter.Number();
-      return diameter > 0 && !(record.SolveForFlow && record.Depth.Number() > diameter);
-    }
-    case Units::BaseWidth:
-      return record.BaseWidth.Number() >= 0;
-    case Units::Dimensionless: {
-      const double n = record.ManningN.Number();
-      return irregular || (n > 0 && n <= 1);
-    }
-    default:
-      return true;
-  }
+  const ChannelType& type = CurrentChannelType();
+  const Field* const varied = FindVariedInput(varyCode);
+  if (varied == nullptr || !type.Has(*varied)) return true;
+  const double x = (record.*varied->Cell).Number();
+  if (varied->IsElevation()) return x > LowestVaried(*varied);
+  const bool aboveCrown =
+      type.Is == Shape::Pipe && record.SolveForFlow && record.Depth.Number() > record.Diameter.Number();
+  return FormStuff::Within(x, varied->RatedBounds) && !aboveCrown;
 }
 
 void RestoreInputsFromMain(const frmMain& main) {
-  struct Input {
-    const TextBox& Box;
-    EngineValue& Cell;
-    int Quantity;
-  };
-  ChannelRecord& record = ChannelState;
-  for (const Input& each :
-       std::initializer_list<Input>{{main.tbDepth, record.Depth, Units::Length},
-                                    {main.tbFlow, record.Flow, Units::Flow},
-                                    {main.tbMann, record.ManningN, Units::Dimensionless},
-                                    {main.tbSlope, record.Slope, Units::Slope},
-                                    {main.tbDiameter, record.Diameter, Units::Diameter},
-                                    {main.tbBaseWidth, record.BaseWidth, Units::BaseWidth}}) {
-    const EngineValue typed(each.Box.Text.Get());
-    if (typed.IsNumeric()) each.Cell = typed.Number() * UnitFactor(record.UnitsEorM, each.Quantity);
+  for (const Field& field : Fields()) {
+    const EngineValue typed((main.*field.Box).Text.Get());
+    if (!field.CanVary() || !typed.IsNumeric()) continue;
+    ChannelState.*field.Cell = typed.Number() * UnitFactor(ChannelState.UnitsEorM, field.Quantity);
   }
   frmMain::FillPipe();
 }

@@ -5,19 +5,17 @@
 #include <functional>
 
 #include "app/Declarations.h"
+#include "app/main/Fields.h"
 #include "app/main/frmMain.h"
 #include "engine/ChannelState.h"
 
-/// An input that a series can vary.
-struct VariedInput {
-  const char* Name;
-  EngineValue ChannelRecord::*Field;
-  int VaryCode;  ///< its row of the unit table
-  int Column;    ///< where the rating columns show it
-};
+/// The input that a series varies under this code, which is its row of the unit table; null for a code of
+/// none.
+const Field* FindVariedInput(int varyCode);
 
-/// The input of this code; null for a code of none.
-const VariedInput* FindVariedInput(int varyCode);
+/// Where the range that is offered for a varied input begins, in feet and seconds: at 0, or at the lowest
+/// point of a surveyed section. EngineFault for a section without points.
+double LowestVaried(const Field& field);
 
 /// What becomes of a last value that the added-up steps miss by a rounding.
 enum class LastValue { AsStepped, Snapped };

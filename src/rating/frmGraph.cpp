@@ -54,8 +54,8 @@ void frmGraph::ShowSettings() {
 
 void frmGraph::LoadGraph() {
   const RatingColumns columns = CurrentRatingColumns();
-  const VariedInput* const varied = FindVariedInput(RatingRange.VaryCode);
-  const RatingColumn& x = columns.at(static_cast<std::size_t>(varied->Column));
+  const Field* const varied = FindVariedInput(RatingRange.VaryCode);
+  const RatingColumn& x = columns.at(static_cast<std::size_t>(varied->RatingColumn));
   const RatingColumn& y = columns.at(static_cast<std::size_t>(RatingRange.GraphYColumn));
   std::vector<XYChart::Row> rows;
   FallingFlow falling;

@@ -1,32 +1,22 @@
 // See frmGraphSettings.h.
 #include "rating/frmGraphSettings.h"
 
-#include <algorithm>
-#include <array>
+#include <vector>
 
 #include "app/Declarations.h"
-#include "engine/ChannelState.h"
+#include "app/main/Fields.h"
 
 namespace {
 
 constexpr int Steps = 200;
 
-struct PlottedResult {
-  const char* Name;
-  int Column;  ///< of the rating columns
-};
-
 /// What can be plotted, headed by the quantity solved for.
-std::array<PlottedResult, 9> PlottedResults() {
-  return {{ChannelState.SolveForFlow ? PlottedResult{"Flow", 1} : PlottedResult{"Depth", 2},
-           {"Velocity", 6},
-           {"Velocity Head", 7},
-           {"Area", 8},
-           {"Wetted Perimeter", 9},
-           {"Hydraulic Radius", 10},
-           {"Top Width", 11},
-           {"Froude No.", 12},
-           {"Critical Depth", 13}}};
+std::vector<const Field*> PlottedResults() {
+  std::vector<const Field*> results;
+  for (const Field& field : Fields()) {
+    if (field.IsResult() && field.ListName != nullptr) results.push_back(&field);
+  }
+  return results;
 }
 
 }  // namespace
@@ -41,9 +31,9 @@ frmGraphSettings::frmGraphSettings() : RangeSettings("frmGraphSettings") {
 void frmGraphSettings::Form_Load() {
   std::vector<std::string> names;
   int plotted = -1;
-  for (const PlottedResult& each : PlottedResults()) {
-    if (each.Column == RatingRange.GraphYColumn) plotted = static_cast<int>(names.size());
-    names.emplace_back(each.Name);
+  for (const Field* const each : PlottedResults()) {
+    if (each->RatingColumn == RatingRange.GraphYColumn) plotted = static_cast<int>(names.size());
+    names.emplace_back(each->ListName);
   }
   cbxY.Items = names;
   RangeSettings::Form_Load();
@@ -51,7 +41,7 @@ void frmGraphSettings::Form_Load() {
 }
 
 void frmGraphSettings::cbxY_Click() {
-  RatingRange.GraphYColumn = PlottedResults()[static_cast<std::size_t>(cbxY.ListIndex)].Column;
+  RatingRange.GraphYColumn = PlottedResults()[static_cast<std::size_t>(cbxY.ListIndex)]->RatingColumn;
   EnableOK();
 }
 

@@ -32,7 +32,7 @@ void frmTableSettings::Form_Load() {
 void frmTableSettings::cbxVary_Click() {
   RangeSettings::cbxVary_Click();
   const double step = (NumberIn(tbMax) - NumberIn(tbMin)) / DefaultSteps;  // already in the unit on display
-  tbIncrement.Text = ShownNumber(step, Units::Dimensionless, RatingRange.VaryCode == Units::Length);
+  tbIncrement.Text = ShownNumber(step, Units::Dimensionless, HasFixedDecimals());
 }
 
 bool frmTableSettings::MarkStep() {

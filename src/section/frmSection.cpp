@@ -4,14 +4,15 @@
 #include "app/Declarations.h"
 #include "app/ExportFile.h"
 #include "app/Units.h"
-#include "engine/ChannelState.h"
+#include "app/main/ChannelTypes.h"
 #include "engine/NumberText.h"
 
 namespace {
 
 /// Inches in a foot, millimetres in a metre: diameters are typed in the smaller unit.
 double DiametersInLength() {
-  return ChannelState.UnitsEorM == Units::Metric ? 1000 : 12;
+  const int units = ChannelState.UnitsEorM;
+  return UnitFactor(units, Units::Length) / UnitFactor(units, Units::Diameter);
 }
 
 double NumberIn(const TextBox& box) {
@@ -35,24 +36,26 @@ void frmSection::Form_Load() {
 }
 
 SectionTable::Table frmSection::Coordinates() const {
-  const ChannelRecord& record = ChannelState;
   const double depth = NumberIn(main_.tbDepth);
-  if (record.ChannelType == ChannelTypes::Irregular)
-    return SectionTable::Irregular(record.IrregPoints, record.IrregPointCount, depth);
-  if (record.ChannelType == ChannelTypes::Circular) {
-    return SectionTable::Circular(NumberIn(main_.tbDiameter) / DiametersInLength(), depth,
-                                  NumberIn(main_.tbTopW));
+  switch (CurrentChannelType().Is) {
+    case Shape::Survey:
+      return SectionTable::Irregular(ChannelState.IrregPoints, ChannelState.IrregPointCount, depth);
+    case Shape::Pipe:
+      return SectionTable::Circular(NumberIn(main_.tbDiameter) / DiametersInLength(), depth,
+                                    NumberIn(main_.tbTopW));
+    case Shape::Prism:
+      break;
   }
   return SectionTable::Prismatic(NumberIn(main_.tbBaseWidth), NumberIn(main_.tbSSL), NumberIn(main_.tbSSR),
                                  depth);
 }
 
 void frmSection::DrawChannel() {
-  const bool surveyed = ChannelState.ChannelType == ChannelTypes::Irregular;
+  const bool surveyed = CurrentChannelType().IsSurveyed();
   const std::string unit = UnitLabel(ChannelState.UnitsEorM, Units::Length);
   MSChart1.XTitle = (surveyed ? "Station, " : "Distance, ") + unit;
   MSChart1.YTitle = (surveyed ? "Elevation, " : "Height, ") + unit;
-  MSChart1.UniformAxis = ChannelState.ChannelType == ChannelTypes::Circular;
+  MSChart1.UniformAxis = CurrentChannelType().Is == Shape::Pipe;
   const SectionTable::Table table = Coordinates();
   pools_ = SectionTable::Pools(table);
   if (surveyed) {

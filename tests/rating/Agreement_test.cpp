@@ -117,7 +117,7 @@ class Agreement : public ProgramStage {
     const auto graph = Graph(line, plotted);
     ASSERT_LE(table.size() - graph.size(), 1U) << "the table alone snaps to the last point";
     const int column = plotted > 0 ? plotted + 5 : ChannelState.SolveForFlow ? 1 : 2;
-    const int varied = FindVariedInput(RatingRange.VaryCode)->Column;
+    const int varied = FindVariedInput(RatingRange.VaryCode)->RatingColumn;
     TextBox* const boxes[] = {nullptr, &Main.tbDepth, &Main.tbFlow,      &Main.tbSlope, &Main.tbDiameter,
                               nullptr, nullptr,       &Main.tbBaseWidth, &Main.tbMann};
     TextBox& box = *boxes[RatingRange.VaryCode];

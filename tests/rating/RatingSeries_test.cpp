@@ -25,8 +25,8 @@ class Series : public ProgramStage {
   Values Kept(const RatingRangeRecord& range, LastValue lastValue = LastValue::Snapped) {
     Values kept;
     RunRatingSeries(Main, range, lastValue, [&](int row) {
-      const VariedInput* const input = FindVariedInput(range.VaryCode);
-      kept.push_back(input == nullptr ? row : (ChannelState.*input->Field).Number());
+      const Field* const input = FindVariedInput(range.VaryCode);
+      kept.push_back(input == nullptr ? row : (ChannelState.*input->Cell).Number());
       EXPECT_EQ(row, static_cast<int>(kept.size()));
     });
     return kept;

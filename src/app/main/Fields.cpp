@@ -255,6 +255,10 @@ bool Field::IsResult() const {
   return Result == ResultWhen::Always || Result == mode;
 }
 
+bool Field::IsElevation() const {
+  return SurveyedOffence != nullptr && CurrentChannelType().IsSurveyed();
+}
+
 std::span<const Field> Fields() {
   return Rows;
 }

@@ -65,6 +65,10 @@ struct Field {
   /// In the mode in force the program writes the box.
   bool IsResult() const;
   bool IsInput() const { return !IsResult(); }
+  /// A rating series can vary it.
+  bool CanVary() const { return ListName != nullptr && Result != ResultWhen::Always; }
+  /// A water-surface elevation is asked for in its place.
+  bool IsElevation() const;
 };
 
 /// Inputs, then results, in the order of the main window.

@@ -79,7 +79,7 @@ std::string frmMain::OffenceOf(const Field& field) const {
   const ChannelType& type = CurrentChannelType();
   if (field.IsResult() || !type.Has(field)) return "";
   const std::string& typed = (this->*field.Box).Text;
-  if (type.IsSurveyed() && field.SurveyedOffence != nullptr) return field.SurveyedOffence(typed);
+  if (field.IsElevation()) return field.SurveyedOffence(typed);
   const FormStuff::Range& allowed = field.Bounds;
   const bool within = FormStuff::CheckRange(typed, allowed.Min, allowed.MinInclusive, allowed.Max,
                                             allowed.MaxInclusive, false);
