@@ -13,17 +13,11 @@ namespace {
 
 enum Column { CaptionColumn, SymbolColumn, BoxColumn, UnitColumn };
 
-QString SymbolOf(const FieldPanel::Field& field) {
-  const QString symbols = QLatin1String(field.Symbol);
-  const bool elevation = field.Caption.Caption.Get().find("WSElev") != std::string::npos;
-  return symbols.section(QLatin1Char('|'), elevation ? -1 : 0, elevation ? -1 : 0);
-}
-
 /// What a screen reader adds to the name of the box: its unit, and why it cannot be used.
 QString Description(const FieldPanel::Field& field) {
   QStringList parts;
   if (field.Unit != nullptr) parts << Printed(field.Unit->Caption.Get());
-  if (field.FixedUnit != nullptr) parts << QLatin1String(field.FixedUnit);
+  parts << QLatin1String(field.FixedUnit);
   parts << ToQt(field.Box.ToolTip.Get());
   parts.removeAll(QString());
   return parts.join(QLatin1String(", "));
@@ -54,9 +48,9 @@ BoxEdit* FieldPanel::AddField(const Field& field) {
   box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   auto* const symbol = new QLabel(this);
   auto* const unit = field.Unit != nullptr ? Bind::Caption(*field.Unit, this) : new QLabel(this);
-  if (field.FixedUnit != nullptr) unit->setText(QLatin1String(field.FixedUnit));
+  if (field.Unit == nullptr) unit->setText(QLatin1String(field.FixedUnit));
   Bind::Follow(field.Caption.Caption, this,
-               [field, symbol] { symbol->setText(SymbolAsRichText(SymbolOf(field))); });
+               [field, symbol] { symbol->setText(SymbolAsRichText(QLatin1String(field.Symbol.Current()))); });
   Bind::Follow(field.Caption.Visible, this, [field, symbol, unit] {
     symbol->setVisible(field.Caption.Visible);
     if (field.Unit == nullptr) unit->setVisible(field.Caption.Visible);

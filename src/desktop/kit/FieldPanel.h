@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "platform/Controls.h"
+#include "app/main/Fields.h"
 
 class BoxEdit;
 class QGridLayout;
@@ -18,7 +18,7 @@ class FieldPanel : public QWidget {
     TextBox& Box;
     Label* Unit;               ///< null: the unit is `FixedUnit`
     const char* FixedUnit;     ///< in the place of a unit, for example ":1"
-    const char* Symbol;        ///< as in Symbol.h; behind "|" stands that of a water-surface elevation
+    Wording Symbol;            ///< as in Symbol.h
     std::string_view Letters;  ///< candidates for the mnemonic
   };
   BoxEdit* AddField(const Field& field);

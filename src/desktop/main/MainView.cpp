@@ -14,6 +14,7 @@
 
 #include "app/Declarations.h"
 #include "app/Units.h"
+#include "app/main/Fields.h"
 #include "desktop/kit/Appearance.h"
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/FieldPanel.h"
@@ -24,46 +25,13 @@
 
 namespace {
 
-struct FieldRow {
-  Label frmMain::*Caption;
-  TextBox frmMain::*Box;
-  Label frmMain::*Unit;
-  const char* FixedUnit;
-  const char* Symbol;
-  const char* Letters;  // unique in the window, the menu titles (F, E, S, O, H) included
-};
-
-constexpr FieldRow FlowRows[] = {
-    {&frmMain::lblFlow, &frmMain::tbFlow, &frmMain::lblFlowUnits, nullptr, "Q", "w"},
-    {&frmMain::lblDepth, &frmMain::tbDepth, &frmMain::lblDepthUnits, nullptr, "y|W", "dv"},
-    {&frmMain::lblSlope, &frmMain::tbSlope, &frmMain::lblSlopeUnits, nullptr, "S", "p"},
-    {&frmMain::lblMann, &frmMain::tbMann, nullptr, nullptr, "n", "m"},
-};
-
-constexpr FieldRow ShapeRows[] = {
-    {&frmMain::lblDiameter, &frmMain::tbDiameter, &frmMain::lblDiameterUnits, nullptr, "D", "a"},
-    {&frmMain::lblBaseWidth, &frmMain::tbBaseWidth, &frmMain::lblBaseWidthUnits, nullptr, "b", "b"},
-    {&frmMain::lblSSL, &frmMain::tbSSL, nullptr, ":1", "z_L", "l"},
-    {&frmMain::lblSSR, &frmMain::tbSSR, nullptr, ":1", "z_R", "r"},
-};
-
-constexpr FieldRow ResultRows[] = {
-    {&frmMain::lblVelocity, &frmMain::tbVelocity, &frmMain::lblVelocityUnits, nullptr, "V", ""},
-    {&frmMain::lblVelHead, &frmMain::tbVelHead, &frmMain::lblVelHeadUnits, nullptr, "h_v", ""},
-    {&frmMain::lblArea, &frmMain::tbArea, &frmMain::lblFlowAreaUnits, nullptr, "A", ""},
-    {&frmMain::lblWP, &frmMain::tbWP, &frmMain::lblWPunits, nullptr, "P", ""},
-    {&frmMain::lblHRad, &frmMain::tbHRad, &frmMain::lblHRadUnits, nullptr, "R", ""},
-    {&frmMain::lblTopW, &frmMain::tbTopW, &frmMain::lblTopWUnits, nullptr, "T", ""},
-    {&frmMain::lblFroude, &frmMain::tbFroude, nullptr, nullptr, "Fr", ""},
-    {&frmMain::lblCritD, &frmMain::tbCritD, &frmMain::lblCritdUnits, nullptr, "y_c|W_c", ""},
-    {&frmMain::lblCritS, &frmMain::tbCritS, &frmMain::lblCritSUnits, nullptr, "S_c", ""},
-};
-
-template <std::size_t Count>
-void AddRows(FieldPanel& panel, frmMain& form, const FieldRow (&rows)[Count]) {
-  for (const FieldRow& row : rows) {
-    panel.AddField({form.*row.Caption, form.*row.Box, row.Unit == nullptr ? nullptr : &(form.*row.Unit),
-                    row.FixedUnit, row.Symbol, row.Letters});
+/// One row of a field, and the button that picks its number below it.
+void AddRow(FieldPanel& panel, frmMain& form, const Field& field) {
+  panel.AddField({form.*field.Name, form.*field.Box, field.Unit == nullptr ? nullptr : &(form.*field.Unit),
+                  field.Suffix, field.Symbol, field.Mnemonic});
+  const Picker& picker = field.Choose;
+  if (picker.Press != nullptr) {
+    panel.AddUnderBox(Bind::Push(form.*picker.Press, &panel, picker.Mnemonic));
   }
 }
 
@@ -155,16 +123,18 @@ QWidget* MainView::ProjectRow(QWidget* parent) {
 
 FieldPanel* MainView::Inputs(QWidget* parent) {
   auto* const panel = new FieldPanel(Bind::Caption(form_.lblChanType, parent), parent);
-  AddRows(*panel, form_, FlowRows);
-  panel->AddUnderBox(Bind::Push(form_.cmdMannParams, panel, "t"));
-  AddRows(*panel, form_, ShapeRows);
+  for (const Field& field : Fields()) {
+    if (field.Result != ResultWhen::Always) AddRow(*panel, form_, field);
+  }
   panel->AddUnderBox(Bind::Push(form_.cmdIrreg, panel, "i"));
   return panel;
 }
 
 FieldPanel* MainView::Results(QWidget* parent) {
   auto* const panel = new FieldPanel(new QLabel(QStringLiteral("Results"), parent), parent);
-  AddRows(*panel, form_, ResultRows);
+  for (const Field& field : Fields()) {
+    if (field.Result == ResultWhen::Always) AddRow(*panel, form_, field);
+  }
   return panel;
 }
 

@@ -5,7 +5,9 @@
 #include <QMenuBar>
 #include <QToolBar>
 #include <initializer_list>
+#include <vector>
 
+#include "app/main/ChannelTypes.h"
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/LineIcon.h"
 #include "desktop/kit/ToolBar.h"
@@ -31,7 +33,7 @@ void ShowWhileUsed(QMenu* menu) {
   menu->menuAction()->setVisible(used);
 }
 
-QMenu* MakeMenu(frmMain& form, QMenuBar* bar, const char* title, const std::initializer_list<ItemRow>& rows) {
+QMenu* MakeMenu(frmMain& form, QMenuBar* bar, const char* title, const std::vector<ItemRow>& rows) {
   QMenu* const menu = bar->addMenu(QLatin1String(title));
   QActionGroup* choices = nullptr;
   for (const ItemRow& row : rows) {
@@ -82,17 +84,16 @@ void MainView::AddMenus() {
             {&frmMain::mnuSolveGraph, "g"},
             {&frmMain::mnuSolveTable, "t"},
             {&frmMain::mnuSolveSection, "c"}});
-  MakeMenu(form_, bar, "&Options",
-           {{&frmMain::mnuOptionsRect, "r", {}, Kind::Choice},
-            {&frmMain::mnuOptionsTriangular, "t", {}, Kind::Choice},
-            {&frmMain::mnuOptionsTrap, "p", {}, Kind::Choice},
-            {&frmMain::mnuOptionsCircular, "c", {}, Kind::Choice},
-            {&frmMain::mnuOptionsIrreg, "i", {}, Kind::Choice},
-            {Separator},
-            {&frmMain::mnuOptionsUnitsEnglish, "e", {}, Kind::Choice},
-            {&frmMain::mnuOptionsUnitsMetric, "m", {}, Kind::Choice},
-            {Separator},
-            {&frmMain::mnuOptionsDigits, "d"}});
+  std::vector<ItemRow> options;
+  for (const ChannelType& type : AllChannelTypes()) {
+    options.push_back({type.Item, type.Mnemonic, {}, Kind::Choice});
+  }
+  options.insert(options.end(), {{Separator},
+                                 {&frmMain::mnuOptionsUnitsEnglish, "e", {}, Kind::Choice},
+                                 {&frmMain::mnuOptionsUnitsMetric, "m", {}, Kind::Choice},
+                                 {Separator},
+                                 {&frmMain::mnuOptionsDigits, "d"}});
+  MakeMenu(form_, bar, "&Options", options);
   MakeMenu(form_, bar, "&Help",
            {{&frmMain::mnuHelpContents, "c"},
             {&frmMain::mnuHelpIndex, "i"},

@@ -6,10 +6,10 @@
 #include <QPainter>
 
 #include "app/Units.h"
+#include "app/main/ChannelTypes.h"
 #include "desktop/kit/Appearance.h"
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/Text.h"
-#include "engine/ChannelState.h"
 #include "engine/NumberText.h"
 
 namespace {
@@ -20,13 +20,16 @@ std::optional<double> NumberIn(const TextBox& box) {
   return LeadingNumber(box.Text.Get());
 }
 
-/// The symbol with the text of its box and its unit, when that is a number; nothing for a box that is hidden.
-ShapeLabel LabelOf(const char* symbol, const TextBox& box, const Label* unit) {
+/// The symbol of a box with its text and unit, when that is a number; nothing for a box that is hidden. A
+/// side slope is drawn with its 1.
+ShapeLabel LabelOf(const frmMain& form, TextBox frmMain::*of) {
+  const Field& field = FieldOf(of);
+  const TextBox& box = form.*of;
   if (!box.Visible) return {};
-  ShapeLabel label{QLatin1String(symbol), {}};
+  ShapeLabel label{QLatin1String(field.Symbol.Current()), {}};
   if (!IsNumeric(box.Text.Get()) || box.Length() > 14) return label;
   label.Value = QLatin1String(" = ") + ToQt(box.Text.Get()).trimmed();
-  if (unit != nullptr) label.Value += QLatin1Char(' ') + ToQt(unit->Caption.Get());
+  if (field.Unit != nullptr) label.Value += QLatin1Char(' ') + ToQt((form.*field.Unit).Caption.Get());
   return label;
 }
 
@@ -54,13 +57,11 @@ ShapeInputs InputsOf(const frmMain& form) {
 }
 
 ShapeLabels LabelsOf(const frmMain& form) {
-  const bool irregular = ChannelState.ChannelType == ChannelTypes::Irregular;
-  return {LabelOf(irregular ? "W" : "y", form.tbDepth, &form.lblDepthUnits),
-          LabelOf("b", form.tbBaseWidth, &form.lblBaseWidthUnits),
-          LabelOf("z_L", form.tbSSL, nullptr),
-          LabelOf("z_R", form.tbSSR, nullptr),
-          LabelOf("D", form.tbDiameter, &form.lblDiameterUnits),
-          irregular ? ShapeLabel{QStringLiteral("n"), {}} : LabelOf("n", form.tbMann, nullptr)};
+  ShapeLabels labels{LabelOf(form, &frmMain::tbDepth),    LabelOf(form, &frmMain::tbBaseWidth),
+                     LabelOf(form, &frmMain::tbSSL),      LabelOf(form, &frmMain::tbSSR),
+                     LabelOf(form, &frmMain::tbDiameter), LabelOf(form, &frmMain::tbMann)};
+  if (CurrentChannelType().IsSurveyed()) labels.Roughness.Symbol = QStringLiteral("n");
+  return labels;
 }
 
 void DrawArrow(QPainter& painter, const QLineF& line, double em) {
@@ -115,17 +116,16 @@ ShapeWidget::ShapeWidget(frmMain& form, QWidget* parent) : QWidget(parent), form
   setAccessibleName(QStringLiteral("Cross-section"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   const auto refresh = [this] { Refresh(); };
-  for (TextBox* const box :
-       {&form.tbDepth, &form.tbMann, &form.tbBaseWidth, &form.tbSSL, &form.tbSSR, &form.tbDiameter}) {
-    Bind::Follow(box->Text, this, refresh);
+  for (const Field& field : Fields()) {
+    if (field.Result == ResultWhen::Always) continue;
+    TextBox& box = form.*field.Box;
+    Bind::Follow(box.Text, this, refresh);
+    Bind::Follow(box.Visible, this, refresh);
   }
   Bind::Follow(form.lblChanType.Caption, this, refresh);
   // The unit system shows in both.
   Bind::Follow(form.lblDepthUnits.Caption, this, refresh);
   Bind::Follow(form.lblDiameterUnits.Caption, this, refresh);
-  for (TextBox* const box : {&form.tbMann, &form.tbBaseWidth, &form.tbSSL, &form.tbSSR, &form.tbDiameter}) {
-    Bind::Follow(box->Visible, this, refresh);
-  }
 }
 
 QSize ShapeWidget::minimumSizeHint() const {

@@ -3,21 +3,20 @@
 
 #include <QAction>
 #include <QMenu>
-#include <string_view>
 
 #include "app/Declarations.h"
 #include "app/Units.h"
-#include "engine/ChannelState.h"
+#include "app/main/ChannelTypes.h"
 
 namespace {
 
 const char* Rule() {
-  const std::string_view type = ChannelState.ChannelType;
   switch (RatingRange.VaryCode) {
     case Units::Length:
-      return type == ChannelTypes::Irregular  ? "Levels must be above the lowest point of the section."
-             : type == ChannelTypes::Circular ? "Depths must be greater than 0 and not above the diameter."
-                                              : "Depths must be greater than 0.";
+      return CurrentChannelType().IsSurveyed() ? "Levels must be above the lowest point of the section."
+             : CurrentChannelType().Is == Shape::Pipe
+                 ? "Depths must be greater than 0 and not above the diameter."
+                 : "Depths must be greater than 0.";
     case Units::Flow:
       return "Flows must be greater than 0.";
     case Units::Slope:
