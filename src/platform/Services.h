@@ -50,6 +50,16 @@ struct PrintFont {
   std::string_view Name;
   int Size = 0;  ///< points
   bool Bold = false, Italic = false, Underline = false;
+
+  /// Twips from one line to the next: Arial's own spacing is 1.15 of its size, and 20 twips are a point.
+  constexpr int LineHeight() const { return Size * 20 * 115 / 100; }
+};
+
+/// What a printed text is, which decides how the painter sets one that is wider than its room.
+enum class PrintedAs {
+  Value,     ///< a caption, or a number and its unit: condensed; exponents are raised ("m^2")
+  Name,      ///< as typed: wrapped onto a second line, which ends with "…" where it is too long as well
+  FilePath,  ///< likewise, but the ellipsis stands inside the second line and its end stays
 };
 
 /// The page that is printed on. Positions and sizes are in twips (1440 to the inch), from the left top corner
@@ -61,8 +71,9 @@ class Printer {
   virtual int PageHeight() const = 0;
   /// For the texts that follow, on this page and the next ones.
   virtual void SetFont(const PrintFont& font) = 0;
-  /// One line of text, its left top corner at (x, y); letters that take more than `maxWidth` are condensed.
-  virtual void Text(int x, int y, const std::string& text, int maxWidth) = 0;
+  /// A text, its top left corner at (x, y), at most `maxWidth` wide. Returns the number of lines it took, 1
+  /// or 2, each a line height of the font below the one before.
+  virtual int Text(int x, int y, const std::string& text, int maxWidth, PrintedAs as = PrintedAs::Value) = 0;
   virtual void Line(int x1, int y1, int x2, int y2, int penWidth) = 0;
   /// The chart as it is now, in light colours; it must live until the end of the document.
   virtual void Picture(const XYChart& chart, int x, int y, int width, int height) = 0;

@@ -25,28 +25,22 @@ void PageWriter::SetFont(const PrintFont& font) {
   printer_.SetFont(font);
 }
 
-// Arial's own line spacing is 1.15 of its size; 20 twips are a point.
-int PageWriter::LineHeight() const {
-  return font_.Size * 20 * 115 / 100;
+int PageWriter::Cell(int x, int right, const std::string& text, PrintedAs as) {
+  return printer_.Text(x, y_, text, right - x - CellGap, as);
 }
 
-void PageWriter::Cell(int x, int right, const std::string& text) {
-  printer_.Text(x, y_, text, right - x - CellGap);
-}
-
-void PageWriter::Line(const std::string& text) {
-  Cell(Layout::LeftMargin, Right(), text);
-  EndLine();
+void PageWriter::Line(const std::string& text, PrintedAs as) {
+  EndLine(Cell(Layout::LeftMargin, Right(), text, as));
 }
 
 bool PageWriter::IsFull(int lines) const {
-  return y_ + lines * LineHeight() > FooterRule() && y_ > Layout::BodyTop;
+  return y_ + lines * font_.LineHeight() > FooterRule() && y_ > Layout::BodyTop;
 }
 
 void PageWriter::Header() {
   SetFont(TitleFont);
   MoveTo(TitleTop);
-  Line(main_.tbProjName.Text);
+  Line(main_.tbProjName.Text, PrintedAs::Name);
   Line("Manning's Equation - " + ChannelState.ChannelType);
   MoveTo(Layout::BodyTop);
 }
@@ -55,7 +49,7 @@ void PageWriter::Footer() {
   SetFont(FooterFont);
   printer_.Line(Layout::LeftMargin, FooterRule(), Right(), FooterRule(), RuleWidth);
   MoveTo(printer_.PageHeight() - FooterText);
-  Line(Declarations::FilePath + "    " + TheServices().clock.ShortDate());
+  Line(Declarations::FilePath + "    " + TheServices().clock.ShortDate(), PrintedAs::FilePath);
   Line(std::string("v") + VersionName);
 }
 

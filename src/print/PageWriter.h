@@ -13,10 +13,11 @@ inline constexpr int LeftMargin = 1152;
 inline constexpr int RightMargin = 1872;
 inline constexpr int BodyTop = 2008;
 inline constexpr int FooterRule = 1808;  ///< above the bottom edge
+inline constexpr int TabStep = 720;
 
 /// x of tab stop `stop`.
 constexpr int Tab(int stop) {
-  return LeftMargin + 720 * stop;
+  return LeftMargin + TabStep * stop;
 }
 
 }  // namespace Layout
@@ -27,14 +28,16 @@ class PageWriter {
   PageWriter(Printer& printer, const frmMain& main);
 
   void SetFont(const PrintFont& font);
-  /// Prints on the current line, and stays on it, at most up to `right`.
-  void Cell(int x, int right, const std::string& text);
-  void EndLine() { y_ += LineHeight(); }
+  /// Prints from the current line on, and stays on it, at most up to `right`; returns the lines it took.
+  int Cell(int x, int right, const std::string& text, PrintedAs as = PrintedAs::Value);
+  void EndLine(int lines = 1) { y_ += lines * font_.LineHeight(); }
 
   int Y() const { return y_; }
   void MoveTo(int y) { y_ = y; }
   /// Right edge of what is printed.
   int Right() const { return printer_.PageWidth() - Layout::RightMargin; }
+  /// The number of tab stops on the paper, its margin included.
+  int TabStops() const { return (printer_.PageWidth() - Layout::LeftMargin) / Layout::TabStep; }
   int FooterRule() const { return printer_.PageHeight() - Layout::FooterRule; }
   /// True when so many lines do not fit above the footer, and another page has more room for them.
   bool IsFull(int lines) const;
@@ -45,8 +48,7 @@ class PageWriter {
 
  private:
   void Header();
-  void Line(const std::string& text);
-  int LineHeight() const;
+  void Line(const std::string& text, PrintedAs as = PrintedAs::Value);
 
   Printer& printer_;
   const frmMain& main_;

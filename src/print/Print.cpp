@@ -22,8 +22,9 @@ constexpr PrintFont TableHeadFont{"Arial", 8, false, false, true};
 constexpr int LabelColumn = Layout::Tab(1);
 constexpr int ValueColumn = Layout::Tab(4);
 constexpr int PictureTop = 4008;
+constexpr int LeastPictureHeight = 3600;
 constexpr int TableBottom = 3008;  // above the bottom edge
-constexpr int PointsOfLine = 4;
+constexpr int MostPointsOfLine = 4;
 constexpr int CellsOfPoint = 3;
 
 void TurnPage(PageWriter& page) {
@@ -46,9 +47,14 @@ void PointCell(PageWriter& page, int group, int cell, const std::string& text) {
   page.Cell(Layout::Tab(stop), Layout::Tab(stop + 1), text);
 }
 
+/// As many points as stand on the paper side by side.
+int PointsOfLine(const PageWriter& page) {
+  return std::clamp((page.TabStops() - 1) / CellsOfPoint, 1, MostPointsOfLine);
+}
+
 void PointHeads(PageWriter& page) {
   constexpr const char* Heads[] = {"Sta", "Elev", "n"};
-  for (int group = 0; group < PointsOfLine; ++group) {
+  for (int group = 0; group < PointsOfLine(page); ++group) {
     for (int cell = 1; cell <= CellsOfPoint; ++cell) PointCell(page, group, cell, Heads[cell - 1]);
   }
   page.EndLine();
@@ -56,13 +62,14 @@ void PointHeads(PageWriter& page) {
 
 void Points(PageWriter& page) {
   const ChannelRecord& record = ChannelState;
+  const int pointsOfLine = PointsOfLine(page);
   PointHeads(page);
-  for (int first = 1; first <= record.IrregPointCount; first += PointsOfLine) {
+  for (int first = 1; first <= record.IrregPointCount; first += pointsOfLine) {
     if (page.IsFull(1)) {
       TurnPage(page);
       PointHeads(page);
     }
-    for (int row = first; row < first + PointsOfLine && row <= record.IrregPointCount; ++row) {
+    for (int row = first; row < first + pointsOfLine && row <= record.IrregPointCount; ++row) {
       const auto& point = record.IrregPoints[static_cast<std::size_t>(row)];
       for (int cell = 1; cell <= CellsOfPoint; ++cell) {
         PointCell(page, row - first, cell, point[static_cast<std::size_t>(cell)].Text());
@@ -84,6 +91,21 @@ void Results(PageWriter& page, const frmMain& main) {
   const auto lines = ReportResults();
   if (page.IsFull(static_cast<int>(lines.size()))) TurnPage(page);
   Lines(page, main, lines);
+}
+
+/// The picture below what the page holds already, or on a page of its own where it would be too small to be
+/// read and is larger there.
+void Picture(PageWriter& page, Printer& printer, const XYChart& chart) {
+  const frmTempPic holder(chart);
+  const auto below = [&](int top) {
+    return holder.Fitted({page.Right() - Layout::LeftMargin, page.FooterRule() - top});
+  };
+  const int wanted = std::min(below(PictureTop).Height, LeastPictureHeight);
+  if (below(std::max(page.Y(), PictureTop)).Height < wanted) page.NextPage();
+  const int top = std::max(page.Y(), PictureTop);
+  const ChartSize size = below(top);
+  if (size.Height <= 0) return;
+  printer.Picture(*holder.PicTemp.Picture, Layout::LeftMargin, top, size.Width, size.Height);
 }
 
 void End(PageWriter& page, Printer& printer) {
@@ -166,12 +188,7 @@ Document Graph(const frmMain& main, const XYChart& chart) {
   return {[&main, &chart](Printer& printer) {
     PageWriter page(printer, main);
     Inputs(page, main);
-    if (page.Y() > PictureTop) page.NextPage();
-    const frmTempPic holder(chart);
-    const ChartSize size = holder.Fitted({page.Right() - Layout::LeftMargin, page.FooterRule() - PictureTop});
-    if (size.Height > 0) {
-      printer.Picture(*holder.PicTemp.Picture, Layout::LeftMargin, PictureTop, size.Width, size.Height);
-    }
+    Picture(page, printer, chart);
     End(page, printer);
   }};
 }

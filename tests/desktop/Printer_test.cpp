@@ -147,6 +147,26 @@ TEST_F(Printing, ATextWiderThanItsRoomIsCondensed) {
   EXPECT_NEAR(right(600), 130, 0.5);
 }
 
+TEST_F(Printing, ALongNameTakesTwoLinesAndIsThenCutOff) {
+  EnterTrapezoid();
+  hands_.Click(main_.mnuOptionsUnitsMetric);
+  Declarations::FilePath = "/home/me/x^2/" + std::string(250, 'z') + "/Mill.fwd";
+  std::string name = "Culvert^2";
+  for (int i = 0; i < 15; ++i) name += " a culvert" + std::to_string(i);
+  main_.tbProjName.Text = name;
+  ASSERT_TRUE(Pdf(Print::Report(main_)));
+  const auto lines = Lines();
+  ASSERT_GT(lines.size(), 4U);
+  EXPECT_EQ(name.substr(0, lines[0].size()), lines[0]) << "exponents belong to units";
+  EXPECT_THAT(lines[1], testing::EndsWith("\xE2\x80\xA6"));
+  EXPECT_NE(name.find(lines[1].substr(0, lines[1].size() - 3)), std::string::npos);
+  EXPECT_EQ(lines[2], "Manning's Equation - Trapezoidal Channel");
+  EXPECT_THAT(lines, Contains(testing::EndsWith(" m\xC2\xB2"))) << "the flow area";
+  EXPECT_THAT(lines, Contains("/home/me/x^2/"));
+  EXPECT_THAT(lines, Contains(testing::EndsWith("/Mill.fwd 2026-03-09")));
+  EXPECT_NEAR(Find("Equation").Top, (1008 + 2 * 276) / 20.0, 1);
+}
+
 TEST_F(Printing, EveryTextIsOnItsLineOfItsPage) {
   const auto expectWhole = [this](const Print::Document& document, std::size_t lines, int pages) {
     ASSERT_TRUE(Pdf(document));

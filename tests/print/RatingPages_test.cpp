@@ -143,18 +143,33 @@ TEST_P(RatingPages, TheGraphIsAsLargeAsFitsInItsOwnProportions) {
   EXPECT_THAT(Fakes.printerDialog.Screen.Calls, Contains("picture 1152 4008 9216 4608"));
 }
 
-TEST_P(RatingPages, AGraphBelowALongTableOfPointsHasAPageOfItsOwn) {
+TEST_P(RatingPages, AGraphStandsBelowThePointsWhereItCanBeRead) {
   Main.mnuOptionsIrreg_Click();
   const frmGraph graph(Main);
-  // 3 inputs and the heads end at 2928; the fifth line of points would end at 4078.
-  for (const int points : {16, 17}) {
-    ChannelState.IrregPointCount = points;
+  struct Case {
+    int Width, Height;  ///< of the paper
+    int Points;
+    int Page;
+    const char* Picture;
+  };
+  // 3 inputs and the heads end at 2928, each line of four points 230 below the one before. The picture ends
+  // at H - 1808 and is W - 3024 wide at most.
+  for (const Case& each :
+       {Case{12240, 15840, 16, 1, "4008 9216 6912"}, Case{12240, 15840, 17, 1, "4078 9216 6912"},
+        Case{12240, 15840, 72, 1, "7068 9216 6912"}, Case{12240, 15840, 100, 1, "8678 7138 5354"},
+        // 3824 are left, then 3594.
+        Case{15840, 12240, 64, 1, "6608 5098 3824"}, Case{15840, 12240, 65, 2, "4008 8565 6424"},
+        // On a small sheet it is never larger than 2575.
+        Case{11906, 8391, 16, 1, "4008 3433 2575"}, Case{11906, 8391, 17, 2, "4008 3433 2575"}}) {
+    UsePaper(each.Width, each.Height);
+    ChannelState.IrregPointCount = each.Points;
     Paper.TakeCalls();
     Fakes.printerDialog.Answers = {true};
     Print::ToPrinter(Print::Graph(Main, graph.MSChart1));
-    ASSERT_EQ(Pages(), points == 16 ? 1 : 2);
+    ASSERT_EQ(Pages(), each.Page) << each.Points;
+    EXPECT_THAT(Page(each.Page), Contains(std::string("picture 1152 ") + each.Picture)) << each.Points;
   }
-  EXPECT_EQ(Page(2), Head() + Calls{"picture 1152 4008 9216 6912"} + Foot());
+  EXPECT_EQ(Page(2), Head() + Calls{"picture 1152 4008 3433 2575"} + Foot());
 }
 
 INSTANTIATE_LOCALES(RatingPages);

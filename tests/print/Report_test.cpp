@@ -56,25 +56,26 @@ class Report : public PrintStage {
   }
 
   static constexpr int Stops[] = {1872, 2592, 3312, 4032, 4752, 5472, 6192, 6912, 7632, 8352, 9072, 9792};
-  static Calls PointHeads(int y) {
+  Calls PointHeads(int y) const {
     Calls calls;
-    for (int i = 0; i < 12; ++i) {
+    for (int i = 0; i < 3 * groups_; ++i) {
       const char* const heads[] = {"Sta", "Elev", "n"};
       calls.push_back("text " + std::to_string(Stops[i]) + " " + std::to_string(y) + " " + heads[i % 3]);
     }
     return calls;
   }
-  static Calls Points(int top, int first, int last) {
+  Calls Points(int top, int first, int last) const {
     Calls calls;
     for (int row = first; row <= last; ++row) {
       for (int column = 0; column < 3; ++column) {
-        calls.push_back("text " + std::to_string(Stops[3 * ((row - first) % 4) + column]) + " " +
-                        std::to_string(top + 230 * ((row - first) / 4)) + " " +
+        calls.push_back("text " + std::to_string(Stops[3 * ((row - first) % groups_) + column]) + " " +
+                        std::to_string(top + 230 * ((row - first) / groups_)) + " " +
                         Spelled(Point(row)[static_cast<std::size_t>(column)]));
       }
     }
     return calls;
   }
+  int groups_ = 4;  ///< points side by side
   const Calls Body = {"font Arial 10 False False False"};
   const std::vector<Row> SectionRows = {{"Flow", &frmMain::tbFlow, {" cfs", " m^3/s"}},
                                         {"WSElev", &frmMain::tbDepth, {" ft", " m"}},
@@ -138,6 +139,36 @@ TEST_P(Report, OfASectionHasItsPointsInFours) {
           << points;
     }
   }
+}
+
+TEST_P(Report, OfASectionHasAsManyPointsSideBySideAsThePaperIsWide) {
+  TypePoints(7);
+  // A5 upright, then papers on which the last group ends at the edge, and just beyond it.
+  for (const auto& [width, groups] :
+       {std::pair(8391, 3), {10512, 4}, {10511, 3}, {8352, 3}, {8351, 2}, {6192, 2}, {6191, 1}, {3000, 1}}) {
+    UsePaper(width, 15840);
+    groups_ = groups;
+    PrintReport();
+    const int lines = (7 + groups - 1) / groups;
+    EXPECT_THAT(
+        Paper.TakeCalls(),
+        ElementsAreArray(Head() + Body + Rows(2008, SectionRows) + PointHeads(2698) + Points(2928, 1, 7) +
+                         Results(2928 + 230 * (lines + 1)) + Foot() + Calls{"end"}))
+        << width;
+  }
+}
+
+TEST_P(Report, WhatFollowsALongNameStandsBelowItsSecondLine) {
+  TypeRectangle();
+  Main.tbProjName.Text = std::string(170, 'x');
+  Declarations::FilePath = "/" + std::string(200, 'y');
+  Paper.CharactersOfName = 100;
+  PrintReport();
+  EXPECT_EQ(Paper.Calls[1], "text 1152 1008 " + std::string(170, 'x'));
+  EXPECT_EQ(Paper.Calls[2], "text 1152 1560 Manning's Equation - Rectangular Channel");
+  EXPECT_EQ(Paper.Calls[4], "text 1872 2008 Flow");
+  EXPECT_THAT(Paper.Calls, testing::Contains("text 1152 14132 /" + std::string(200, 'y') + "    2026-03-09"));
+  EXPECT_THAT(Paper.Calls, testing::Contains(std::string("text 1152 14500 v") + VersionName));
 }
 
 TEST_P(Report, GoesOnOnAnotherPageWhereTheFooterIsInTheWay) {

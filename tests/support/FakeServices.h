@@ -62,7 +62,8 @@ class FakeFileDialog : public FileDialog {
 /// Writes down what it is told, a line each.
 class FakePrinter : public Printer {
  public:
-  int Width = 12240, Height = 15840;  ///< twips: Letter
+  int Width = 12240, Height = 15840;    ///< twips: Letter
+  std::size_t CharactersOfName = 1000;  ///< longer names take two lines
   bool Works = true;
   std::vector<std::string> Calls;
 
@@ -85,9 +86,10 @@ class FakePrinter : public Printer {
     Calls.push_back("font " + std::string(font.Name) + " " + std::to_string(font.Size) + told(font.Bold) +
                     told(font.Italic) + told(font.Underline));
   }
-  void Text(int x, int y, const std::string& text, int maxWidth) override {
+  int Text(int x, int y, const std::string& text, int maxWidth, PrintedAs as) override {
     Texts.push_back({x, y, maxWidth, text});
     Calls.push_back(Joined("text", {x, y}) + " " + text);
+    return as != PrintedAs::Value && text.size() > CharactersOfName ? 2 : 1;
   }
   void Line(int x1, int y1, int x2, int y2, int penWidth) override {
     Calls.push_back(Joined("line", {x1, y1, x2, y2, penWidth}));

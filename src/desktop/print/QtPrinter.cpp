@@ -13,6 +13,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QScreen>
+#include <QTextLayout>
 #include <QToolBar>
 #include <QToolButton>
 #include <cmath>
@@ -45,6 +46,22 @@ QFont SansSerif(const QString& family, int pixels) {
   font.setStyleHint(QFont::SansSerif);
   font.setPixelSize(pixels);
   return font;
+}
+
+/// The text on one line or, where it is too wide for that, on two, with an ellipsis in what is too wide
+/// still.
+QStringList Wrapped(const QString& text, const QFont& font, int width, Qt::TextElideMode ellipsis) {
+  QTextLayout layout(text, font);
+  QTextOption anywhere;
+  anywhere.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(anywhere);
+  layout.beginLayout();
+  QTextLine line = layout.createLine();
+  line.setLineWidth(width);
+  layout.endLayout();
+  const QString rest = text.mid(line.textLength()).trimmed();
+  if (rest.isEmpty()) return {text};
+  return {text.left(line.textLength()), QFontMetricsF(font).elidedText(rest, ellipsis, width)};
 }
 
 /// Asks the file itself, as Qt does not tell when the disk is full.
@@ -82,11 +99,24 @@ void QtPrinter::SetFont(const PrintFont& font) {
   font_.setBold(font.Bold);
   font_.setItalic(font.Italic);
   font_.setUnderline(font.Underline);
+  lineHeight_ = font.LineHeight();
 }
 
-void QtPrinter::Text(int x, int y, const std::string& text, int maxWidth) {
-  if (text.empty() || maxWidth <= 0) return;
-  const QString shown = ToQt(text);
+int QtPrinter::Text(int x, int y, const std::string& text, int maxWidth, PrintedAs as) {
+  if (text.empty() || maxWidth <= 0) return 1;
+  const QStringList lines =
+      as == PrintedAs::Value
+          ? QStringList{Printed(text)}
+          : Wrapped(ToQt(text), font_, maxWidth, as == PrintedAs::Name ? Qt::ElideRight : Qt::ElideMiddle);
+  for (const QString& line : lines) {
+    TextLine(x, y, line, maxWidth);
+    y += lineHeight_;
+  }
+  return static_cast<int>(lines.size());
+}
+
+/// Condensed where it is wider than its room.
+void QtPrinter::TextLine(int x, int y, const QString& shown, int maxWidth) {
   const QFontMetricsF metrics(font_);
   const double width = metrics.horizontalAdvance(shown);
   const double condensed = width > maxWidth ? maxWidth / width : 1;

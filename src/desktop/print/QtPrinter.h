@@ -24,7 +24,7 @@ class QtPrinter : public Printer {
   int PageWidth() const override;
   int PageHeight() const override;
   void SetFont(const PrintFont& font) override;
-  void Text(int x, int y, const std::string& text, int maxWidth) override;
+  int Text(int x, int y, const std::string& text, int maxWidth, PrintedAs as) override;
   void Line(int x1, int y1, int x2, int y2, int penWidth) override;
   void Picture(const XYChart& chart, int x, int y, int width, int height) override;
   void NewPage() override { pages_.emplace_back(); }
@@ -32,10 +32,12 @@ class QtPrinter : public Printer {
 
  private:
   using Stroke = std::function<void(QCPPainter&)>;
+  void TextLine(int x, int y, const QString& shown, int maxWidth);
 
   QPrinter& device_;
   const QString file_;
   QFont font_;
+  int lineHeight_ = 0;
   std::vector<std::vector<Stroke>> pages_{1};
 };
 
