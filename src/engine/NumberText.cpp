@@ -26,13 +26,26 @@ bool IsBlank(char c) {
   return c == ' ' || c == '\t';
 }
 
+// Spreadsheets and web pages put no-break spaces beside a number, too.
+size_t BlankLength(std::string_view text) {
+  constexpr std::string_view blanks[] = {" ", "\t", "\u00A0", "\u202F"};
+  const auto* const found = std::find_if(std::begin(blanks), std::end(blanks),
+                                         [text](auto blank) { return text.starts_with(blank); });
+  return found == std::end(blanks) ? 0 : found->size();
+}
+
+std::string_view WithoutLeadingBlanks(std::string_view text) {
+  while (const size_t length = BlankLength(text)) text.remove_prefix(length);
+  return text;
+}
+
 size_t DigitsFrom(std::string_view text, size_t start) {
   size_t end = start;
   while (end < text.size() && IsDigit(text[end])) ++end;
   return end - start;
 }
 
-// The longest leading number of a text, respelled for from_chars.
+// The number that a text begins with, respelled for from_chars.
 struct ScannedNumber {
   std::string spelling;  // digits, ".", digits, "e", exponent; empty if there is no number
   bool negative = false;
@@ -69,7 +82,6 @@ size_t ScanExponent(std::string_view text, size_t at, std::string& spelling) {
 ScannedNumber Scan(std::string_view text, const NumberLocale& locale) {
   ScannedNumber number;
   size_t at = 0;
-  while (at < text.size() && IsBlank(text[at])) ++at;
   if (at < text.size() && (text[at] == '-' || text[at] == '+')) number.negative = text[at++] == '-';
   at = ScanWholePart(text, at, locale, number.spelling);
   if (text.substr(at).starts_with(locale.DecimalSign)) {
@@ -153,9 +165,9 @@ std::optional<double> NumericValue(std::string_view text) {
 }
 
 std::optional<double> NumericValue(std::string_view text, const NumberLocale& locale) {
+  text = WithoutLeadingBlanks(text);
   const ScannedNumber number = Scan(text, locale);
-  const std::string_view rest = text.substr(number.end);
-  if (!std::all_of(rest.begin(), rest.end(), IsBlank)) return std::nullopt;
+  if (!WithoutLeadingBlanks(text.substr(number.end)).empty()) return std::nullopt;
   return Value(number);
 }
 
@@ -164,7 +176,7 @@ bool IsNumeric(std::string_view text) {
 }
 
 double LeadingNumber(std::string_view text) {
-  return Value(Scan(text, Locale())).value_or(0);
+  return Value(Scan(WithoutLeadingBlanks(text), Locale())).value_or(0);
 }
 
 double Val(std::string_view text) {

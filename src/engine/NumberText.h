@@ -22,8 +22,9 @@ const NumberLocale& CurrentNumberLocale();
 // does a plain blank.
 std::size_t GroupSeparatorLength(std::string_view text, const NumberLocale& locale);
 
-// True when the whole text is one number: blanks and TABs around it, one sign in front, plain digits or
-// proper groups of three, the decimal sign, an exponent. False for a value too large for a double.
+// True when the whole text is one number: blanks, TABs and no-break spaces around it, one sign in front,
+// plain digits or proper groups of three, the decimal sign, an exponent. False for a value too large for a
+// double.
 bool IsNumeric(std::string_view text);
 
 // Its value where IsNumeric is true, else nothing.

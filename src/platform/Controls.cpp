@@ -47,6 +47,18 @@ void TextBox::ReplaceSelection(std::string_view with) {
   Selection = {caret, 0};
 }
 
+void TextBox::Paste(std::string_view from) {
+  constexpr std::string_view lineEnds = "\r\n";
+  from.remove_prefix(std::min(from.find_first_not_of(lineEnds), from.size()));
+  from = from.substr(0, from.find_first_of(lineEnds));
+  const int kept = Length() - CharacterCount(SelectedText());
+  if (CharacterCount(from) <= LongestText - kept) {
+    ReplaceSelection(from);
+  } else if (TooLong) {
+    TooLong();
+  }
+}
+
 void TextBox::SelectAll() {
   Selection = {0, Length()};
 }

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/Form.h"
+#include "platform/Keys.h"
 #include "platform/Property.h"
 
 class Control {
@@ -104,13 +105,24 @@ class TextBox : public FocusControl {
 
   std::function<void()>& Change = Text.Event;
   /// A key goes down, by its code; true when the key is used up and the box does not see it.
-  std::function<bool(int keyCode)> KeyDown;
+  std::function<bool(int keyCode, Keys::Modifier)> KeyDown;
 
   int Length() const;  ///< of the text, in characters
   /// The selected part of the text.
   std::string SelectedText() const;
   /// Puts `with` in the place of the selection and the caret behind it.
   void ReplaceSelection(std::string_view with);
+  /// Replaces the selection by the first line of a text from elsewhere that is not empty. A box that would
+  /// grow beyond LongestText stays as it is and raises TooLong.
+  void Paste(std::string_view from);
+  std::function<void()> TooLong;
+  static constexpr int LongestText = 100'000;  ///< characters
+
+  /// What was typed before cannot be undone any more: it belongs to another problem.
+  void ForgetEdits() {
+    if (ForgetEditsView) ForgetEditsView();
+  }
+  std::function<void()> ForgetEditsView;  // set by the view
   void SelectAll();
 
   // Colours as blue-green-red bytes; a view maps them to the roles of its palette.

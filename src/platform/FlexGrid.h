@@ -56,7 +56,7 @@ class FlexGrid : public FocusControl {
 
   std::function<void()> Press;  ///< a mouse button goes down on a cell, before it becomes the current one
   std::function<void()> DblClick;
-  std::function<void(int keyCode)> KeyDown;
+  std::function<void(int keyCode, Keys::Modifier)> KeyDown;
   std::function<void(char character)> KeyPress;
 
   // Set by the view.

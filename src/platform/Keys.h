@@ -14,4 +14,7 @@ inline constexpr int Down = 40;
 inline constexpr int Delete = 46;
 inline constexpr int KeypadEnter = 108;
 
+/// The key held down with another one.
+enum class Modifier { None, Shift, Ctrl };
+
 }  // namespace Keys

@@ -39,7 +39,10 @@ void Program::OpenMannParam() {
   ShowModal<frmMannParam>(Main);
 }
 void Program::OpenIrreg() {
-  ShowModal<frmIrreg>();
+  frmIrreg editor;
+  Main.ChangedPoints = [&editor] { return editor.ChangedPoints(); };
+  TheServices().windows.ShowModal(editor);
+  Main.ChangedPoints = nullptr;
 }
 void Program::OpenSection() {
   ShowModal<frmSection>(Main);

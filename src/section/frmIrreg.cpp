@@ -13,6 +13,7 @@
 #include "files/WholeFile.h"
 #include "platform/Keys.h"
 #include "platform/Services.h"
+#include "section/PastedSign.h"
 #include "section/PointsCsv.h"
 
 namespace {
@@ -31,43 +32,72 @@ void Complain(const std::string& text) {
   TheServices().messageBox.Show(text, Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);
 }
 
-/// The clipboard's text with rows that end in a carriage return alone, as the grid reads them.
-std::string ClipboardRows() {
-  std::string text = TheServices().clipboard.Text();
-  std::erase(text, '\n');
-  return text;
+void Warn(const std::string& text) {
+  TheServices().messageBox.Show(text, "Warning", BoxIcon::Exclamation, BoxButtons::Ok);
 }
 
-/// How far a key moves the current cell when it ends an edit.
-struct Step {
-  int Rows = 0, Columns = 0;
+constexpr std::size_t LongestClip = std::size_t{64} << 20U;  // bytes
+
+bool HasLongCell(std::string_view rows) {
+  for (std::size_t end = 0; end != std::string_view::npos; rows.remove_prefix(end + 1)) {
+    end = rows.find_first_of("\t\r");
+    if (std::min(end, rows.size()) > TextBox::LongestText) return true;
+    if (end == std::string_view::npos) return false;
+  }
+  return false;
+}
+
+/// The clipboard's text with rows that end in a carriage return alone, as the grid reads them; nothing, after
+/// a warning, where the table cannot hold it.
+std::optional<std::string> ClipboardRows() {
+  std::string text = TheServices().clipboard.Text();
+  std::erase(text, '\n');
+  if (text.size() <= LongestClip && !HasLongCell(text)) return text;
+  Warn("The text on the clipboard is too long for the table.");
+  return std::nullopt;
+}
+
+std::string Spelled(const ClipShape& shape) {
+  return std::to_string(shape.Rows) + (shape.Rows == 1 ? " row" : " rows") + " and " +
+         std::to_string(shape.Cols) + (shape.Cols == 1 ? " column" : " columns");
+}
+
+bool Confirms(const std::string& question) {
+  return TheServices().messageBox.Show(question, "Warning", BoxIcon::Exclamation, BoxButtons::YesNo) ==
+         BoxAnswer::Yes;
+}
+
+/// How a key ends the edit of a cell, and how far it moves the current cell.
+struct Ending {
+  int KeyCode;
+  Keys::Modifier With;
+  int Rows, Columns;
+  bool Commits = true;
 };
 
-Step StepOf(int keyCode) {
-  switch (keyCode) {
-    case Keys::Up:
-      return {-1, 0};
-    case Keys::Down:
-      return {1, 0};
-    case Keys::PageUp:
-      return {-10, 0};
-    case Keys::PageDown:
-      return {10, 0};
-    case Keys::Left:
-      return {0, -1};
-    case Keys::Right:
-      return {0, 1};
-    default:
-      return {};
-  }
+using enum Keys::Modifier;
+constexpr Ending Endings[] = {
+    {Keys::Enter, None, 1, 0},         {Keys::Enter, Shift, -1, 0},        {Keys::Enter, Ctrl, 0, 0},
+    {Keys::KeypadEnter, None, 1, 0},   {Keys::KeypadEnter, Shift, -1, 0},  {Keys::KeypadEnter, Ctrl, 0, 0},
+    {Keys::Up, None, -1, 0},           {Keys::Down, None, 1, 0},           {Keys::PageUp, None, -10, 0},
+    {Keys::PageDown, None, 10, 0},     {Keys::Left, None, 0, -1},          {Keys::Right, None, 0, 1},
+    {Keys::Escape, None, 0, 0, false}, {Keys::Escape, Shift, 0, 0, false},
+};
+
+/// Inside the text the caret moves first.
+bool CaretMoves(const TextBox& box, const Ending& ending) {
+  const TextRange caret = box.Selection;
+  if (ending.Columns > 0) return caret.Length > 0 || caret.Start < box.Length();
+  if (ending.Columns < 0) return caret.Length > 0 || caret.Start > 0;
+  return false;
 }
 
 /// A step is made in full or not at all, and Page Down never reaches the last row.
-bool CanStep(const FlexGrid& grid, int keyCode, Step step) {
+bool CanStep(const FlexGrid& grid, const Ending& ending) {
   const GridBlock& at = grid.Selection;
-  const int lastRow = grid.Rows() - (keyCode == Keys::PageDown ? 2 : 1);
-  const int row = at.Row + step.Rows;
-  const int col = at.Col + step.Columns;
+  const int lastRow = grid.Rows() - (ending.KeyCode == Keys::PageDown ? 2 : 1);
+  const int row = at.Row + ending.Rows;
+  const int col = at.Col + ending.Columns;
   return row >= 1 && row <= lastRow && col >= 1 && col < grid.Cols();
 }
 
@@ -95,8 +125,8 @@ frmIrreg::frmIrreg() : Form("frmIrreg") {
   MSFlexGrid1.Press = [this] { CommitEdit(); };
   MSFlexGrid1.DblClick = [this] { StartCellEdit(); };
   MSFlexGrid1.KeyPress = [this](char character) { MSFlexGrid1_KeyPress(character); };
-  MSFlexGrid1.KeyDown = [this](int keyCode) { MSFlexGrid1_KeyDown(keyCode); };
-  tbSel.KeyDown = [this](int keyCode) { return tbSel_KeyDown(keyCode); };
+  MSFlexGrid1.KeyDown = [this](int keyCode, Keys::Modifier with) { MSFlexGrid1_KeyDown(keyCode, with); };
+  tbSel.KeyDown = [this](int keyCode, Keys::Modifier with) { return tbSel_KeyDown(keyCode, with); };
   tbSel.Validate = [this] { tbSel_Validate(); };
   tbSel.LostFocus = [this] { tbSel_LostFocus(); };
   cmdCopy.Click = [this] { cmdCopy_Click(); };
@@ -119,6 +149,7 @@ void frmIrreg::Form_Load() {
   MSFlexGrid1.Load(std::move(rows), 4);
   MSChart1.XTitle = MSFlexGrid1.Text(0, Station);
   MSChart1.YTitle = MSFlexGrid1.Text(0, Elevation);
+  opened_ = Cells();
   EnableTravel();
   LoadChart();
 }
@@ -138,6 +169,7 @@ void frmIrreg::LoadChart() {
 void frmIrreg::StartCellEdit() {
   const GridBlock& at = MSFlexGrid1.Selection;
   tbSel.Text = MSFlexGrid1.Text(at.Row, at.Col);
+  tbSel.ForgetEdits();  // of another cell
   tbSel.Visible = true;
   MoveFocus(tbSel);
   tbSel.Selection = {tbSel.Length(), 0};
@@ -156,27 +188,20 @@ void frmIrreg::MSFlexGrid1_KeyPress(char character) {
   tbSel.Selection = {1, 0};
 }
 
-void frmIrreg::MSFlexGrid1_KeyDown(int keyCode) {
-  if (keyCode != Keys::Delete) return;
+void frmIrreg::MSFlexGrid1_KeyDown(int keyCode, Keys::Modifier with) {
+  if (keyCode != Keys::Delete || with != None) return;
   const GridBlock& at = MSFlexGrid1.Selection;
   Recorded([&] { MSFlexGrid1.SetText(at.Row, at.Col, ""); });
 }
 
-bool frmIrreg::tbSel_KeyDown(int keyCode) {
-  const Step step = StepOf(keyCode);
-  const TextRange caret = tbSel.Selection;
-  // Inside the text the caret moves first.
-  if (keyCode == Keys::Right && (caret.Length > 0 || caret.Start < tbSel.Length())) return false;
-  if (keyCode == Keys::Left && (caret.Length > 0 || caret.Start > 0)) return false;
-  const bool enter = keyCode == Keys::Enter || keyCode == Keys::KeypadEnter;
-  if (enter || step.Rows != 0 || step.Columns != 0) {
-    tbSel_Validate();
-  } else if (keyCode != Keys::Escape) {
-    return false;
-  }
-  if (CanStep(MSFlexGrid1, keyCode, step)) {
+bool frmIrreg::tbSel_KeyDown(int keyCode, Keys::Modifier with) {
+  const auto* const ending = std::ranges::find_if(
+      Endings, [&](const Ending& each) { return each.KeyCode == keyCode && each.With == with; });
+  if (ending == std::ranges::end(Endings) || CaretMoves(tbSel, *ending)) return false;
+  if (ending->Commits) tbSel_Validate();
+  if (CanStep(MSFlexGrid1, *ending)) {
     const GridBlock& at = MSFlexGrid1.Selection;
-    MSFlexGrid1.SelectCell(at.Row + step.Rows, at.Col + step.Columns);
+    MSFlexGrid1.SelectCell(at.Row + ending->Rows, at.Col + ending->Columns);
   }
   MoveFocus(MSFlexGrid1);
   return true;
@@ -200,18 +225,29 @@ void frmIrreg::cmdCopy_Click() {
 }
 
 void frmIrreg::cmdPaste_Click() {
-  Recorded([&] { MSFlexGrid1.SetClip(ClipboardRows()); });
+  if (const auto rows = ClipboardRows()) Paste(*rows);
+}
+
+void frmIrreg::Paste(const std::string& copied) {
+  const std::optional<std::string> rows = PastedSign::Settled(copied, MSFlexGrid1.Selection);
+  if (!rows) return;
+  Recorded([&] { MSFlexGrid1.SetClip(*rows); });
   LoadChart();
 }
 
 void frmIrreg::PasteWidened() {
+  const std::optional<std::string> rows = ClipboardRows();
+  if (!rows) return;
   const GridBlock at = MSFlexGrid1.Selection;
   if (at.Row == at.RowSel && at.Col == at.ColSel) {
-    const ClipShape shape = ShapeOfClip(ClipboardRows());
-    MSFlexGrid1.Selection = {at.Row, at.Col, std::min(at.Row + shape.Rows, MSFlexGrid1.Rows()) - 1,
-                             std::min(at.Col + shape.Cols, MSFlexGrid1.Cols()) - 1};
+    const ClipShape there = ShapeOfClip(*rows);
+    const ClipShape room{MSFlexGrid1.Rows() - at.Row, MSFlexGrid1.Cols() - at.Col};
+    if (there.Rows > room.Rows || there.Cols > room.Cols)
+      return Warn("The clipboard has " + Spelled(there) + ". From the current cell on, " + Spelled(room) +
+                  " fit. Nothing was pasted.");
+    MSFlexGrid1.Selection = {at.Row, at.Col, at.Row + there.Rows - 1, at.Col + there.Cols - 1};
   }
-  cmdPaste_Click();
+  Paste(*rows);
 }
 
 void frmIrreg::ClearBlock() {
@@ -258,6 +294,13 @@ IrregTable::Table frmIrreg::Cells() const {
     for (const int col : {Station, Elevation, ManningN})
       table[Index(row)][Index(col)] = MSFlexGrid1.Text(row, col);
   }
+  return table;
+}
+
+IrregTable::Table frmIrreg::CellsInWork() const {
+  IrregTable::Table table = Cells();
+  const GridBlock& at = MSFlexGrid1.Selection;
+  if (tbSel.Visible) table[Index(at.Row)][Index(at.Col)] = tbSel.Text;
   return table;
 }
 
@@ -333,14 +376,37 @@ void frmIrreg::LoadArray() {
 }
 
 void frmIrreg::cmdOK_Click() {
+  if (ChannelState.IrregPointCount > IrregTable::Rows &&
+      !Confirms("Discard point 101? The table has room for 100."))
+    return;
   if (!CheckTable()) return;
   LoadArray();
+  settled_ = true;
   Unload();
   Declarations::DataChanged = true;
 }
 
 void frmIrreg::cmdCancel_Click() {
+  settled_ = true;
   Unload();
+}
+
+bool frmIrreg::Form_QueryUnload() {
+  return settled_ || CellsInWork() == opened_ || Confirms("Discard the changed points?");
+}
+
+std::optional<frmIrreg::Points> frmIrreg::ChangedPoints() const {
+  const IrregTable::Table cells = CellsInWork();
+  if (settled_ || cells == opened_) return std::nullopt;
+  Points points;
+  for (const auto& row : cells) points.push_back({row[Station], row[Elevation], row[ManningN]});
+  points.erase(points.begin());
+  if (ChannelState.IrregPointCount > IrregTable::Rows) {
+    const auto& last = ChannelState.IrregPoints[IrregTable::Rows + 1];
+    points.push_back({last[Station], last[Elevation], last[ManningN]});
+  }
+  while (!points.empty() && points.back() == Points::value_type{}) points.pop_back();
+  return points;
 }
 
 void frmIrreg::mnuFileImport_Click() {

@@ -1,8 +1,12 @@
 // The dialog in which the points of a surveyed section are typed, pasted and edited.
 #pragma once
 
+#include <array>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "engine/EngineValue.h"
 
 #include "platform/Controls.h"
 #include "platform/FlexGrid.h"
@@ -31,8 +35,8 @@ class frmIrreg : public Form {
   void CommitEdit();
 
   void MSFlexGrid1_KeyPress(char character);
-  void MSFlexGrid1_KeyDown(int keyCode);
-  bool tbSel_KeyDown(int keyCode);
+  void MSFlexGrid1_KeyDown(int keyCode, Keys::Modifier with = Keys::Modifier::None);
+  bool tbSel_KeyDown(int keyCode, Keys::Modifier with = Keys::Modifier::None);
   void tbSel_Validate();
   void tbSel_LostFocus();
   void cmdCopy_Click();
@@ -51,11 +55,18 @@ class frmIrreg : public Form {
   void ClearBlock();
   /// Copies the selected block and empties it.
   void CutBlock();
-  /// Pastes; where one cell is selected, the block first widens to what the clipboard holds.
+  /// Pastes; where one cell is selected, the block first widens to what the clipboard holds. What does not
+  /// fit between that cell and the end of the table is not pasted at all.
   void PasteWidened();
+
+  using Points = std::vector<std::array<EngineValue, 3>>;  ///< station, elevation, n
+  /// The points as they stand here, acceptable or not; nothing while they are those of the problem.
+  std::optional<Points> ChangedPoints() const;
 
  protected:
   void Form_Load() override;
+  /// Asks before changed points are given up, unless by Cancel.
+  bool Form_QueryUnload() override;
 
  private:
   struct CellChange {
@@ -65,6 +76,8 @@ class frmIrreg : public Form {
   using GridChange = std::vector<CellChange>;
 
   IrregTable::Table Cells() const;
+  /// The cells, with the text of an edit under way.
+  IrregTable::Table CellsInWork() const;
   void ShowCells(const IrregTable::Table& table);
   /// Makes a change of the grid that can be undone.
   template <class Edit>
@@ -75,9 +88,13 @@ class frmIrreg : public Form {
 
   /// True when the table is accepted; else says why and goes to the failing cell.
   bool CheckTable();
+  /// Writes rows from the clipboard into the selected block.
+  void Paste(const std::string& copied);
   /// Makes the table the section of the problem.
   void LoadArray();
   void LoadChart();
 
   std::vector<GridChange> done_, undone_;
+  IrregTable::Table opened_;  // the cells when the editor opened
+  bool settled_ = false;      // stored by OK or given up by Cancel
 };

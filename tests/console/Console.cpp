@@ -36,7 +36,7 @@ const std::vector<Console::Command>& Console::Commands() {
       {"form", 0, 0, &Console::FormName},
       {"type", 2, 2, &Console::Type},
       {"focus", 1, 1, &Console::Focus},
-      {"key", 2, 2, &Console::Key},
+      {"key", 2, 3, &Console::Key},
       {"char", 2, 2, &Console::Char},
       {"click", 1, 1, &Console::Click},
       {"dblclick", 1, 1, &Console::DoubleClick},
@@ -214,7 +214,11 @@ std::string Console::Click(const Words& words) {
 }
 
 std::string Console::Key(const Words& words) {
-  stage_.Person->Key(Focused<FocusControl>(words[0]), Whole(words[1]));
+  static const std::map<std::string, Keys::Modifier> modifiers = {
+      {"", Keys::Modifier::None}, {"shift", Keys::Modifier::Shift}, {"ctrl", Keys::Modifier::Ctrl}};
+  const auto with = modifiers.find(words.size() > 2 ? words[2] : "");
+  if (with == modifiers.end()) throw Refusal("no modifier: " + words[2]);
+  stage_.Person->Key(Focused<FocusControl>(words[0]), Whole(words[1]), with->second);
   return "ok";
 }
 

@@ -46,10 +46,11 @@ void ControllerHands::SelectBlock(FlexGrid& grid, GridBlock block) {
   grid.Selection = block;
 }
 
-void ControllerHands::Key(FocusControl& control, int keyCode) {
-  if (auto* const grid = dynamic_cast<FlexGrid*>(&control); grid && grid->KeyDown) grid->KeyDown(keyCode);
+void ControllerHands::Key(FocusControl& control, int keyCode, Keys::Modifier with) {
+  if (auto* const grid = dynamic_cast<FlexGrid*>(&control); grid && grid->KeyDown)
+    grid->KeyDown(keyCode, with);
   auto* const box = dynamic_cast<TextBox*>(&control);
-  if (box == nullptr || (box->KeyDown && box->KeyDown(keyCode))) return;
+  if (box == nullptr || (box->KeyDown && box->KeyDown(keyCode, with)) || with != Keys::Modifier::None) return;
   const int caret = box->Selection.Get().Start;
   if (keyCode == Keys::Left) box->Selection = {std::max(caret - 1, 0), 0};
   if (keyCode == Keys::Right) box->Selection = {std::min(caret + 1, box->Length()), 0};

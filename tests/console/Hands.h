@@ -25,7 +25,7 @@ class Hands {
   /// Selects the block with the mouse, beginning at the cell that becomes the current one.
   virtual void SelectBlock(FlexGrid& grid, GridBlock block) = 0;
   /// Presses a key of this code on a focused box or grid.
-  virtual void Key(FocusControl& control, int keyCode) = 0;
+  virtual void Key(FocusControl& control, int keyCode, Keys::Modifier with) = 0;
   /// Types a character into a focused box or grid.
   virtual void Char(FocusControl& control, const std::string& character) = 0;
   /// The close box in the title bar.

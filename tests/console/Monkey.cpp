@@ -46,7 +46,8 @@ const std::vector<std::string> Results =
     Split("tbFlow tbDepth tbVelocity tbVelHead tbArea tbWP tbHRad tbTopW tbFroude tbCritD tbCritS", ' ');
 const std::vector<std::string> OnGrid = Split(
     "dblclick MSFlexGrid1|char MSFlexGrid1 7|char tbSel 5|key tbSel 13|key tbSel 27|key tbSel 34|"
-    "key MSFlexGrid1 46|key tbSel 39|chart MSChart1|cell MSFlexGrid1 3 2|record points 4 1|focus MSFlexGrid1|"
+    "key MSFlexGrid1 46|key tbSel 39|key tbSel 13 shift|key tbSel 108 ctrl|key tbSel 34 ctrl|chart "
+    "MSChart1|cell MSFlexGrid1 3 2|record points 4 1|focus MSFlexGrid1|"
     "key tbSel 38|get tbSel.Visible|clipboard 0\\t9\\t.03\\r5\\t2\\r9\\t10|record enginepoints 2 3",
     '|');
 

@@ -1,5 +1,8 @@
 // Text boxes: editing stays what a person knows, and colours tell inputs, answers and what cannot be used.
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenuBar>
+#include <QMimeData>
 
 #include "desktop/Desk.h"
 #include "desktop/kit/Appearance.h"
@@ -43,13 +46,89 @@ TEST_F(Boxes, WhatTheEditMenuDoesCanBeUndone) {
   EXPECT_EQ(main_.tbProjName.Text.Get(), "culvert 12");
 }
 
+TEST_F(Boxes, TheMenuBarLeavesTheSelectionAsItIs) {
+  hands_.Focus(main_.tbFlow);
+  Keys("123");
+  main_.tbFlow.SelectAll();
+  hands_.Window(main_).findChild<QMenuBar*>()->setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(main_.tbFlow.SelectedText(), "123");
+  Edit(main_.tbFlow).setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(Edit(main_.tbFlow).selectedText(), QStringLiteral("123"));
+}
+
+TEST_F(Boxes, OnlyTheFirstLineOfACopiedTextIsPasted) {
+  BoxEdit& flow = Edit(main_.tbFlow);
+  QClipboard& clipboard = *QApplication::clipboard();
+  const auto paste = [&](const std::function<void()>& act) {
+    hands_.Type(main_.tbFlow, "");
+    act();
+    return main_.tbFlow.Text.Get();
+  };
+  for (const char* const copied : {"400\r\n", "\n400\n500", "400\r"}) {
+    services_.clipboard.SetText(copied);
+    clipboard.setText(QString::fromLatin1(copied));
+    EXPECT_EQ(paste([] { Press("Ctrl+V"); }), "400");
+    EXPECT_EQ(paste([this] { hands_.Click(main_.mnuEditPaste); }), "400");
+    EXPECT_EQ(paste([&] {
+                QContextMenuEvent asked(QContextMenuEvent::Mouse, {}, {});
+                QApplication::sendEvent(&flow, &asked);
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_P);
+              }),
+              "400");
+    EXPECT_EQ(paste([&] {
+                QMimeData dragged;
+                dragged.setText(QString::fromLatin1(copied));
+                QDragEnterEvent enters({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+                QApplication::sendEvent(&flow, &enters);
+                QDropEvent drop({}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+                QApplication::sendEvent(&flow, &drop);
+              }),
+              "400");
+  }
+}
+
+TEST_F(Boxes, UndoEndsWhereAnotherProblemBegins) {
+  hands_.Focus(main_.tbProjName);
+  Keys("old");
+  hands_.Click(main_.mnuOptionsTrap);
+  MenuItem* const switches[] = {&main_.mnuOptionsUnitsMetric, &main_.mnuOptionsCircular,
+                                &main_.mnuSolveForFlow, &main_.mnuFileNew};
+  for (MenuItem* const item : switches) {
+    SCOPED_TRACE(item->Caption.Get());
+    hands_.Click(main_.mnuSolveForDepth);
+    Enter({{&main_.tbFlow, "400"}, {&main_.tbSlope, "0.5"}});
+    services_.messageBox.Answers = {BoxAnswer::No};
+    hands_.Click(*item);
+    for (const TextBox* const box : {&main_.tbFlow, &main_.tbSlope, &main_.tbProjName}) {
+      const std::string then = box->Text;
+      Edit(*box).undo();
+      EXPECT_EQ(box->Text.Get(), then);
+    }
+  }
+}
+
+TEST_F(Boxes, ADoubleClickSelectsTheWholeNumber) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"-1,234.5", "-1,234.5"}, {"1.5e-3", "1.5e-3"}, {"12 m", "12"}};
+  for (const auto& [text, selected] : cases) {
+    hands_.Type(main_.tbProjName, text);
+    QTest::mouseDClick(&Edit(main_.tbProjName), Qt::LeftButton, {}, {8, 8});
+    EXPECT_EQ(main_.tbProjName.SelectedText(), selected);
+  }
+}
+
 TEST_F(Boxes, AnAnswerCanBeCopiedButNotEdited) {
   EnterTrapezoid();
   hands_.Focus(main_.tbVelocity);
   Press("Ctrl+C");
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("4.45"));
-  Press("Ctrl+X");  // the menu's Cut, which copies
-  EXPECT_EQ(services_.clipboard.Text(), "4.45");
+  QApplication::clipboard()->setText(QString());
+  Press("Ctrl+X");  // as the menu's Cut, which copies
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("4.45"));
+  services_.clipboard.SetText("kept");
+  Press("Home Ctrl+X Ctrl+C");  // with nothing selected
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("4.45"));
+  EXPECT_EQ(services_.clipboard.Text(), "kept");
   Press("Del 9");
   EXPECT_EQ(Edit(main_.tbVelocity).text(), QStringLiteral("4.45"));
 }
@@ -74,12 +153,20 @@ TEST_F(Boxes, PositionsAreCountedInCharacters) {
   EXPECT_EQ(Edit(main_.tbProjName).text(), QStringLiteral("a-b"));
 }
 
-TEST_F(Boxes, AHugePasteIsTakenWholeAndGivesNoResult) {
+TEST_F(Boxes, AHugePasteIsTakenWholeOrRefused) {
   EnterTrapezoid();
   hands_.Focus(main_.tbFlow);
-  QApplication::clipboard()->setText(QString(1'000'000, QLatin1Char('9')));
-  Press("Ctrl+V");
-  EXPECT_EQ(main_.tbFlow.Text.Get().size(), 1'000'000U);
+  const auto paste = [](int length) {
+    QApplication::clipboard()->setText(QString(length, QLatin1Char('9')));
+    Press("Ctrl+V");
+  };
+  for (const int length : {TextBox::LongestText + 1, 4'000'001}) {
+    paste(length);
+    EXPECT_EQ(main_.tbFlow.Text.Get(), "400");
+    EXPECT_EQ(main_.lblStatus.Caption.Get(), "The text on the clipboard is too long for a box");
+  }
+  paste(TextBox::LongestText);
+  EXPECT_EQ(main_.tbFlow.Text.Get().size(), 100'000U);
   EXPECT_EQ(main_.tbDepth.Text.Get(), "");
   Press("Ctrl+Z");
   EXPECT_EQ(main_.tbDepth.Text.Get(), "3.361");

@@ -12,6 +12,7 @@
 #include "desktop/kit/BoxEdit.h"
 #include "engine/ChannelState.h"
 #include "program/Program.h"
+#include "section/frmIrreg.h"
 #include "support/FakeServices.h"
 
 /// While it lives, texts are so many times as large.
@@ -88,6 +89,7 @@ class Desk : public testing::Test {
   std::function<void(Form&)> inModal_;
   TestHost windows_{[this](Form& form) {
     if (const auto act = std::exchange(inModal_, nullptr)) act(form);
+    if (auto* const editor = dynamic_cast<frmIrreg*>(&form)) editor->cmdCancel_Click();
     if (form.IsLoaded()) form.Unload();
   }};
   Program program_{services_.With(windows_)};

@@ -40,18 +40,62 @@ TEST_F(PointEditor, F2EditsTypingReplacesAndEscapeDropsTheEditBeforeItClosesTheW
     Press("F2 7 Return");
     EXPECT_EQ(Cell(1, 1), "57");
     EXPECT_TRUE(GridHasTheKeyboard());
-    Press("1 2 Enter");
-    EXPECT_EQ(Cell(1, 1), "12");
+    Press("1 2 Enter 6 0 Return");
+    EXPECT_EQ(Cell(1, 1) + " " + Cell(2, 1) + " " + Cell(3, 1), "57 12 60");
     Press("Ctrl+K");  // no text
     EXPECT_TRUE(Box().isHidden());
-    Press("9 Esc");
-    EXPECT_EQ(Cell(1, 1), "12");
+    Press("9 Esc 9 Shift+Esc");
+    EXPECT_EQ(Cell(4, 1), "");
     EXPECT_TRUE(GridHasTheKeyboard());
-    ASSERT_TRUE(form_->IsLoaded());
+    EXPECT_EQ(main_.UnsavedProject()->Points.size(), 3U);
+    EXPECT_TRUE(services_.messageBox.Boxes.empty());
+    for (const char* const keys : {"Esc", "Shift+Esc"}) {
+      Press(keys);  // asks, and is not answered by Yes
+      EXPECT_TRUE(GridHasTheKeyboard());
+      EXPECT_TRUE(form_->IsLoaded());
+      ASSERT_EQ(std::exchange(services_.messageBox.Boxes, {}).size(), 1U) << keys;
+    }
+    services_.messageBox.Answers = {BoxAnswer::Yes};
     Press("Esc");
     EXPECT_FALSE(form_->IsLoaded());
   });
   EXPECT_EQ(ChannelState.IrregPoints[1][1].Text(), "5");
+  EXPECT_FALSE(main_.UnsavedProject());
+}
+
+TEST_F(PointEditor, KeysOfAnOpenCellDoNotReachTheGrid) {
+  Edit({{"0", "8", "0.03"}, {"5", "2", ""}, {"9", "8", ""}}, [this] {
+    Select({2, 2, 2, 2});
+    Press("1 2");
+    for (const char* const keys :
+         {"Shift+Up", "Shift+Down", "Shift+PgDown", "Ctrl+Up", "Ctrl+Down", "Ctrl+Home", "Ctrl+End",
+          "Ctrl+PgUp", "Ctrl+PgDown", "Meta+Down", "Alt+Down", "Meta+Return", "Ctrl+Shift+Return", "Meta+Esc",
+          "F2", "Ctrl+Tab", "Ctrl+Shift+Home"}) {
+      Press(keys);
+      EXPECT_TRUE(Box().hasFocus()) << keys;
+      EXPECT_EQ(Box().text(), QStringLiteral("12")) << keys;
+      EXPECT_EQ(Block(), (GridBlock{2, 2, 2, 2})) << keys;
+    }
+    Press("Shift+Return");
+    EXPECT_EQ(Cell(2, 2), "12");
+    EXPECT_EQ(Block(), (GridBlock{1, 2, 1, 2}));
+    Press("3 Ctrl+Return");
+    EXPECT_EQ(Cell(1, 2), "3");
+    EXPECT_EQ(Block(), (GridBlock{1, 2, 1, 2}));
+    Press("F2 Ctrl+Z");  // brings no other cell's text
+    EXPECT_EQ(Box().text(), QStringLiteral("3"));
+  });
+}
+
+TEST_F(PointEditor, ASurveyLongerThanTheTableIsNotCutSilently) {
+  Edit({{"0", "8", "0.03"}}, [this] {
+    std::string rows;
+    for (int i = 0; i < 150; ++i) rows += std::to_string(i) + "\t7\r\n";
+    services_.clipboard.SetText(rows);
+    Press("Ctrl+V");
+    EXPECT_EQ(services_.messageBox.Boxes.size(), 1U);
+    EXPECT_EQ(Cell(1, 1) + Cell(2, 1), "0");
+  });
 }
 
 TEST_F(PointEditor, KeysMoveTheCellAndShiftMovesTheEndOfTheBlock) {

@@ -28,6 +28,9 @@ TEST(DesktopServices, AnswersOfAMessageBox) {
   EXPECT_EQ(answer(BoxButtons::YesNoCancel, Qt::Key_Y), BoxAnswer::Yes);
   EXPECT_EQ(answer(BoxButtons::YesNoCancel, Qt::Key_N), BoxAnswer::No);
   EXPECT_EQ(answer(BoxButtons::YesNoCancel, Qt::Key_Escape), BoxAnswer::Cancel);
+  EXPECT_EQ(answer(BoxButtons::YesNo, Qt::Key_Y), BoxAnswer::Yes);
+  EXPECT_EQ(answer(BoxButtons::YesNo, Qt::Key_Escape), BoxAnswer::No);
+  EXPECT_EQ(answer(BoxButtons::YesNo, Qt::Key_Return), BoxAnswer::No);
   EXPECT_EQ(answer(BoxButtons::Ok, Qt::Key_Escape), BoxAnswer::Ok);
 }
 

@@ -188,13 +188,17 @@ void WidgetHands::SelectBlock(FlexGrid& grid, GridBlock block) {
   }
 }
 
-void WidgetHands::Key(FocusControl& control, int keyCode) {
+void WidgetHands::Key(FocusControl& control, int keyCode, Keys::Modifier with) {
   static const std::map<int, Qt::Key> codes{
       {Keys::Enter, Qt::Key_Return},  {Keys::KeypadEnter, Qt::Key_Enter}, {Keys::Escape, Qt::Key_Escape},
       {Keys::PageUp, Qt::Key_PageUp}, {Keys::PageDown, Qt::Key_PageDown}, {Keys::Left, Qt::Key_Left},
       {Keys::Up, Qt::Key_Up},         {Keys::Right, Qt::Key_Right},       {Keys::Down, Qt::Key_Down},
       {Keys::Delete, Qt::Key_Delete}};
-  QTest::keyClick(&Of<QWidget>(control), codes.at(keyCode));
+  static const std::map<Keys::Modifier, Qt::KeyboardModifier> modifiers{
+      {Keys::Modifier::None, Qt::NoModifier},
+      {Keys::Modifier::Shift, Qt::ShiftModifier},
+      {Keys::Modifier::Ctrl, Qt::ControlModifier}};
+  QTest::keyClick(&Of<QWidget>(control), codes.at(keyCode), modifiers.at(with));
 }
 
 void WidgetHands::Char(FocusControl& control, const std::string& character) {

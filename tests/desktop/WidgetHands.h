@@ -38,7 +38,7 @@ class WidgetHands : public Hands {
   void DoubleClick(ListBox& list) override;
   void DoubleClick(FlexGrid& grid) override;
   void SelectBlock(FlexGrid& grid, GridBlock block) override;
-  void Key(FocusControl& control, int keyCode) override;
+  void Key(FocusControl& control, int keyCode, Keys::Modifier with) override;
   void Char(FocusControl& control, const std::string& character) override;
   void Close(Form& form) override;
 

@@ -290,6 +290,14 @@ TEST_F(Windows, KeysWorkTheDialogs) {
     EXPECT_FALSE(form.IsLoaded());
   });
   EXPECT_EQ(main_.tbMann.Text.Get(), "0.013");
+  int opened = 0;
+  inModal_ = [&opened](Form&) { ++opened; };
+  hands_.Focus(main_.cmdMannParams);
+  Press("Return");
+  EXPECT_EQ(opened, 1);
+  services_.fileDialog.Choices = {std::nullopt};
+  Press("Ctrl+Shift+S");
+  EXPECT_EQ(services_.fileDialog.Requests.size(), 1U);
 }
 
 TEST_F(Windows, EscapeClosesAllButTheFirst) {

@@ -49,6 +49,7 @@ TEST_F(NumberText, ReadsWhatIsTypedWithAPoint) {
   ExpectNumbers(Point, {{"7", 7}, {" \t12.5\t ", 12.5}, {".5", 0.5}, {"5.", 5}, {"-.5", -0.5}, {"+3", 3}});
   ExpectNumbers(Point, {{"1e3", 1000}, {"2.5E-2", 0.025}, {"007", 7}, {"1,234", 1234}, {"1,234.", 1234}});
   ExpectNumbers(Point, {{"12,345,678.5", 12345678.5}, {"-1,234.568", -1234.568}, {"1,234e2", 123400}});
+  ExpectNumbers(Point, {{"\u00A05\u202F", 5}, {" \u202F-1,234.5\u00A0 ", -1234.5}});
   ExpectOthers(Point, {{"", 0},           {" ", 0},           {".", 0},
                        {"- 5", 0},        {"--5", 0},         {"e5", 0},
                        {"abc", 0},        {"inf", 0},         {"nan", 0},
@@ -68,6 +69,7 @@ TEST_F(NumberText, ReadsTheSignsOfOtherCountries) {
     ExpectNumbers(locale, {{"1" + separator + "234,5", 1234.5},
                            {"1 234,5", 1234.5},
                            {"1\u00A0234\u202F567,5", 1234567.5},
+                           {"\u00A01 234" + separator, 1234},
                            {"1 234 567", 1234567}});
     ExpectOthers(locale, {{"1.234,5", 1}, {"1 23", 1}, {"1  234", 1}, {"1 234 m", 1234}, {"1 2345", 1}});
   }

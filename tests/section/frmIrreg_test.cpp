@@ -43,12 +43,120 @@ TEST_P(PointEditor, OneCellWidensToWhatIsPasted) {
   Select({2, 2, 3, 2});
   editor_.PasteWidened();
   EXPECT_EQ(grid_.Clip(), "1\r3") << "a block that was selected stays as it is";
-  Select({100, 3, 100, 3});
-  editor_.PasteWidened();
-  EXPECT_EQ(grid_.Selection.Get(), (GridBlock{100, 3, 100, 3})) << "the table ends here";
   Copied("");
   editor_.PasteWidened();
-  EXPECT_EQ(grid_.Text(100, 3), "1");
+  EXPECT_EQ(grid_.Clip(), "1\r3");
+}
+
+TEST_P(PointEditor, WhatDoesNotFitIsNotPasted) {
+  std::string rows;
+  for (int i = 0; i < 100; ++i) rows += "5\r\n";
+  struct Case {
+    int Row, Col;
+    std::string Copied, Warning;
+  };
+  const std::string then = " fit. Nothing was pasted.";
+  const Case cases[] = {
+      {1, 1, rows, ""},
+      {100, 3, "1\r\n", ""},
+      {1, 1, rows + "5",
+       "The clipboard has 101 rows and 1 column. From the current cell on, 100 rows and 3 columns"},
+      {2, 1, rows,
+       "The clipboard has 100 rows and 1 column. From the current cell on, 99 rows and 3 columns"},
+      {100, 3, "1\t2", "The clipboard has 1 row and 2 columns. From the current cell on, 1 row and 1 column"},
+  };
+  for (const Case& each : cases) {
+    editor_.cmdIns_Click();  // so that there is something to change
+    Select({each.Row, each.Col, each.Row, each.Col});
+    const std::string before = grid_.Text(each.Row, each.Col);
+    Copied(each.Copied);
+    editor_.PasteWidened();
+    EXPECT_EQ(grid_.Text(each.Row, each.Col), each.Warning.empty() ? each.Copied.substr(0, 1) : before);
+    const auto boxes = std::exchange(fakes_.messageBox.Boxes, {});
+    ASSERT_EQ(boxes.size(), each.Warning.empty() ? 0U : 1U) << each.Copied.size();
+    if (boxes.empty()) continue;
+    EXPECT_EQ(boxes[0].Text, each.Warning + then);
+    EXPECT_EQ(boxes[0].Title, "Warning");
+    EXPECT_EQ(grid_.Selection.Get(), (GridBlock{each.Row, each.Col, each.Row, each.Col}));
+  }
+  for (const std::size_t length : {std::size_t{100'001}, std::size_t{65} << 20U}) {
+    Select({1, 1, 1, 1});
+    Copied(std::string(length, length > 100'001 ? '\t' : '7'));
+    editor_.cmdPaste_Click();
+    ASSERT_EQ(fakes_.messageBox.Boxes.size(), 1U);
+    EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "The text on the clipboard is too long for the table.");
+    fakes_.messageBox.Boxes.clear();
+  }
+}
+
+TEST_P(PointEditor, ASignThatLooksLikeThousandsIsAskedAbout) {
+  const auto pasted = [this](const std::string& copied, std::optional<BoxAnswer> answer) {
+    Select({1, 1, 2, 3});
+    Copied("x\tx\tx\rx\tx\tx");
+    editor_.cmdPaste_Click();
+    if (answer) fakes_.messageBox.Answers = {*answer};
+    Copied(copied);
+    editor_.cmdPaste_Click();
+    EXPECT_EQ(fakes_.messageBox.Boxes.size(), answer ? 1U : 0U) << copied;
+    EXPECT_TRUE(fakes_.messageBox.Answers.empty());
+    return grid_.Clip();
+  };
+  const std::string doubtful = Spelled("0\t12,500\t0,030\r1,000\tft");
+  if (GetParam().GroupSeparator == "\u202F") {  // no sign of any decimals
+    EXPECT_EQ(pasted(doubtful, std::nullopt), doubtful + "\tx");
+    return;
+  }
+  EXPECT_EQ(pasted(doubtful, BoxAnswer::No), doubtful + "\tx");
+  EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, '"' + Spelled("12,500") + "\" reads as 12500 here. Is \"" +
+                                                 GetParam().GroupSeparator +
+                                                 "\" the decimal sign of these points?");
+  fakes_.messageBox.Boxes.clear();
+  EXPECT_EQ(pasted(doubtful, BoxAnswer::Cancel), "x\tx\tx\rx\tx\tx");
+  fakes_.messageBox.Boxes.clear();
+  EXPECT_EQ(pasted(doubtful, BoxAnswer::Yes), Spelled("0\t12.500\t0.030\r1.000\tft\tx"));
+  fakes_.messageBox.Boxes.clear();
+  for (const char* const clear :
+       {"0\t12,500\t0.03\r5\t8.25", "1,234,500\t7", "0\t1,2500\r5\t12,50", "0\t9\t1,000"})
+    pasted(Spelled(clear), std::nullopt);
+}
+
+TEST_P(PointEditor, PointsInWorkAreToldAsTheyStand) {
+  EXPECT_FALSE(editor_.ChangedPoints());
+  Select({1, 1, 3, 3});
+  Copied("0\t5\r\t\t\r\t\t0.1");
+  editor_.cmdPaste_Click();
+  Select({3, 2, 3, 2});
+  editor_.MSFlexGrid1_KeyPress('4');  // not committed yet
+  const frmIrreg::Points points = {{"0", "5", ""}, {"", "", ""}, {"", "4", "0.1"}};
+  EXPECT_EQ(editor_.ChangedPoints(), points);
+  EXPECT_TRUE(editor_.tbSel.Visible);
+  editor_.tbSel_KeyDown(Keys::Escape);
+  editor_.mnuEditUndo_Click();
+  EXPECT_FALSE(editor_.ChangedPoints()) << "undone is not changed";
+}
+
+TEST_P(PointEditor, OKAsksWhetherPoint101MayGo) {
+  for (int row = 1; row <= 101; ++row) {
+    auto& point = ChannelState.IrregPoints[static_cast<std::size_t>(row)];
+    point[1] = std::to_string(row);
+    point[2] = "5";
+    point[3] = "1";
+  }
+  ChannelState.IrregPointCount = 101;
+  frmIrreg editor;
+  editor.Load();
+  editor.MSFlexGrid1_KeyPress('0');
+  editor.CommitEdit();
+  EXPECT_EQ(editor.ChangedPoints()->size(), 101U);
+  fakes_.messageBox.Answers = {BoxAnswer::No};
+  editor.cmdOK_Click();
+  EXPECT_EQ(ChannelState.IrregPointCount, 101);
+  EXPECT_TRUE(editor.IsLoaded());
+  fakes_.messageBox.Answers = {BoxAnswer::Yes};
+  editor.cmdOK_Click();
+  EXPECT_EQ(ChannelState.IrregPointCount, 100);
+  EXPECT_FALSE(editor.IsLoaded());
+  EXPECT_EQ(fakes_.messageBox.Boxes.size(), 2U);
 }
 
 TEST_P(PointEditor, ABlockThatIsCutLeavesTheDrawingToo) {

@@ -67,6 +67,11 @@ void frmMain::JoinInputs() {
     };
   }
   tbProjName.Change = [] { Declarations::DataChanged = true; };
+  for (Control* const control : Controls()) {
+    auto* const box = dynamic_cast<TextBox*>(control);
+    if (box != nullptr)
+      box->TooLong = [this] { lblStatus.Caption = "The text on the clipboard is too long for a box"; };
+  }
 }
 
 void frmMain::JoinCommands() {

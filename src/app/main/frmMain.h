@@ -2,7 +2,11 @@
 // around it.
 #pragma once
 
+#include <array>
+#include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/main/SubWindows.h"
 #include "app/project/ProjectFile.h"
@@ -115,6 +119,11 @@ class frmMain : public Form {
   /// Takes up a kept copy of unsaved work, which still has no file of its own.
   void RecoverProject(const std::string& path);
   ProjectFile::Project CurrentProject() const;
+  /// What would be lost by a power cut now: the project with the points of an open editor; nothing when all
+  /// is in its file.
+  std::optional<ProjectFile::Project> UnsavedProject() const;
+  /// The changed points of the editor; set while one is open.
+  std::function<std::optional<std::vector<std::array<EngineValue, 3>>>()> ChangedPoints;
 
   // Commands: a menu item and the tool button of the same role run the same one.
   void mnuFileNew_Click();
@@ -168,6 +177,8 @@ class frmMain : public Form {
   void SelectUnits(int units);
   /// The types without side slopes or without a base width hold "0" in the boxes that they do not ask for.
   void WriteHiddenZeros();
+  /// Another problem is in the boxes: what was typed for the one before can no longer be undone.
+  void ForgetEdits();
   /// A change that is no edit of a box counts as one when the project has a file to differ from.
   void MarkProjectChanged();
 

@@ -106,6 +106,14 @@ ProjectFile::Project frmMain::CurrentProject() const {
   return project;
 }
 
+std::optional<ProjectFile::Project> frmMain::UnsavedProject() const {
+  const auto points = ChangedPoints ? ChangedPoints() : std::nullopt;
+  if (!points && !Declarations::DataChanged) return std::nullopt;
+  ProjectFile::Project project = CurrentProject();
+  if (points) project.Points = *points;
+  return project;
+}
+
 bool frmMain::FileOpen(const std::string& path) {
   std::string bytes;
   ProjectFile::Project project;
@@ -158,6 +166,7 @@ void frmMain::ShowProject() {
   SetUnitsEorM();
   CheckInputs();
   FormatInputs();
+  ForgetEdits();
   Declarations::DataChanged = false;  // tidied texts are no edit
 }
 

@@ -39,6 +39,12 @@ void frmMain::FormatInputs() {
   }
 }
 
+void frmMain::ForgetEdits() {
+  for (Control* const control : Controls()) {
+    if (auto* const box = dynamic_cast<TextBox*>(control)) box->ForgetEdits();
+  }
+}
+
 void frmMain::WriteHiddenZeros() {
   const Loading loading(loading_);
   for (const Field& field : Fields()) {
@@ -58,6 +64,7 @@ void frmMain::ResetForm() {
     EmptySection();
     WriteHiddenZeros();
   }
+  ForgetEdits();
   Declarations::DataChanged = false;
   CheckInputs();
 }
@@ -68,6 +75,7 @@ void frmMain::SelectUnits(int units) {
   const int before = std::exchange(ChannelState.UnitsEorM, units);
   SetUnitsEorM();
   ConvertInput(before);
+  ForgetEdits();
   CheckInputs();
 }
 
@@ -111,7 +119,7 @@ void frmMain::mnuEditCopy_Click() {
 
 void frmMain::mnuEditPaste_Click() {
   auto* const box = dynamic_cast<TextBox*>(ActiveControl());
-  if (box != nullptr && !box->Locked) box->ReplaceSelection(TheServices().clipboard.Text());
+  if (box != nullptr && !box->Locked) box->Paste(TheServices().clipboard.Text());
 }
 
 void frmMain::mnuEditDelete_Click() {

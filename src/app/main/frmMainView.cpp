@@ -47,6 +47,7 @@ void frmMain::SelectChannelType(const ChannelType& type) {
   ToggleControls();
   WriteHiddenZeros();
   CheckInputs();
+  ForgetEdits();
 }
 
 void frmMain::SelectSolveForFlow(bool solveForFlow) {
@@ -54,6 +55,7 @@ void frmMain::SelectSolveForFlow(bool solveForFlow) {
   ChannelState.SolveForFlow = solveForFlow;
   ToggleControls();
   CheckInputs();
+  ForgetEdits();
 }
 
 void frmMain::MarkProjectChanged() {

@@ -55,6 +55,7 @@ QLabel* Caption(Label& label, QWidget* parent, std::string_view letters) {
 
 QPushButton* Push(Button& button, QWidget* parent, std::string_view letters) {
   auto* const widget = Captioned(button, Adopt(button, new QPushButton(parent)), letters);
+  widget->setAutoDefault(true);  // Return presses it in every window, not in dialogs alone
   QObject::connect(widget, &QPushButton::clicked, widget, [&button, widget] {
     widget->setFocus();  // its letter presses a button too, and that must end the edit of a box
     Press(button);

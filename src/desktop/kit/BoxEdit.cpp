@@ -1,35 +1,57 @@
 // See BoxEdit.h.
 #include "desktop/kit/BoxEdit.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QPainter>
+#include <QPointer>
 
 #include "desktop/kit/Appearance.h"
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/Text.h"
+#include "engine/NumberText.h"
 #include "platform/Keys.h"
 
 namespace {
-// A pasted text comes whole, as it does without a screen; Qt's own limit would cut it silently.
+// A text comes whole, as it does without a screen; Qt's own limit would cut one from a file silently.
 constexpr int LongestText = 4'000'000;
 
-/// The code of a key that a window may handle itself, pressed alone; 0 for any other.
-int KeyCode(const QKeyEvent& event) {
+struct KeyPress {
+  int Code = 0;  ///< 0: no key that a window handles itself, or held with others
+  Keys::Modifier With = Keys::Modifier::None;
+};
+
+KeyPress KeyPressOf(const QKeyEvent& event) {
   constexpr std::pair<Qt::Key, int> Codes[] = {
       {Qt::Key_Return, Keys::Enter},  {Qt::Key_Enter, Keys::KeypadEnter}, {Qt::Key_Escape, Keys::Escape},
       {Qt::Key_PageUp, Keys::PageUp}, {Qt::Key_PageDown, Keys::PageDown}, {Qt::Key_Left, Keys::Left},
       {Qt::Key_Up, Keys::Up},         {Qt::Key_Right, Keys::Right},       {Qt::Key_Down, Keys::Down},
       {Qt::Key_Delete, Keys::Delete},
   };
-  if ((event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier)) != Qt::NoModifier) return 0;
+  constexpr std::pair<Qt::KeyboardModifier, Keys::Modifier> Modifiers[] = {
+      {Qt::NoModifier, Keys::Modifier::None},
+      {Qt::ShiftModifier, Keys::Modifier::Shift},
+      {Qt::ControlModifier, Keys::Modifier::Ctrl},
+  };
   for (const auto& [key, code] : Codes) {
-    if (event.key() == key) return code;
+    if (event.key() != key) continue;
+    for (const auto& [held, with] : Modifiers) {
+      if ((event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier)) == held) return {code, with};
+    }
   }
-  return 0;
+  return {};
+}
+
+std::string Copied(QClipboard::Mode mode) {
+  return FromQt(QGuiApplication::clipboard()->text(mode));
 }
 
 }  // namespace
@@ -46,6 +68,9 @@ BoxEdit::BoxEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
   });
   Bind::Join(box.BackColor, this, [](BoxEdit& edit, int) { edit.ShowLook(); });
   Bind::Join(box.Offending, this, [](BoxEdit& edit, bool) { edit.ShowLook(); });
+  box.ForgetEditsView = [guarded = QPointer<BoxEdit>(this)] {
+    if (guarded) guarded->ForgetEdits();
+  };
   connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { box_.Text = FromQt(text); });
   connect(this, &QLineEdit::selectionChanged, this, [this] { TellSelection(); });
   connect(this, &QLineEdit::cursorPositionChanged, this, [this] { TellSelection(); });
@@ -83,6 +108,12 @@ void BoxEdit::TellSelection() {
   box_.Selection = {CharactersIn(shown, from), CharactersIn(selectedText(), shown.size())};
 }
 
+void BoxEdit::ForgetEdits() {
+  const TextRange selected = box_.Selection;
+  setText(text());  // drops the history of edits, and the selection
+  box_.Selection = selected;
+}
+
 void BoxEdit::ShowLook() {
   const QPalette around = QApplication::palette(this);
   QPalette look;  // resolves only what is set here, so that the rest follows the desktop
@@ -110,15 +141,48 @@ void BoxEdit::dragEnterEvent(QDragEnterEvent* event) {
   }
 }
 
+void BoxEdit::dropEvent(QDropEvent* event) {
+  if (event->source() == this || isReadOnly()) return QLineEdit::dropEvent(event);
+  setCursorPosition(cursorPositionAt(event->position().toPoint()));
+  box_.Paste(FromQt(event->mimeData()->text()));
+  event->acceptProposedAction();
+}
+
+void BoxEdit::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu* const menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (QAction* const action : menu->actions()) {
+    if (action->text().section(QLatin1Char('\t'), 0, 0) != QLineEdit::tr("&Paste")) continue;
+    action->disconnect(this);
+    connect(action, &QAction::triggered, this, [this] { box_.Paste(Copied(QClipboard::Clipboard)); });
+  }
+  menu->popup(event->globalPos());
+}
+
+bool BoxEdit::event(QEvent* event) {
+  // A read-only line edit leaves Cut to the menu, which empties the clipboard when nothing is selected.
+  if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cut))
+    event->accept();
+  return QLineEdit::event(event);
+}
+
 void BoxEdit::focusInEvent(QFocusEvent* event) {
   focusedByPress_ = event->reason() == Qt::MouseFocusReason;
   QLineEdit::focusInEvent(event);
 }
 
+// The menu bar opened by keyboard takes the focus, but its commands work on what is selected here.
+void BoxEdit::focusOutEvent(QFocusEvent* event) {
+  QFocusEvent popup(QEvent::FocusOut, Qt::PopupFocusReason);
+  QLineEdit::focusOutEvent(event->reason() == Qt::MenuBarFocusReason ? &popup : event);
+}
+
 void BoxEdit::keyPressEvent(QKeyEvent* event) {
-  if (box_.KeyDown && box_.KeyDown(KeyCode(*event))) return;
+  const KeyPress press = KeyPressOf(*event);
+  if (press.Code != 0 && box_.KeyDown && box_.KeyDown(press.Code, press.With)) return;
+  if (!isReadOnly() && event->matches(QKeySequence::Paste)) return box_.Paste(Copied(QClipboard::Clipboard));
   // Cut in an answer copies it, as the menu does.
-  if (isReadOnly() && event->matches(QKeySequence::Cut)) copy();
+  if (isReadOnly() && event->matches(QKeySequence::Cut)) return copy();
   QLineEdit::keyPressEvent(event);
 }
 
@@ -130,7 +194,18 @@ void BoxEdit::mousePressEvent(QMouseEvent* event) {
   QLineEdit::mousePressEvent(event);
 }
 
+void BoxEdit::mouseDoubleClickEvent(QMouseEvent* event) {
+  QLineEdit::mouseDoubleClickEvent(event);
+  // Signs and separators end a word, but are part of a number.
+  if (IsNumeric(box_.Text.Get())) selectAll();
+}
+
 void BoxEdit::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::MiddleButton && !isReadOnly() &&
+      QGuiApplication::clipboard()->supportsSelection()) {
+    setCursorPosition(cursorPositionAt(event->position().toPoint()));
+    return box_.Paste(Copied(QClipboard::Selection));
+  }
   QLineEdit::mouseReleaseEvent(event);
   if (selectOnRelease_ && !hasSelectedText()) selectAll();
   selectOnRelease_ = false;

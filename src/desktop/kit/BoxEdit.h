@@ -11,9 +11,14 @@ class BoxEdit : public QLineEdit {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -23,6 +28,7 @@ class BoxEdit : public QLineEdit {
   void ShowSelection();
   void ShowLook();
   void TellSelection();
+  void ForgetEdits();
 
   TextBox& box_;
   bool focusedByPress_ = false;

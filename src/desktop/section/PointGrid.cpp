@@ -2,6 +2,7 @@
 #include "desktop/section/PointGrid.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -58,10 +59,25 @@ class CellDelegate : public QStyledItemDelegate {
   const QTableView& view_;
 };
 
+/// The box of a cell. A key that it has no use for must not move the grid beneath it.
+class CellEdit : public BoxEdit {
+ public:
+  using BoxEdit::BoxEdit;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    BoxEdit::keyPressEvent(event);
+    event->accept();
+  }
+};
+
 }  // namespace
 
 PointGrid::PointGrid(frmIrreg& form, QWidget* parent)
-    : QTableView(parent), form_(form), grid_(form.MSFlexGrid1), edit_(Bind::Box(form.tbSel, viewport())) {
+    : QTableView(parent),
+      form_(form),
+      grid_(form.MSFlexGrid1),
+      edit_(Bind::Adopt(form.tbSel, new CellEdit(form.tbSel, viewport()))) {
   Bind::Adopt(grid_, this);
   setModel(new GridModel(grid_, this));
   setItemDelegate(new CellDelegate(this));

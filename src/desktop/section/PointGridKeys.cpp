@@ -63,7 +63,8 @@ void PointGrid::keyPressEvent(QKeyEvent* event) {
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   if (event->modifiers().testFlag(Qt::AltModifier)) return event->ignore();
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    return GoTo({at.Row + (shift ? -1 : 1), at.Col}, false);
+    const bool stays = event->modifiers().testFlag(Qt::ControlModifier);
+    return GoTo({at.Row + (stays ? 0 : shift ? -1 : 1), at.Col}, false);
   }
   if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {  // with Ctrl; alone it moves the cell
     QTableView::focusNextPrevChild(event->key() == Qt::Key_Tab && !shift);

@@ -49,6 +49,8 @@ BoxAnswer QtMessageBox::Show(const std::string& text, const std::string& title, 
                              BoxButtons buttons) {
   QMessageBox box(icon == BoxIcon::Exclamation ? QMessageBox::Warning : QMessageBox::Information, ToQt(title),
                   ToQt(text), Buttons(buttons), FrontWindow());
+  // Where only Yes and No can be answered, Yes gives something up.
+  if (buttons == BoxButtons::YesNo) box.setDefaultButton(QMessageBox::No);
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::WindowModal);
   switch (box.exec()) {

@@ -66,12 +66,9 @@ Recovery::~Recovery() {
 }
 
 void Recovery::Look() {
-  if (!Declarations::DataChanged) {
-    DropCopy();
-    return;
-  }
-  ProjectFile::Project now = main_.CurrentProject();
-  if (seen_ == now && kept_ != now) KeepCopy(now);
+  std::optional<ProjectFile::Project> now = main_.UnsavedProject();
+  if (!now) return DropCopy();
+  if (seen_ == now && kept_ != now) KeepCopy(*now);
   seen_ = std::move(now);
 }
 
