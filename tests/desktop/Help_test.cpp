@@ -81,7 +81,7 @@ TEST_F(Help, ContentsLeadToPagesAndFollowThem) {
   EXPECT_EQ(Shown(), "help:/start.html");
   ClickTopic("Digits & decimals");
   EXPECT_EQ(Shown(), "help:/frmDigits.html");
-  EXPECT_EQ(ShownAfter("Down Return"), "help:/pipes.html");
+  EXPECT_EQ(ShownAfter("Down"), "help:/pipes.html");
   EXPECT_EQ(ShownAfter("Alt+Left"), "help:/frmDigits.html");
   EXPECT_EQ(InTab<TopicTree>().currentItem()->text(0), QStringLiteral("Digits & decimals"));
   EXPECT_EQ(ShownAfter("Alt+Left Alt+Right"), "help:/frmDigits.html");

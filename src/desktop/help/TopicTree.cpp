@@ -34,6 +34,12 @@ TopicTree::TopicTree(const QString& accessibleName, std::function<void(const QSt
   connect(this, &QTreeWidget::itemActivated, this, &TopicTree::OpenItem);
 }
 
+void TopicTree::keyPressEvent(QKeyEvent* event) {
+  const QTreeWidgetItem* const before = currentItem();
+  QTreeWidget::keyPressEvent(event);
+  if (currentItem() != before && currentItem() != nullptr) OpenItem(currentItem());
+}
+
 void TopicTree::resizeEvent(QResizeEvent* event) {
   header()->setMinimumSectionSize(viewport()->width());
   QTreeWidget::resizeEvent(event);

@@ -8,7 +8,7 @@
 
 class TopicTree : public QTreeWidget {
  public:
-  /// `open` is called with the page of a heading that is clicked or entered.
+  /// `open` is called with the page of a heading that is clicked, entered or reached by a key.
   TopicTree(const QString& accessibleName, std::function<void(const QString& page)> open, QWidget* parent);
 
   void Show(const QList<HelpTopic>& topics);
@@ -20,6 +20,7 @@ class TopicTree : public QTreeWidget {
   void OpenCurrent();
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -65,7 +65,8 @@ void MainView::AddMenus() {
            {{&frmMain::mnuFileNew, "n", QKeySequence::New},
             {&frmMain::mnuFileOpen, "o", QKeySequence::Open},
             {&frmMain::mnuFileSave, "s", QKeySequence::Save},
-            {&frmMain::mnuFileSaveAs, "a", QKeySequence::SaveAs},
+            // Not every desktop has a key of its own for this.
+            {&frmMain::mnuFileSaveAs, "a", QKeySequence(QStringLiteral("Ctrl+Shift+S"))},
             {Separator},
             {&frmMain::mnuFilePrint, "p", QKeySequence::Print},
             {&frmMain::mnuFilePrintPreview, "v"},
