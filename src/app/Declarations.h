@@ -15,6 +15,13 @@ struct RatingRangeRecord {
   EngineValue RangeMin, RangeMax, RangeStep;
   /// How a settings dialog was last left: true by Cancel, false by OK. Its title-bar box leaves it alone.
   bool RatingCancelled = false;
+
+  /// Takes back the range of an earlier moment; how the dialog was left stays.
+  void GoBackTo(const RatingRangeRecord& earlier) {
+    const bool cancelled = RatingCancelled;
+    *this = earlier;
+    RatingCancelled = cancelled;
+  }
 };
 inline RatingRangeRecord RatingRange;
 

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Declarations.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
@@ -45,6 +44,7 @@ RangeSettings::RangeSettings(std::string name) : Form(std::move(name)) {
 }
 
 void RangeSettings::Form_Load() {
+  before_ = RatingRange;
   lblSolveFor.Caption = ChannelState.SolveForFlow ? "Solve for Flow" : "Solve for Depth";
   inputs_ = VariableInputs();
   std::vector<std::string> names;
@@ -94,12 +94,18 @@ void RangeSettings::cmdOK_Click() {
   RatingRange.RatingCancelled = false;
   RatingRange.RangeMin = Internal(tbMin);
   RatingRange.RangeMax = Internal(tbMax);
+  accepted_ = true;
   Unload();
 }
 
 void RangeSettings::cmdCancel_Click() {
   RatingRange.RatingCancelled = true;
   Unload();
+}
+
+bool RangeSettings::Form_QueryUnload() {
+  if (!accepted_) RatingRange.GoBackTo(before_);
+  return true;
 }
 
 double RangeSettings::Internal(const TextBox& box) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/Declarations.h"
 #include "engine/EngineValue.h"
 #include "platform/Controls.h"
 
@@ -27,6 +28,8 @@ class RangeSettings : public Form {
  protected:
   explicit RangeSettings(std::string name);
   void Form_Load() override;
+  /// Without OK everything but the answer itself is as before.
+  bool Form_QueryUnload() override;
 
   /// Marks what cannot be used and enables OK when nothing is.
   void EnableOK();
@@ -46,4 +49,6 @@ class RangeSettings : public Form {
   std::string LastOffence() const;
 
   std::vector<const Field*> inputs_;  // each line of cbxVary
+  RatingRangeRecord before_;          // the range in force when the dialog opened
+  bool accepted_ = false;
 };

@@ -14,6 +14,7 @@
 #include <csignal>
 #include <utility>
 
+#include "app/Declarations.h"
 #include "desktop/Desk.h"
 #include "desktop/Dialogs.h"
 #include "desktop/print/QtPrinter.h"

@@ -4,6 +4,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "app/Declarations.h"
 #include "app/Units.h"
 #include "print/Print.h"
 #include "print/PrintStage.h"
