@@ -1,13 +1,17 @@
 // See RatingSeries.h.
 #include "rating/RatingSeries.h"
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
 
+#include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
 #include "engine/EngineFault.h"
 #include "engine/ManningIrreg.h"
 #include "engine/SolveChannel.h"
+#include "platform/Services.h"
 
 namespace {
 
@@ -26,12 +30,54 @@ class RestoredInputs {
   const frmMain& main_;
 };
 
-bool SolvePoint(int varyCode) {
-  frmMain::FillPipe();
-  if (!IsRatingPointValid(varyCode)) return false;
-  SolveChannel();
-  return ChannelState.Depth.IsNumeric() && ChannelState.Flow.IsNumeric();
+/// Solves the point in the record and stores its row; else the reason why it has none.
+std::optional<Reason> TryPoint(int varyCode, const std::function<void()>& store) {
+  try {
+    frmMain::FillPipe();
+    if (!IsRatingPointValid(varyCode)) return WhyNoResult({});
+    SolveChannel();
+    if (!ChannelState.Depth.IsNumeric() || !ChannelState.Flow.IsNumeric()) return WhyNoResult({});
+    store();
+    return std::nullopt;
+  } catch (const EngineFault& fault) {
+    return WhyNoResult(fault.what());
+  }
 }
+
+/// True for the first value of the range proposed for this input, rounded as the dialog shows it.
+bool IsWhereRangesBegin(const Field& input, double x) {
+  const double first = LowestVaried(input);
+  return x == first ||
+         (first != 0 && ShownNumber(x, input.Quantity, true) == ShownNumber(first, input.Quantity, true));
+}
+
+/// How far a long series has come, on the screen. A short one, the graph's among them, shows nothing.
+class SeriesProgress {
+ public:
+  explicit SeriesProgress(double points) : total_(static_cast<int>(std::clamp(points, 1.0, 1e6))) {}
+  ~SeriesProgress() {
+    if (shown_) Report(total_);  // NOLINT(bugprone-exception-escape): ends a display
+  }
+  SeriesProgress(const SeriesProgress&) = delete;
+  SeriesProgress& operator=(const SeriesProgress&) = delete;
+
+  /// False when the person cancels.
+  bool GoesOn(int points) {
+    if (points % PointsPerReport != 0 || points >= total_) return true;
+    shown_ = Report(points);
+    return shown_;
+  }
+
+ private:
+  static constexpr int PointsPerReport = 500;
+
+  bool Report(int points) const {
+    return TheServices().progress.Show("Computing the rating curve", points, total_);
+  }
+
+  int total_;
+  bool shown_ = false;
+};
 
 }  // namespace
 
@@ -47,23 +93,58 @@ double LowestVaried(const Field& field) {
   return ManningIrreg::IrregLowPoint(ChannelState.IrregEnginePoints, ChannelState.IrregPointCount);
 }
 
-void RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastValue lastValue,
-                     const std::function<void(int row)>& store) {
+void RatingGaps::Add(const Reason& why, int points) {
+  const auto known = std::ranges::find(
+      gaps_, why.OfMany, [](const Gap& gap) -> auto& { return gap.Why.OfMany; });
+  if (known == gaps_.end()) {
+    gaps_.push_back({why, points});
+    return;
+  }
+  known->Points += points;
+  if (known->Why.Text != why.Text) known->Why.Text = why.OfMany;
+}
+
+void RatingGaps::Add(const RatingGaps& others) {
+  for (const Gap& gap : others.gaps_) Add(gap.Why, gap.Points);
+}
+
+std::string RatingGaps::Text(int points) const {
+  std::string text;
+  for (const Gap& gap : gaps_) {
+    if (!text.empty()) text += "; ";
+    text += std::to_string(gap.Points) + " of " + std::to_string(points) +
+            (points == 1 ? " point: " : " points: ") + gap.Why.Text;
+  }
+  return text;
+}
+
+RatingOutcome RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastValue lastValue,
+                              const std::function<void(int row)>& store) {
   const RestoredInputs restored(main);
   const Field* const input = FindVariedInput(range.VaryCode);
+  const double first = range.RangeMin.Number();
   const double last = range.RangeMax.Number();
   const double step = range.RangeStep.Number();
+  SeriesProgress progress((last - first) / step + 1);
   bool maySnap = lastValue == LastValue::Snapped;
+  RatingOutcome outcome;
+  std::optional<Reason> atTheBeginning;
   int rows = 0;
-  for (double x = range.RangeMin.Number(); x <= last;) {
+  for (double x = first; x <= last;) {
     if (input != nullptr) ChannelState.*input->Cell = x;
-    try {
-      if (SolvePoint(range.VaryCode)) {
-        store(rows + 1);
-        ++rows;
-      }
-    } catch (const EngineFault&) {
-      // No row: the curve goes on with its next point.
+    const std::optional<Reason> gap = TryPoint(range.VaryCode, [&] {
+      store(rows + 1);
+      ++rows;
+    });
+    ++outcome.Points;
+    if (gap && input != nullptr && x == first && IsWhereRangesBegin(*input, x)) {
+      atTheBeginning = gap;
+    } else if (gap) {
+      outcome.Gaps.Add(*gap);
+    }
+    if (!progress.GoesOn(outcome.Points)) {
+      outcome.Cancelled = true;
+      break;
     }
     if (!(x + step > x)) break;
     x += step;
@@ -72,6 +153,12 @@ void RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastVa
       maySnap = false;
     }
   }
+  if (atTheBeginning && outcome.Points > 1) {
+    --outcome.Points;
+  } else if (atTheBeginning) {
+    outcome.Gaps.Add(*atTheBeginning);
+  }
+  return outcome;
 }
 
 bool IsRatingPointValid(int varyCode) {

@@ -3,9 +3,12 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "app/Declarations.h"
 #include "app/main/Fields.h"
+#include "app/main/Reasons.h"
 #include "app/main/frmMain.h"
 #include "engine/ChannelState.h"
 
@@ -20,13 +23,39 @@ double LowestVaried(const Field& field);
 /// What becomes of a last value that the added-up steps miss by a rounding.
 enum class LastValue { AsStepped, Snapped };
 
+/// The points of a series that have no result, by reason.
+class RatingGaps {
+ public:
+  void Add(const Reason& why, int points = 1);
+  void Add(const RatingGaps& others);
+  /// "161 of 201 points: the channel does not carry this flow within 998 ft", for each reason; empty where
+  /// every point has a result.
+  std::string Text(int points) const;
+
+ private:
+  struct Gap {
+    Reason Why;
+    int Points;
+  };
+  std::vector<Gap> gaps_;
+};
+
+/// What became of a series.
+struct RatingOutcome {
+  bool Cancelled = false;  ///< by the person; points are missing then
+  int Points = 0;          ///< how many were tried
+  RatingGaps Gaps;
+};
+
 /// Steps the varied input of the problem record from range.RangeMin to range.RangeMax and solves each valid
 /// point in the record itself. Where that gives a flow and a depth, `store` is called with the number of the
 /// row, from 1, to take what it needs from the record. A point whose operation or whose `store` raises an
-/// EngineFault counts no row. Afterwards, also on any other exception of `store`, the inputs are as typed in
-/// the main window; the results stay those of the last point.
-void RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastValue lastValue,
-                     const std::function<void(int row)>& store);
+/// EngineFault counts no row. A first value of 0 or at the lowest point of the section, with which every
+/// proposed range begins, is not counted as a point when it has no result. A long series shows its progress.
+/// Afterwards, also on any other exception of `store`, the inputs are as typed in the main window; the
+/// results stay those of the last point.
+RatingOutcome RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastValue lastValue,
+                              const std::function<void(int row)>& store);
 
 /// True when the problem record can be solved at the present value of the varied input. EngineFault for an
 /// irregular section without points.

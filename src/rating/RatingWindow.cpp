@@ -21,12 +21,18 @@ RatingWindow::RatingWindow(std::string name, const frmMain& main) : Form(std::mo
 
 void RatingWindow::Form_Load() {
   Caption = std::string(Declarations::AppTitle) + " - " + ChannelState.ChannelType;
-  LoadSeries();
+  if (!LoadSeries()) Unload();
+}
+
+void RatingWindow::ShowMissing(const std::string& text, bool somethingShown) {
+  lblMissing.Caption = text;
+  lblMissing.Visible = somethingShown && !text.empty();
 }
 
 void RatingWindow::mnuEditSettings_Click() {
+  const RatingRangeRecord shown = RatingRange;
   ShowSettings();
-  if (!RatingRange.RatingCancelled) LoadSeries();
+  if (!RatingRange.RatingCancelled && !LoadSeries()) RatingRange.GoBackTo(shown);
 }
 
 void RatingWindow::mnuFileExit_Click() {

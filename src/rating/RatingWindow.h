@@ -10,6 +10,9 @@ class RatingWindow : public Form {
   MenuItem mnuFileExport{this, "mnuFileExport"}, mnuFileExit{this, "mnuFileExit"};
   MenuItem mnuEditCopy{this, "mnuEditCopy"}, mnuEditSettings{this, "mnuEditSettings"};
 
+  /// How many points of the series have no result, and why; hidden when nothing is shown at all.
+  Label lblMissing{this, "lblMissing"};
+
   virtual void mnuPrint_Click() = 0;
   virtual void mnuPrintPreview_Click() = 0;
   virtual void mnuFileExport_Click() = 0;
@@ -20,8 +23,9 @@ class RatingWindow : public Form {
  protected:
   RatingWindow(std::string name, const frmMain& main);
   void Form_Load() override;
-  /// Runs the series and shows it.
-  virtual void LoadSeries() = 0;
+  /// Runs the series and shows it. False when the person cancels it: what is shown stays.
+  virtual bool LoadSeries() = 0;
+  void ShowMissing(const std::string& text, bool somethingShown);
   /// Opens the settings dialog; returns when it is closed.
   virtual void ShowSettings() = 0;
 

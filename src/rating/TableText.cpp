@@ -1,12 +1,7 @@
 // See TableText.h.
 #include "rating/TableText.h"
 
-#include <algorithm>
-#include <iterator>
-#include <vector>
-
 #include "engine/NumberText.h"
-#include "rating/RatingColumn.h"
 
 namespace {
 
@@ -24,22 +19,19 @@ std::string Joined(const std::vector<std::string>& fields, char separator) {
 
 }  // namespace
 
-std::string RatingTableAsCsv(const frmMain& main, const RatingRangeRecord& range) {
+std::string RatingTableAsCsv(const std::vector<RatingNumbers>& rows) {
   const char separator = CurrentNumberLocale().DecimalSign == "," ? ';' : ',';
-  std::vector<RatingColumn> columns;
-  std::ranges::copy_if(CurrentRatingColumns(), std::back_inserter(columns),
-                       [](const RatingColumn& column) { return column.Cell != nullptr; });
+  const RatingColumns columns = CurrentRatingColumns();
   const auto line = [&](const auto& field) {
-    std::vector<std::string> fields(columns.size());
-    std::ranges::transform(columns, fields.begin(), field);
+    std::vector<std::string> fields;
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+      if (columns[column].Cell != nullptr) fields.push_back(field(column));
+    }
     return Joined(fields, separator);
   };
-  std::string csv = line([](const RatingColumn& column) { return column.Header(); });
-  RunRatingSeries(main, range, LastValue::Snapped, [&](int) {
-    csv += line([](const RatingColumn& column) {
-      const auto number = column.Number();
-      return number ? PlainNumberInLocale(*number) : "";
-    });
-  });
+  std::string csv = line([&](std::size_t column) { return columns[column].Header(); });
+  for (const RatingNumbers& row : rows) {
+    csv += line([&](std::size_t column) { return row[column] ? PlainNumberInLocale(*row[column]) : ""; });
+  }
   return csv;
 }

@@ -1,11 +1,17 @@
 // The rating table as a text for other programs.
 #pragma once
 
+#include <array>
+#include <optional>
 #include <string>
+#include <vector>
 
-#include "rating/RatingSeries.h"
+#include "rating/RatingColumn.h"
 
-/// The table of this range as comma-separated values: a line of captions with units, then a line for each
-/// point, its numbers unrounded in the units on display. Columns without values are left out, a result that
-/// is not numeric is an empty field. Where "," is the decimal sign, ";" separates.
-std::string RatingTableAsCsv(const frmMain& main, const RatingRangeRecord& range);
+/// A row of the table: the numbers of CurrentRatingColumns, nothing where one is not numeric.
+using RatingNumbers = std::array<std::optional<double>, std::tuple_size_v<RatingColumns>>;
+
+/// These rows as comma-separated values: a line of captions with units, then a line for each row, its numbers
+/// unrounded in the units on display. Columns without values are left out, a result that is not numeric is an
+/// empty field. Where "," is the decimal sign, ";" separates.
+std::string RatingTableAsCsv(const std::vector<RatingNumbers>& rows);

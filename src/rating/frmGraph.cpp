@@ -1,6 +1,8 @@
 // See frmGraph.h.
 #include "rating/frmGraph.h"
 
+#include <algorithm>
+
 #include "app/Declarations.h"
 #include "app/ExportFile.h"
 #include "platform/Services.h"
@@ -43,8 +45,8 @@ frmGraph::frmGraph(const frmMain& main) : RatingWindow("frmGraph", main) {
   lblMarked.Caption = "Marked: the flow falls as the level rises";
 }
 
-void frmGraph::LoadSeries() {
-  LoadGraph();
+bool frmGraph::LoadSeries() {
+  return LoadGraph();
 }
 
 void frmGraph::ShowSettings() {
@@ -52,26 +54,33 @@ void frmGraph::ShowSettings() {
   TheServices().windows.ShowModal(settings);
 }
 
-void frmGraph::LoadGraph() {
+bool frmGraph::LoadGraph() {
   const RatingColumns columns = CurrentRatingColumns();
   const Field* const varied = FindVariedInput(RatingRange.VaryCode);
   const RatingColumn& x = columns.at(static_cast<std::size_t>(varied->RatingColumn));
   const RatingColumn& y = columns.at(static_cast<std::size_t>(RatingRange.GraphYColumn));
   std::vector<XYChart::Row> rows;
   FallingFlow falling;
-  RunRatingSeries(main_, RatingRange, LastValue::AsStepped, [&](int row) {
+  RatingGaps blanks;
+  RatingOutcome outcome = RunRatingSeries(main_, RatingRange, LastValue::AsStepped, [&](int row) {
     if (row > MostRows) return;
     const auto across = x.Number();
     const auto up = y.Number();
+    if (!up) blanks.Add(WhyBlank(y.Cell));
     rows.push_back(across && up ? XYChart::Row{across, up} : XYChart::Row{std::nullopt, std::nullopt});
     falling.Add(row - 1);
   });
+  if (outcome.Cancelled) return false;
+  outcome.Gaps.Add(blanks);
   MSChart1.XTitle = x.Header();
   MSChart1.YTitle = y.Header();
   MSChart1.UniformAxis = false;
   MSChart1.Marked = falling.Stretches();
+  const bool drawn = std::ranges::any_of(rows, [](const XYChart::Row& row) { return row[0].has_value(); });
   MSChart1.Load(std::move(rows), 2);
+  ShowMissing(outcome.Gaps.Text(outcome.Points), drawn);
   lblMarked.Visible = !falling.Stretches().empty();
+  return true;
 }
 
 void frmGraph::mnuEditCopy_Click() {

@@ -12,8 +12,9 @@ class frmGraph : public RatingWindow {
   /// Says what the marked stretches of the chart are; hidden when there are none.
   Label lblMarked{this, "lblMarked"};
 
-  /// Plots the series; where the flow falls as the level rises the chart's rows are marked.
-  void LoadGraph();
+  /// Plots the series; where the flow falls as the level rises the chart's rows are marked. False when the
+  /// person cancels: the chart stays.
+  bool LoadGraph();
 
   void mnuPrint_Click() override;
   void mnuPrintPreview_Click() override;
@@ -21,6 +22,6 @@ class frmGraph : public RatingWindow {
   void mnuEditCopy_Click() override;
 
  protected:
-  void LoadSeries() override;
+  bool LoadSeries() override;
   void ShowSettings() override;
 };

@@ -1,12 +1,14 @@
 // See frmTable.h.
 #include "rating/frmTable.h"
 
+#include <algorithm>
+#include <functional>
+
 #include "app/ExportFile.h"
 #include "platform/Services.h"
 #include "print/Print.h"
 #include "rating/RatingColumn.h"
 #include "rating/RatingSeries.h"
-#include "rating/TableText.h"
 #include "rating/frmTableSettings.h"
 
 namespace {
@@ -17,7 +19,7 @@ constexpr int ColumnWidth = 1200;
 template <class Text>
 std::vector<std::string> Row(const RatingColumns& columns, Text text) {
   std::vector<std::string> row(columns.size());
-  for (std::size_t i = 1; i < columns.size(); ++i) row[i] = text(columns[i]);
+  for (std::size_t i = 1; i < columns.size(); ++i) row[i] = std::invoke(text, columns[i]);
   return row;
 }
 
@@ -25,8 +27,8 @@ std::vector<std::string> Row(const RatingColumns& columns, Text text) {
 
 frmTable::frmTable(const frmMain& main) : RatingWindow("frmTable", main) {}
 
-void frmTable::LoadSeries() {
-  LoadTable();
+bool frmTable::LoadSeries() {
+  return LoadTable();
 }
 
 void frmTable::ShowSettings() {
@@ -34,18 +36,26 @@ void frmTable::ShowSettings() {
   TheServices().windows.ShowModal(settings);
 }
 
-void frmTable::LoadTable() {
-  shown_ = RatingRange;
+bool frmTable::LoadTable() {
   const RatingColumns columns = CurrentRatingColumns();
+  std::vector<std::vector<std::string>> rows;
+  std::vector<RatingNumbers> numbers;
+  rows.push_back(Row(columns, [](const RatingColumn& column) { return column.Header(); }));
+  const RatingOutcome outcome = RunRatingSeries(main_, RatingRange, LastValue::Snapped, [&](int) {
+    RatingNumbers unrounded;
+    std::ranges::transform(columns, unrounded.begin(), &RatingColumn::Number);
+    rows.push_back(Row(columns, &RatingColumn::Text));
+    numbers.push_back(unrounded);
+  });
+  if (outcome.Cancelled) return false;
   std::vector<int> widths(columns.size(), ColumnWidth);
   widths[0] = LeadingWidth;
   MSFlexGrid1.ColWidths = widths;
-  std::vector<std::vector<std::string>> rows;
-  rows.push_back(Row(columns, [](const RatingColumn& column) { return column.Header(); }));
-  RunRatingSeries(main_, shown_, LastValue::Snapped, [&](int) {
-    rows.push_back(Row(columns, [](const RatingColumn& column) { return column.Text(); }));
-  });
+  const bool anyRow = rows.size() > 1;
   MSFlexGrid1.Load(std::move(rows), static_cast<int>(columns.size()));
+  ShowMissing(outcome.Gaps.Text(outcome.Points), anyRow);
+  numbers_ = std::move(numbers);
+  return true;
 }
 
 void frmTable::mnuEditCopy_Click() {
@@ -70,5 +80,5 @@ void frmTable::mnuPrintPreview_Click() {
 
 void frmTable::mnuFileExport_Click() {
   ExportFile({"Export Table", "Comma-Separated Values (*.csv)|*.csv|All Files (*.*)|*.*", "csv"},
-             [this](const std::string&) { return RatingTableAsCsv(main_, shown_); });
+             [this](const std::string&) { return RatingTableAsCsv(numbers_); });
 }

@@ -1,9 +1,9 @@
 // The rating table: one row for each point of a rating series.
 #pragma once
 
-#include "app/Declarations.h"
 #include "platform/FlexGrid.h"
 #include "rating/RatingWindow.h"
+#include "rating/TableText.h"
 
 class frmTable : public RatingWindow {
  public:
@@ -11,7 +11,8 @@ class frmTable : public RatingWindow {
 
   FlexGrid MSFlexGrid1{this, "MSFlexGrid1"};
 
-  void LoadTable();
+  /// Fills the grid with the series. False when the person cancels: the rows stay.
+  bool LoadTable();
 
   void mnuPrint_Click() override;
   void mnuPrintPreview_Click() override;
@@ -20,10 +21,9 @@ class frmTable : public RatingWindow {
   void mnuEditCopy_Click() override;
 
  protected:
-  void LoadSeries() override;
+  bool LoadSeries() override;
   void ShowSettings() override;
 
  private:
-  RatingRangeRecord
-      shown_;  // the range of the rows on display: a cancelled settings dialog may leave another
+  std::vector<RatingNumbers> numbers_;  // of the rows, unrounded
 };

@@ -80,20 +80,38 @@ TEST_F(Rating, MouseAndKeysSelectABlockToCopy) {
   });
 }
 
-TEST_F(Rating, AnEmptyTableAndAnEmptyGraphSayWhy) {
+TEST_F(Rating, TableAndGraphTellThePointsThatAreMissing) {
+  const auto range = [this](const char* first, const char* last) {
+    return [this, first, last](RangeSettings& form) {
+      hands_.Type(form.tbMin, first);
+      hands_.Type(form.tbMax, last);
+    };
+  };
   const auto expectNote = [this](const QWidget& view) {
     EXPECT_TRUE(view.findChild<EmptyNote*>()->isVisible());
-    EXPECT_TRUE(view.accessibleDescription().contains(u"Flows must be greater than 0"));
+    EXPECT_TRUE(view.accessibleDescription().contains(u"the flow must be greater than 0"));
     Press("Ctrl+A Shift+Down");
   };
-  const auto below = [this](RangeSettings& form) {
-    hands_.Type(form.tbMin, "-2");
-    hands_.Type(form.tbMax, "-1");
-  };
   Open<frmTable>(
-      main_.mnuSolveTable, [&](frmTable& form) { expectNote(hands_.Of<QWidget>(form.MSFlexGrid1)); }, below);
+      main_.mnuSolveTable, [&](frmTable& form) { expectNote(hands_.Of<QWidget>(form.MSFlexGrid1)); },
+      range("-2", "-1"));
   Open<frmGraph>(
-      main_.mnuSolveGraph, [&](frmGraph& form) { expectNote(hands_.Of<QWidget>(form.MSChart1)); }, below);
+      main_.mnuSolveGraph,
+      [&](frmGraph& form) {
+        expectNote(hands_.Of<QWidget>(form.MSChart1));
+        EXPECT_FALSE(hands_.Of<QWidget>(form.lblMissing).isVisible());
+        // Another range while the window is open: the note goes, the points below the chart are counted.
+        inModal_ = [&](Form& settings) {
+          range("-200", "200")(dynamic_cast<RangeSettings&>(settings));
+          Press("Return");
+        };
+        hands_.Click(form.mnuEditSettings);
+        EXPECT_FALSE(hands_.Of<QWidget>(form.MSChart1).findChild<EmptyNote*>()->isVisible());
+        const auto& missing = hands_.Of<QLabel>(form.lblMissing);
+        EXPECT_TRUE(missing.isVisible());
+        EXPECT_EQ(missing.text(), u"101 of 201 points: the flow must be greater than 0");
+      },
+      range("-2", "-1"));
 }
 
 TEST_F(Rating, WhatCannotBeUsedIsToldAndEnterDoesNotTakeIt) {

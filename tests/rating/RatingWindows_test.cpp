@@ -102,6 +102,50 @@ TEST_P(RatingWindows, TheTableIsWrittenUnrounded) {
   EXPECT_THAT(csv, HasSubstr(Spelled("\r\n91.69586518817"))) << "A k/n R^(2/3) S^(1/2), to all digits";
 }
 
+TEST_P(RatingWindows, ALongTableIsCancelledAsIfItHadNotBeenAsked) {
+  TypeRectangle();
+  const auto setSteps = [this](const std::string& step) {
+    Screen.Then<frmTableSettings>([step](frmTableSettings& settings) {
+      Type(settings.tbIncrement, step);
+      settings.cmdOK_Click();
+    });
+  };
+  const auto expectInputs = [] {
+    EXPECT_EQ(ChannelState.Depth, EngineValue(2));
+    EXPECT_EQ(ChannelState.Slope.Number(), 0.001);
+  };
+  Fakes.progress.CancelAt = 1500;
+  setSteps("0.001");
+  Main.mnuSolveTable_Click();  // no table opens
+  EXPECT_THAT(Fakes.progress.Reports, testing::ElementsAre("Computing the rating curve 500/2001",
+                                                           "Computing the rating curve 1000/2001",
+                                                           "Computing the rating curve 1500/2001"));
+  expectInputs();
+  OpenTable([&](frmTable& table) {
+    const RatingRangeRecord range = RatingRange;
+    setSteps("0.0005");
+    table.mnuEditSettings_Click();
+    EXPECT_EQ(table.MSFlexGrid1.Rows(), 21);
+    EXPECT_EQ(RatingRange.RangeStep, range.RangeStep);
+    EXPECT_FALSE(RatingRange.RatingCancelled);
+    expectInputs();
+    Fakes.progress = {};
+    setSteps("0.001");
+    table.mnuEditSettings_Click();
+    EXPECT_EQ(table.MSFlexGrid1.Rows(), 2001);
+    EXPECT_EQ(Fakes.progress.Reports.back(), "Computing the rating curve 2001/2001") << "the display ends";
+  });
+}
+
+TEST_P(RatingWindows, ASectionHasNoRoughnessOfItsOwnInTheFile) {
+  Type(Main.tbMann, "0.05");
+  TypeSection({{"0", "10", "0.03"}, {"10", "0", ""}, {"20", "10", ""}}, "5");
+  Fakes.fileDialog.Choices = {Path("table.csv")};
+  OpenTable([](frmTable& table) { table.mnuFileExport_Click(); });
+  EXPECT_THAT(BytesOf(Path("table.csv")),
+              HasSubstr(DecimalComma() ? "Slope, ft/ft;Vel., fps" : "\"Slope, ft/ft\",\"Vel., fps\""));
+}
+
 TEST_P(RatingWindows, AFailureToExportIsToldAndLeavesNothing) {
   TypeRectangle();
   Fakes.fileDialog.Choices = {Path("missing/table.csv"), Path("graph.PNG"), Path("graph.PNG")};

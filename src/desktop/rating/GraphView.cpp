@@ -14,11 +14,10 @@
 namespace {
 
 /// What the marked stretches are, after a sample of one.
-QWidget* Legend(frmGraph& form, QWidget* parent) {
+QWidget* Legend(frmGraph& form, const QMargins& margins, QWidget* parent) {
   auto* const legend = new QWidget(parent);
   auto* const row = new QHBoxLayout(legend);
-  const int em = legend->fontMetrics().height();
-  row->setContentsMargins(em, 0, em, em / 2);
+  row->setContentsMargins(margins);
   row->addWidget(ChartWidget::MarkedSample(legend));
   row->addWidget(Bind::Caption(form.lblMarked, legend), 1);
   Bind::Follow(form.lblMarked.Visible, legend,
@@ -29,15 +28,12 @@ QWidget* Legend(frmGraph& form, QWidget* parent) {
 }  // namespace
 
 GraphView::GraphView(frmGraph& form, QWidget* parent) : RatingView(form, parent) {
-  auto* const page = new QWidget(this);
-  auto* const column = new QVBoxLayout(page);
-  ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, page));
-  column->setContentsMargins({});
-  column->addWidget(chart, 1);
-  column->addWidget(Legend(form, page));
-  setCentralWidget(page);
-  const auto tell = [&form, chart] { chart->SetTexts(WhyNoPoints(), ToQt(form.lblMarked.Caption.Get())); };
-  Bind::Follow(form.MSChart1.XTitle, chart, tell);
+  ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, this));
+  SetContent(chart)->insertWidget(1, Legend(form, Below(), this));
+  const auto tell = [this, &form, chart] {
+    chart->SetTexts(WhyNothing(), ToQt(form.lblMarked.Caption.Get()));
+  };
+  Bind::Follow(form.lblMissing.Caption, chart, tell);
 
   QMenu* const view = menuBar()->addMenu(tr("&View"));
   view->addAction(chart->LogarithmicAction());

@@ -2,38 +2,14 @@
 #include "desktop/rating/RatingView.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
+#include <QVBoxLayout>
 
-#include "app/Declarations.h"
-#include "app/Units.h"
-#include "app/main/ChannelTypes.h"
+#include "desktop/kit/Bind.h"
+#include "desktop/kit/Text.h"
 
-namespace {
-
-const char* Rule() {
-  switch (RatingRange.VaryCode) {
-    case Units::Length:
-      return CurrentChannelType().IsSurveyed() ? "Levels must be above the lowest point of the section."
-             : CurrentChannelType().Is == Shape::Pipe
-                 ? "Depths must be greater than 0 and not above the diameter."
-                 : "Depths must be greater than 0.";
-    case Units::Flow:
-      return "Flows must be greater than 0.";
-    case Units::Slope:
-      return "Slopes must be greater than 0 and not above 1.";
-    case Units::Diameter:
-      return ChannelState.SolveForFlow ? "Diameters must not be below the depth."
-                                       : "Diameters must be greater than 0.";
-    case Units::BaseWidth:
-      return "Widths must not be below 0.";
-    default:
-      return "Manning's n must be greater than 0 and not above 1.";
-  }
-}
-
-}  // namespace
-
-RatingView::RatingView(RatingWindow& form, QWidget* parent) : FormWindow(parent) {
+RatingView::RatingView(RatingWindow& form, QWidget* parent) : FormWindow(parent), form_(form) {
   AddMenu(tr("&File"), {{&form.mnuPrint, "p", QKeySequence::Print},
                         {&form.mnuPrintPreview, "v", {}},
                         {&form.mnuFileExport, "e", {}},
@@ -44,7 +20,27 @@ RatingView::RatingView(RatingWindow& form, QWidget* parent) : FormWindow(parent)
   copy_ = edit->actions().first();
 }
 
-QString RatingView::WhyNoPoints() {
-  return QStringLiteral("Nothing can be computed in this range. %1\nAnother range: Edit > Settings.")
-      .arg(QLatin1String(Rule()));
+QString RatingView::WhyNothing() const {
+  return tr("Nothing can be computed in this range.\n%1\nAnother range: Edit > Settings.")
+      .arg(Printed(form_.lblMissing.Caption.Get()));
+}
+
+QVBoxLayout* RatingView::SetContent(QWidget* content) {
+  auto* const page = new QWidget(this);
+  auto* const column = new QVBoxLayout(page);
+  content->setParent(page);
+  QLabel* const missing = Bind::Caption(form_.lblMissing, page);
+  missing->setWordWrap(true);
+  missing->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  missing->setContentsMargins(Below());
+  column->setContentsMargins({});
+  column->addWidget(content, 1);
+  column->addWidget(missing);
+  setCentralWidget(page);
+  return column;
+}
+
+QMargins RatingView::Below() const {
+  const int em = fontMetrics().height();
+  return {em, 0, em, em / 2};
 }

@@ -13,17 +13,17 @@ TableView::TableView(frmTable& form, QWidget* parent) : RatingView(form, parent)
   table->setAccessibleName(tr("Rating table"));
   table->setContextMenuPolicy(Qt::ActionsContextMenu);
   table->addAction(CopyAction());
-  setCentralWidget(table);
+  SetContent(table);
 
   auto* const count = new QLabel(this);
   statusBar()->addWidget(count);
   const auto tell = [table, count] {
     const int rows = table->model()->rowCount();
     count->setText(rows == 1 ? tr("1 row") : tr("%L1 rows").arg(rows));
-    table->SetEmptyText(WhyNoPoints());
   };
   connect(table->model(), &QAbstractItemModel::modelReset, count, tell);
   tell();
+  Bind::Follow(form.lblMissing.Caption, table, [this, table] { table->SetEmptyText(WhyNothing()); });
   table->setFocus();
   SetSize({84, 38});
 }

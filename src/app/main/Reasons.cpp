@@ -1,0 +1,208 @@
+// See Reasons.h.
+#include "app/main/Reasons.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
+
+#include "app/Declarations.h"
+#include "app/NumberDisplay.h"
+#include "app/Units.h"
+#include "engine/Constants.h"
+#include "engine/ManningCircular.h"
+#include "engine/NumberText.h"
+
+namespace {
+
+using Record = ChannelRecord;
+using Point = std::array<EngineValue, 4>;
+
+constexpr double FullPipe = 1e-12;  // a depth within this part of the diameter counts as the diameter
+
+bool IsPipe(const Record& r) {
+  return r.ChannelType == ChannelTypes::Circular;
+}
+bool IsSection(const Record& r) {
+  return r.ChannelType == ChannelTypes::Irregular;
+}
+bool IsPrism(const Record& r) {
+  return !IsPipe(r) && !IsSection(r);
+}
+
+std::span<const Point> Points(const Record& r) {
+  return std::span(r.IrregEnginePoints).subspan(1, static_cast<std::size_t>(r.IrregPointCount));
+}
+
+double LowPoint(const Record& r) {
+  double lowest = HUGE_VAL;
+  for (const Point& point : Points(r)) lowest = std::min(lowest, point[2].Number());
+  return lowest;
+}
+
+std::string WithUnit(const std::string& number, int quantity) {
+  return number + " " + UnitLabel(ChannelState.UnitsEorM, quantity);
+}
+
+/// The limit of a flow or a depth with its unit: rounded, but never to a number that would be refused.
+std::string Limit(double limit, int quantity, bool included) {
+  const double factor = UnitFactor(ChannelState.UnitsEorM, quantity);
+  const auto refused = [&](const std::string& shown) {
+    const double typed = LeadingNumber(shown) * factor;
+    return included ? typed > limit * (1 + FullPipe) : typed >= limit;
+  };
+  const std::string nearest = ShownNumber(limit, quantity, false);
+  if (!refused(nearest)) return WithUnit(nearest, quantity);
+  const double lastDigit = std::pow(10, std::floor(std::log10(limit / factor)) - Declarations::SigDigs + 1);
+  return WithUnit(ShownNumber(limit - lastDigit * factor, quantity, false), quantity);
+}
+
+/// The row of the first point that is amiss; 0 when none is.
+template <class IsAmiss>
+int FirstPoint(const Record& r, IsAmiss isAmiss) {
+  const auto points = Points(r);
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    if (isAmiss(points[i], i == 0 ? nullptr : &points[i - 1])) return static_cast<int>(i + 1);
+  }
+  return 0;
+}
+
+int NoRoughness(const Record& r) {
+  return FirstPoint(r, [](const Point& point, const Point*) {
+    return !point[3].IsEmptyText() && !(point[3].Number() > 0);
+  });
+}
+
+int NotAscending(const Record& r) {
+  return FirstPoint(r, [](const Point& point, const Point* before) {
+    return before != nullptr && !(point[1].Number() > (*before)[1].Number());
+  });
+}
+
+bool HasNoWidth(const Record& r) {
+  if (IsPipe(r)) return false;
+  if (IsPrism(r)) {
+    return r.BaseWidth.Number() == 0 && r.SideSlopeLeft.Number() == 0 && r.SideSlopeRight.Number() == 0;
+  }
+  const auto points = Points(r);
+  return points.size() > 1 &&
+         std::ranges::all_of(points, [&](const Point& point) { return point[1] == points[0][1]; });
+}
+
+bool IsAboveEnds(const Record& r) {
+  if (!IsSection(r)) return false;
+  const double lowerEnd = std::min(Points(r).front()[2].Number(), Points(r).back()[2].Number());
+  return lowerEnd < LowPoint(r) + Constants::DeepestResult;
+}
+
+std::string DeepestResult() {
+  const double length = UnitFactor(ChannelState.UnitsEorM, Units::Length);
+  return WithUnit(FixedFormat(Constants::DeepestResult, 1 / length, 0).Text(), Units::Length);
+}
+
+struct Row {
+  bool (*Applies)(const Record&);
+  std::string (*Text)(const Record&);
+  const char* OfMany = nullptr;  ///< where the text has numbers that an input may change
+};
+
+/// What is amiss with the inputs, whatever the engine made of it. The first that applies counts.
+constexpr Row Inputs[] = {
+    {[](const Record& r) { return !r.SolveForFlow && !(r.Flow.Number() > 0); },
+     [](const Record&) -> std::string { return "the flow must be greater than 0"; }},
+    {[](const Record& r) { return r.SolveForFlow && !IsSection(r) && !(r.Depth.Number() > 0); },
+     [](const Record&) -> std::string { return "the depth must be greater than 0"; }},
+    {[](const Record& r) { return !(r.Slope.Number() > 0 && r.Slope.Number() <= 1); },
+     [](const Record&) -> std::string { return "the slope must be greater than 0 and not above 1"; }},
+    {[](const Record& r) { return !IsSection(r) && !(r.ManningN.Number() > 0 && r.ManningN.Number() <= 1); },
+     [](const Record&) -> std::string { return "Manning's n must be greater than 0 and not above 1"; }},
+    {[](const Record& r) { return IsPipe(r) && !(r.Diameter.Number() > 0); },
+     [](const Record&) -> std::string { return "the diameter must be greater than 0"; }},
+    {[](const Record& r) { return IsPrism(r) && !(r.BaseWidth.Number() >= 0); },
+     [](const Record&) -> std::string { return "the base width must not be below 0"; }},
+    {HasNoWidth, [](const Record&) -> std::string { return "the channel has no width"; }},
+    {[](const Record& r) { return IsSection(r) && NotAscending(r) > 0; },
+     [](const Record& r) {
+       const int row = NotAscending(r);
+       return "the station of point " + std::to_string(row) + " is not above that of point " +
+              std::to_string(row - 1);
+     }},
+    {[](const Record& r) { return IsSection(r) && NoRoughness(r) > 0; },
+     [](const Record& r) {
+       return "Manning's n of point " + std::to_string(NoRoughness(r)) + " must be greater than 0";
+     }},
+    {[](const Record& r) {
+       const double lowest = LowPoint(r);
+       return IsSection(r) && r.SolveForFlow && std::isfinite(lowest) && !(r.Depth.Number() > lowest);
+     },
+     [](const Record& r) {
+       return "the water surface must be above the lowest point of the section, " +
+              WithUnit(ShownNumber(LowPoint(r), Units::Length, true), Units::Length);
+     }},
+    {[](const Record& r) { return IsPipe(r) && r.SolveForFlow && r.Depth.Number() > r.Diameter.Number(); },
+     [](const Record& r) {
+       return "the depth is above the crown of the pipe, at " +
+              Limit(r.Diameter.Number(), Units::Length, true);
+     },
+     "the depth is above the crown of the pipe"},
+};
+
+/// Why no depth carries the flow. One always applies.
+constexpr Row Overflows[] = {
+    {IsPipe,
+     [](const Record& r) {
+       const double most =
+           ManningCircular::CircMaxFlow(r.Diameter.Number(), r.Slope.Number(), r.ManningN.Number());
+       return "the pipe carries at most " + Limit(most, Units::Flow, false) + ", at " +
+              PlainNumberInLocale(Constants::PeakFlowDepth) + " of its diameter";
+     },
+     "the pipe does not carry this flow"},
+    {IsAboveEnds,
+     [](const Record&) {
+       return "the water rises above the ends of the section, which does not carry this flow within " +
+              DeepestResult();
+     }},
+    {[](const Record&) { return true; },
+     [](const Record&) { return "the channel does not carry this flow within " + DeepestResult(); }},
+};
+
+Reason ReasonOf(const Row& row) {
+  const std::string text = row.Text(ChannelState);
+  return {text, row.OfMany == nullptr ? text : row.OfMany};
+}
+
+struct BlankRow {
+  EngineValue Record::*Result;
+  bool (*Applies)(const Record&);
+  std::string (*Text)();
+};
+
+constexpr BlankRow Blanks[] = {
+    {&Record::Froude, IsPipe,
+     []() -> std::string { return "a full pipe has no free surface, so no Froude number"; }},
+    {&Record::CriticalDepth, IsPipe,
+     []() -> std::string { return "the critical depth is at the crown of the pipe"; }},
+    {&Record::CriticalDepth, [](const Record&) { return true; },
+     [] { return "the critical depth is beyond " + DeepestResult(); }},
+    {&Record::CriticalSlope, IsSection,
+     []() -> std::string { return "a surveyed section has no critical slope"; }},
+    {&Record::CriticalSlope, [](const Record&) { return true; },
+     []() -> std::string { return "there is no critical slope without a critical depth"; }},
+};
+
+}  // namespace
+
+Reason WhyNoResult(const std::string& fault) {
+  const auto applies = [](const Row& row) { return row.Applies(ChannelState); };
+  const Row* const input = std::ranges::find_if(Inputs, applies);
+  if (input != std::end(Inputs)) return ReasonOf(*input);
+  if (!fault.empty()) return {fault, fault};
+  return ReasonOf(*std::ranges::find_if(Overflows, applies));
+}
+
+Reason WhyBlank(EngineValue ChannelRecord::*result) {
+  const auto* const row = std::ranges::find_if(
+      Blanks, [=](const BlankRow& each) { return each.Result == result && each.Applies(ChannelState); });
+  const std::string text = row == std::end(Blanks) ? "" : row->Text();
+  return {text, text};
+}
