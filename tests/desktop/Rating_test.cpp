@@ -89,7 +89,7 @@ TEST_F(Rating, TableAndGraphTellThePointsThatAreMissing) {
   };
   const auto expectNote = [this](const QWidget& view) {
     EXPECT_TRUE(view.findChild<EmptyNote*>()->isVisible());
-    EXPECT_TRUE(view.accessibleDescription().contains(u"the flow must be greater than 0"));
+    EXPECT_TRUE(view.accessibleDescription().contains(u"Flow must be greater than 0"));
     Press("Ctrl+A Shift+Down");
   };
   Open<frmTable>(
@@ -109,7 +109,7 @@ TEST_F(Rating, TableAndGraphTellThePointsThatAreMissing) {
         EXPECT_FALSE(hands_.Of<QWidget>(form.MSChart1).findChild<EmptyNote*>()->isVisible());
         const auto& missing = hands_.Of<QLabel>(form.lblMissing);
         EXPECT_TRUE(missing.isVisible());
-        EXPECT_EQ(missing.text(), u"101 of 201 points: the flow must be greater than 0");
+        EXPECT_EQ(missing.text(), u"101 of 201 points: Flow must be greater than 0");
       },
       range("-2", "-1"));
 }

@@ -9,6 +9,8 @@
 #include "app/Declarations.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
+#include "app/main/ChannelTypes.h"
+#include "app/main/frmMain.h"
 #include "engine/Constants.h"
 #include "engine/ManningCircular.h"
 #include "engine/NumberText.h"
@@ -20,14 +22,14 @@ using Point = std::array<EngineValue, 4>;
 
 constexpr double FullPipe = 1e-12;  // a depth within this part of the diameter counts as the diameter
 
-bool IsPipe(const Record& r) {
-  return r.ChannelType == ChannelTypes::Circular;
+bool IsPipe(const Record&) {
+  return CurrentChannelType().Is == Shape::Pipe;
 }
-bool IsSection(const Record& r) {
-  return r.ChannelType == ChannelTypes::Irregular;
+bool IsSection(const Record&) {
+  return CurrentChannelType().IsSurveyed();
 }
-bool IsPrism(const Record& r) {
-  return !IsPipe(r) && !IsSection(r);
+bool Always(const Record&) {
+  return true;
 }
 
 std::span<const Point> Points(const Record& r) {
@@ -81,7 +83,7 @@ int NotAscending(const Record& r) {
 
 bool HasNoWidth(const Record& r) {
   if (IsPipe(r)) return false;
-  if (IsPrism(r)) {
+  if (!IsSection(r)) {
     return r.BaseWidth.Number() == 0 && r.SideSlopeLeft.Number() == 0 && r.SideSlopeRight.Number() == 0;
   }
   const auto points = Points(r);
@@ -104,22 +106,11 @@ struct Row {
   bool (*Applies)(const Record&);
   std::string (*Text)(const Record&);
   const char* OfMany = nullptr;  ///< where the text has numbers that an input may change
+  TextBox frmMain::*Box = nullptr;
 };
 
-/// What is amiss with the inputs, whatever the engine made of it. The first that applies counts.
+/// What is amiss with the inputs together, whatever the engine made of it. The first that applies counts.
 constexpr Row Inputs[] = {
-    {[](const Record& r) { return !r.SolveForFlow && !(r.Flow.Number() > 0); },
-     [](const Record&) -> std::string { return "the flow must be greater than 0"; }},
-    {[](const Record& r) { return r.SolveForFlow && !IsSection(r) && !(r.Depth.Number() > 0); },
-     [](const Record&) -> std::string { return "the depth must be greater than 0"; }},
-    {[](const Record& r) { return !(r.Slope.Number() > 0 && r.Slope.Number() <= 1); },
-     [](const Record&) -> std::string { return "the slope must be greater than 0 and not above 1"; }},
-    {[](const Record& r) { return !IsSection(r) && !(r.ManningN.Number() > 0 && r.ManningN.Number() <= 1); },
-     [](const Record&) -> std::string { return "Manning's n must be greater than 0 and not above 1"; }},
-    {[](const Record& r) { return IsPipe(r) && !(r.Diameter.Number() > 0); },
-     [](const Record&) -> std::string { return "the diameter must be greater than 0"; }},
-    {[](const Record& r) { return IsPrism(r) && !(r.BaseWidth.Number() >= 0); },
-     [](const Record&) -> std::string { return "the base width must not be below 0"; }},
     {HasNoWidth, [](const Record&) -> std::string { return "the channel has no width"; }},
     {[](const Record& r) { return IsSection(r) && NotAscending(r) > 0; },
      [](const Record& r) {
@@ -136,15 +127,16 @@ constexpr Row Inputs[] = {
        return IsSection(r) && r.SolveForFlow && std::isfinite(lowest) && !(r.Depth.Number() > lowest);
      },
      [](const Record& r) {
-       return "the water surface must be above the lowest point of the section, " +
+       return "WSElev must be above the lowest point of the section, " +
               WithUnit(ShownNumber(LowPoint(r), Units::Length, true), Units::Length);
-     }},
+     },
+     nullptr, &frmMain::tbDepth},
     {[](const Record& r) { return IsPipe(r) && r.SolveForFlow && r.Depth.Number() > r.Diameter.Number(); },
      [](const Record& r) {
        return "the depth is above the crown of the pipe, at " +
               Limit(r.Diameter.Number(), Units::Length, true);
      },
-     "the depth is above the crown of the pipe"},
+     "the depth is above the crown of the pipe", &frmMain::tbDepth},
 };
 
 /// Why no depth carries the flow. One always applies.
@@ -162,13 +154,12 @@ constexpr Row Overflows[] = {
        return "the water rises above the ends of the section, which does not carry this flow within " +
               DeepestResult();
      }},
-    {[](const Record&) { return true; },
-     [](const Record&) { return "the channel does not carry this flow within " + DeepestResult(); }},
+    {Always, [](const Record&) { return "the channel does not carry this flow within " + DeepestResult(); }},
 };
 
 Reason ReasonOf(const Row& row) {
   const std::string text = row.Text(ChannelState);
-  return {text, row.OfMany == nullptr ? text : row.OfMany};
+  return {text, row.OfMany == nullptr ? text : row.OfMany, row.Box};
 }
 
 struct BlankRow {
@@ -182,17 +173,23 @@ constexpr BlankRow Blanks[] = {
      []() -> std::string { return "a full pipe has no free surface, so no Froude number"; }},
     {&Record::CriticalDepth, IsPipe,
      []() -> std::string { return "the critical depth is at the crown of the pipe"; }},
-    {&Record::CriticalDepth, [](const Record&) { return true; },
-     [] { return "the critical depth is beyond " + DeepestResult(); }},
+    {&Record::CriticalDepth, Always, [] { return "the critical depth is beyond " + DeepestResult(); }},
     {&Record::CriticalSlope, IsSection,
      []() -> std::string { return "a surveyed section has no critical slope"; }},
-    {&Record::CriticalSlope, [](const Record&) { return true; },
+    {&Record::CriticalSlope, Always,
      []() -> std::string { return "there is no critical slope without a critical depth"; }},
 };
 
 }  // namespace
 
 Reason WhyNoResult(const std::string& fault) {
+  for (const Field& field : Fields()) {
+    // A range may begin where the main window lets nothing begin.
+    if (!CurrentChannelType().Has(field) || field.IsResult() || field.IsElevation()) continue;
+    if (FormStuff::Within((ChannelState.*field.Cell).Number(), field.RatedBounds)) continue;
+    const std::string text = field.Caption.Current() + (" must be" + FormStuff::RangeText(field.RatedBounds));
+    return {text, text, field.Box};
+  }
   const auto applies = [](const Row& row) { return row.Applies(ChannelState); };
   const Row* const input = std::ranges::find_if(Inputs, applies);
   if (input != std::end(Inputs)) return ReasonOf(*input);

@@ -5,10 +5,14 @@
 #include <string>
 
 #include "engine/ChannelState.h"
+#include "platform/Controls.h"
+
+class frmMain;
 
 struct Reason {
-  std::string Text;    ///< for the problem in work; lower case, its numbers in the units on display
+  std::string Text;    ///< for the problem in work; no sentence yet, its numbers in the units on display
   std::string OfMany;  ///< the same for problems that differ in these numbers
+  TextBox frmMain::*Box = nullptr;  ///< that holds the number to be mended; null where it is not one alone
 };
 
 /// Why the problem in the record has no result, for inputs that the engine was given or would refuse. `fault`
