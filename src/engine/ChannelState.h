@@ -50,7 +50,20 @@ struct ChannelRecord {
   EngineValue Froude;           // V / sqrt(g A / T); false in a full pipe
   EngineValue CriticalDepth;    // yc, ft; irregular section: critical water-surface elevation
   EngineValue CriticalSlope;    // slope of uniform flow at critical depth, ft/ft
+
+  static const std::array<EngineValue ChannelRecord::*, 9> Results;
 };
+
+inline constexpr std::array<EngineValue ChannelRecord::*, 9> ChannelRecord::Results = {
+    &ChannelRecord::Area,
+    &ChannelRecord::Velocity,
+    &ChannelRecord::VelocityHead,
+    &ChannelRecord::WettedPerimeter,
+    &ChannelRecord::HydraulicRadius,
+    &ChannelRecord::TopWidth,
+    &ChannelRecord::Froude,
+    &ChannelRecord::CriticalDepth,
+    &ChannelRecord::CriticalSlope};
 
 extern ChannelRecord ChannelState;
 

@@ -50,12 +50,7 @@ double AssignVelocity(double Q, double A) {
 
 void AssignOverflow(EngineValue& solved) {
   solved = "Overflow";
-  for (EngineValue* result :
-       {&ChannelState.Area, &ChannelState.WettedPerimeter, &ChannelState.HydraulicRadius,
-        &ChannelState.Velocity, &ChannelState.VelocityHead, &ChannelState.TopWidth, &ChannelState.Froude,
-        &ChannelState.CriticalDepth, &ChannelState.CriticalSlope}) {
-    *result = "";
-  }
+  for (const auto result : ChannelRecord::Results) ChannelState.*result = "";
 }
 
 }  // namespace UniformFlow

@@ -1,6 +1,8 @@
 // See RatingColumn.h.
 #include "rating/RatingColumn.h"
 
+#include <algorithm>
+
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
@@ -11,7 +13,9 @@ RatingColumns CurrentRatingColumns() {
   RatingColumns columns;
   for (const Field& field : Fields()) {
     if (field.RatingColumn == 0) continue;
-    RatingColumn& column = columns.at(static_cast<std::size_t>(field.RatingColumn));
+    const auto place = static_cast<std::size_t>(field.RatingColumn);
+    columns.resize(std::max(columns.size(), place + 1));
+    RatingColumn& column = columns[place];
     if (type.Has(field)) {
       column = {field.RatingHead.Current(), field.PageQuantity, field.Cell, field.FixedDecimals};
     } else if (field.HeadWithout != nullptr && *column.Caption == '\0') {

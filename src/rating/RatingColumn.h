@@ -1,9 +1,9 @@
 // The columns that rating graph and rating table share: an input or a result of the problem record each.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "engine/ChannelState.h"
 
@@ -24,5 +24,5 @@ struct RatingColumn {
 };
 
 /// The columns for the channel type in work. Column 0 is the narrow empty one in front.
-using RatingColumns = std::array<RatingColumn, 15>;
+using RatingColumns = std::vector<RatingColumn>;
 RatingColumns CurrentRatingColumns();

@@ -1,7 +1,6 @@
 // The rating table as a text for other programs.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,7 +8,7 @@
 #include "rating/RatingColumn.h"
 
 /// A row of the table: the numbers of CurrentRatingColumns, nothing where one is not numeric.
-using RatingNumbers = std::array<std::optional<double>, std::tuple_size_v<RatingColumns>>;
+using RatingNumbers = std::vector<std::optional<double>>;
 
 /// These rows as comma-separated values: a line of captions with units, then a line for each row, its numbers
 /// unrounded in the units on display. Columns without values are left out, a result that is not numeric is an

@@ -42,10 +42,10 @@ bool frmTable::LoadTable() {
   std::vector<RatingNumbers> numbers;
   rows.push_back(Row(columns, [](const RatingColumn& column) { return column.Header(); }));
   const RatingOutcome outcome = RunRatingSeries(main_, RatingRange, LastValue::Snapped, [&](int) {
-    RatingNumbers unrounded;
+    RatingNumbers unrounded(columns.size());
     std::ranges::transform(columns, unrounded.begin(), &RatingColumn::Number);
     rows.push_back(Row(columns, &RatingColumn::Text));
-    numbers.push_back(unrounded);
+    numbers.push_back(std::move(unrounded));
   });
   if (outcome.Cancelled) return false;
   std::vector<int> widths(columns.size(), ColumnWidth);

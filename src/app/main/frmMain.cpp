@@ -4,6 +4,7 @@
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
 #include "app/main/ChannelTypes.h"
+#include "app/main/UnitSystems.h"
 #include "app/settings/InitialFile.h"
 
 frmMain::frmMain(SubWindows& windows) : Form("frmMain"), windows_(windows) {
@@ -36,8 +37,6 @@ void frmMain::CaptionControls() {
                                                       {mnuSolveGraph, "Rating Graph..."},
                                                       {mnuSolveTable, "Rating Table..."},
                                                       {mnuSolveSection, "Cross Section..."},
-                                                      {mnuOptionsUnitsEnglish, "English Units"},
-                                                      {mnuOptionsUnitsMetric, "Metric Units"},
                                                       {mnuOptionsDigits, "Digits..."},
                                                       {mnuHelpContents, "Contents"},
                                                       {mnuHelpIndex, "Index"},
@@ -46,6 +45,7 @@ void frmMain::CaptionControls() {
   }
   for (const Field& field : Fields()) (this->*field.Name).Caption = field.Caption.Usual;
   for (const ChannelType& type : AllChannelTypes()) (this->*type.Item).Caption = std::string(type.Name);
+  for (const UnitSystem& system : AllUnitSystems()) (this->*system.Item).Caption = system.Caption;
 }
 
 void frmMain::JoinInputs() {
@@ -103,8 +103,6 @@ void frmMain::JoinCommands() {
                                       {Toolbar1.Graph, &frmMain::mnuSolveGraph_Click},
                                       {mnuSolveTable, &frmMain::mnuSolveTable_Click},
                                       {Toolbar1.Table, &frmMain::mnuSolveTable_Click},
-                                      {mnuOptionsUnitsEnglish, &frmMain::mnuOptionsUnitsEnglish_Click},
-                                      {mnuOptionsUnitsMetric, &frmMain::mnuOptionsUnitsMetric_Click},
                                       {mnuOptionsDigits, &frmMain::mnuOptionsDigits_Click},
                                       {mnuHelpContents, &frmMain::mnuHelpContents_Click},
                                       {mnuHelpIndex, &frmMain::mnuHelpIndex_Click},
@@ -115,6 +113,9 @@ void frmMain::JoinCommands() {
   }
   for (const ChannelType& type : AllChannelTypes()) {
     (this->*type.Item).Click = [this, &type] { SelectChannelType(type); };
+  }
+  for (const UnitSystem& system : AllUnitSystems()) {
+    (this->*system.Item).Click = [this, units = system.Units] { SelectUnits(units); };
   }
 }
 

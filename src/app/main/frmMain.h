@@ -142,8 +142,8 @@ class frmMain : public Form {
   void mnuOptionsTrap_Click() { mnuOptionsTrap.Click(); }
   void mnuOptionsCircular_Click() { mnuOptionsCircular.Click(); }
   void mnuOptionsIrreg_Click() { mnuOptionsIrreg.Click(); }
-  void mnuOptionsUnitsEnglish_Click();
-  void mnuOptionsUnitsMetric_Click();
+  void mnuOptionsUnitsEnglish_Click() { mnuOptionsUnitsEnglish.Click(); }
+  void mnuOptionsUnitsMetric_Click() { mnuOptionsUnitsMetric.Click(); }
   void mnuOptionsDigits_Click();
   void mnuSolveForFlow_Click();
   void mnuSolveForDepth_Click();

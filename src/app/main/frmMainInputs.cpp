@@ -79,13 +79,6 @@ void frmMain::SelectUnits(int units) {
   CheckInputs();
 }
 
-void frmMain::mnuOptionsUnitsEnglish_Click() {
-  SelectUnits(Units::English);
-}
-void frmMain::mnuOptionsUnitsMetric_Click() {
-  SelectUnits(Units::Metric);
-}
-
 void frmMain::ConvertInput(int before) {
   const Loading loading(loading_);
   const int units = ChannelState.UnitsEorM;

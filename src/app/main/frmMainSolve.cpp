@@ -125,9 +125,11 @@ void frmMain::ComputeResults() {
 
 std::string frmMain::CriticalSlopeNote() const {
   if (CurrentChannelType().IsSurveyed()) return "A surveyed section has no critical slope";
-  if (ChannelState.UnitsEorM != Units::Metric || !ChannelState.CriticalSlope.IsNumeric()) return "";
-  return "Critical slope: " + ShownNumber(ChannelState.CriticalSlope, Units::Slope, false) + " " +
-         UnitLabel(Units::Metric, Units::Slope);
+  const Field& field = FieldOf(&frmMain::tbCritS);
+  const bool asItIs = FactorOf(field.Quantity) == FactorOf(field.PageQuantity);
+  if (asItIs || !ChannelState.CriticalSlope.IsNumeric()) return "";
+  return "Critical slope: " + ShownNumber(ChannelState.CriticalSlope, field.PageQuantity, false) + " " +
+         UnitLabel(ChannelState.UnitsEorM, field.PageQuantity);
 }
 
 void frmMain::ClearResults() {

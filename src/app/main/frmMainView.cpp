@@ -2,6 +2,7 @@
 #include "app/Declarations.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
+#include "app/main/UnitSystems.h"
 #include "app/main/frmMain.h"
 
 void frmMain::SetResultLook(TextBox& box, bool result) {
@@ -34,8 +35,7 @@ void frmMain::ToggleControls() {
 
 void frmMain::SetUnitsEorM() {
   const int units = ChannelState.UnitsEorM;
-  mnuOptionsUnitsEnglish.Checked = units == Units::English;
-  mnuOptionsUnitsMetric.Checked = units == Units::Metric;
+  for (const UnitSystem& system : AllUnitSystems()) (this->*system.Item).Checked = system.Units == units;
   for (const Field& field : Fields()) {
     if (field.Unit != nullptr) (this->*field.Unit).Caption = UnitLabel(units, field.Quantity);
   }

@@ -38,7 +38,7 @@ void AddRow(FieldPanel& panel, frmMain& form, const Field& field) {
 /// The room that the widest unit takes.
 int UnitWidth(const QFontMetrics& letters) {
   QStringList units;
-  for (const int system : {Units::English, Units::Metric}) {
+  for (int system = Units::English; system <= Units::Last; ++system) {
     for (int quantity = Units::Length; quantity <= Units::Dimensionless; ++quantity) {
       units << Printed(UnitLabel(system, quantity));
     }

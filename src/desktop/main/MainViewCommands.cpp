@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/main/ChannelTypes.h"
+#include "app/main/UnitSystems.h"
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/LineIcon.h"
 #include "desktop/kit/ToolBar.h"
@@ -89,11 +90,11 @@ void MainView::AddMenus() {
   for (const ChannelType& type : AllChannelTypes()) {
     options.push_back({type.Item, type.Mnemonic, {}, Kind::Choice});
   }
-  options.insert(options.end(), {{Separator},
-                                 {&frmMain::mnuOptionsUnitsEnglish, "e", {}, Kind::Choice},
-                                 {&frmMain::mnuOptionsUnitsMetric, "m", {}, Kind::Choice},
-                                 {Separator},
-                                 {&frmMain::mnuOptionsDigits, "d"}});
+  options.push_back({Separator});
+  for (const UnitSystem& system : AllUnitSystems()) {
+    options.push_back({system.Item, system.Mnemonic, {}, Kind::Choice});
+  }
+  options.insert(options.end(), {{Separator}, {&frmMain::mnuOptionsDigits, "d"}});
   MakeMenu(form_, bar, "&Options", options);
   MakeMenu(form_, bar, "&Help",
            {{&frmMain::mnuHelpContents, "c"},
