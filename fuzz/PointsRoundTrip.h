@@ -2,6 +2,7 @@
 // the test that replays its corpus.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -11,6 +12,7 @@
 
 #include "engine/NumberText.h"
 #include "platform/FlexGrid.h"
+#include "section/Import.h"
 #include "section/IrregTable.h"
 #include "section/PointsCsv.h"
 
@@ -20,9 +22,9 @@ using IrregTable::Table;
 
 inline const std::array<NumberLocale, 4> Locales = {{{".", ","}, {",", "."}, {",", "\u202F"}, {".", "'"}}};
 
-inline std::optional<Table> ImportedOrNothing(const std::string& bytes) {
+inline std::optional<Survey::Import> ImportedOrNothing(const std::string& bytes) {
   try {
-    return PointsCsv::Parse(bytes);
+    return Survey::Import(bytes, static_cast<int>(bytes.size() % 2), [](double) {});
   } catch (const std::runtime_error& refusal) {
     if (std::string(refusal.what()).empty()) throw std::logic_error("refused without a word");
     return std::nullopt;
@@ -44,19 +46,35 @@ inline bool ComesBack(Table table) {
   if (IrregTable::CheckTable(table)) return true;
   for (int row = IrregTable::PointCount(table) + 1; row <= IrregTable::Rows; ++row)
     table[static_cast<std::size_t>(row)] = {};
-  const std::string exported = PointsCsv::Format(table);
-  const std::optional<Table> again = ImportedOrNothing(exported);
-  return again && SameNumbers(table, *again) && PointsCsv::Format(*again) == exported;
+  const std::string exported = PointsCsv::Format(table, "ft", "points");
+  Survey::Import again(exported, 0, [](double) {});
+  for (const Survey::Kind kind : {Survey::Kind::RepeatedN, Survey::Kind::StrangeN}) again.Switch(kind, false);
+  return SameNumbers(table, again.Result().Table) &&
+         PointsCsv::Format(again.Result().Table, "ft", "points") == exported;
 }
 
-/// What was imported is numbers, a station and an elevation in each row.
-inline bool IsNumbers(const Table& table) {
-  for (int row = 1; row <= IrregTable::PointCount(table); ++row) {
-    const auto& point = table[static_cast<std::size_t>(row)];
-    if (!IsNumeric(point[1]) || !IsNumeric(point[2]) || (!point[3].empty() && !IsNumeric(point[3])))
-      return false;
+/// A table without a reason against it is accepted, and any other has one, whatever the person chooses: the
+/// text itself says what.
+inline bool ImportHolds(const std::string& bytes) {
+  auto import = ImportedOrNothing(bytes);
+  if (!import) return true;
+  bool holds = true;
+  const auto look = [&] {
+    const Survey::Mended& result = import->Result();
+    holds = holds && (!result.Reason.empty() || !IrregTable::CheckTable(result.Table));
+    if (result.Reason.empty()) holds = holds && ComesBack(result.Table);
+  };
+  look();
+  if (!import->Sections().empty()) import->ChooseSection(bytes.size() % import->Sections().size());
+  import->ChooseUnit(bytes.size() % 3 == 0 ? Survey::Feet() : Survey::Metres());
+  import->ChooseFrontN(Survey::Number{0.03, {}});
+  look();
+  for (std::size_t i = 0; i < std::min<std::size_t>(bytes.size(), 6); ++i) {
+    const auto choice = static_cast<unsigned char>(bytes[bytes.size() - 1 - i]);
+    import->Switch(static_cast<Survey::Kind>(choice % 12), choice % 5 == 0);
+    look();
   }
-  return IrregTable::PointCount(table) > 0;
+  return holds;
 }
 
 /// Pastes the text into a grid of dots, from its second row on; only the block may change, and what is copied
@@ -85,10 +103,8 @@ inline bool PasteHolds(const std::string& text, Table& pasted) {
 /// Whatever the text, as a file and as a clipboard.
 inline bool Holds(const std::string& bytes, const NumberLocale& locale) {
   SetNumberLocale(locale);
-  const std::optional<Table> imported = ImportedOrNothing(bytes);
   Table pasted;
-  const bool holds = (!imported || (IsNumbers(*imported) && ComesBack(*imported))) &&
-                     PasteHolds(bytes, pasted) && ComesBack(pasted);
+  const bool holds = ImportHolds(bytes) && PasteHolds(bytes, pasted) && ComesBack(pasted);
   SetNumberLocale({});
   return holds;
 }

@@ -77,9 +77,50 @@ std::string FromWindows1252(std::string_view bytes) {
   return text;
 }
 
+constexpr std::string_view LittleEndianMark = "\xFF\xFE";
+constexpr std::string_view BigEndianMark = "\xFE\xFF";
+
+void AppendUtf8(std::string& text, char32_t c) {
+  if (c < 0x80) {
+    text += static_cast<char>(c);
+    return;
+  }
+  const int trailing = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+  constexpr std::array<char32_t, 4> lead = {0, 0xC0, 0xE0, 0xF0};
+  text += static_cast<char>(lead.at(static_cast<size_t>(trailing)) | (c >> (6 * trailing)));
+  for (int i = trailing - 1; i >= 0; --i) text += static_cast<char>(0x80 | ((c >> (6 * i)) & 0x3F));
+}
+
 }  // namespace
 
 std::string DecodedText(std::string_view bytes) {
   if (bytes.starts_with("\uFEFF")) bytes.remove_prefix(3);
   return IsUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
+}
+
+bool IsUtf16(std::string_view bytes) {
+  return bytes.starts_with(LittleEndianMark) || bytes.starts_with(BigEndianMark);
+}
+
+std::string FromUtf16(std::string_view bytes) {
+  const size_t low = bytes.starts_with(LittleEndianMark) ? 0 : 1;  // place of the low byte in its pair
+  const auto unitAt = [&](size_t i) -> char32_t {
+    const auto byte = [&](size_t place) { return static_cast<unsigned char>(bytes[i + place]); };
+    return i + 1 < bytes.size() ? static_cast<char32_t>(byte(low) | (byte(1 - low) << 8)) : 0;
+  };
+  constexpr char32_t replacement = 0xFFFD;
+  const auto isHigh = [](char32_t unit) { return unit >= 0xD800 && unit < 0xDC00; };
+  const auto isLow = [](char32_t unit) { return unit >= 0xDC00 && unit < 0xE000; };
+  std::string text;
+  for (size_t i = 2; i + 1 < bytes.size(); i += 2) {
+    const char32_t unit = unitAt(i);
+    const char32_t next = unitAt(i + 2);
+    if (isHigh(unit) && isLow(next)) {
+      AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
+      i += 2;
+    } else {
+      AppendUtf8(text, isHigh(unit) || isLow(unit) ? replacement : unit);
+    }
+  }
+  return text;
 }

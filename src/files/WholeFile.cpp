@@ -52,12 +52,12 @@ void WriteInPlace(const fs::path& file, std::string_view bytes) {
 
 namespace WholeFile {
 
-std::string Read(const std::string& path) {
+std::string Read(const std::string& path, std::size_t most) {
   // Opening a pipe would wait, and opening a device can set it going: ask first.
   const fs::file_status status = fs::status(path);
   if (!fs::exists(status)) throw std::runtime_error("there is no such file");
   if (!fs::is_regular_file(status)) throw std::runtime_error("not a regular file");
-  if (fs::file_size(path) > MaxSize) throw std::runtime_error("the file is too large");
+  if (fs::file_size(path) > most) throw std::runtime_error("the file is too large");
   return OpenFile(path, O_RDONLY | O_NONBLOCK).Read();
 }
 

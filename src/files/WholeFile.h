@@ -8,12 +8,12 @@
 
 namespace WholeFile {
 
-/// The largest file that is read: 4 MiB, far more than any project needs.
+/// The largest project that is read: 4 MiB, far more than any needs.
 inline constexpr std::size_t MaxSize = std::size_t{4} << 20;
 
-/// The bytes of a regular file of at most that size. std::runtime_error when it is none or cannot be read to
-/// its end.
-std::string Read(const std::string& path);
+/// The bytes of a regular file. std::runtime_error when it is none, has more than `most` bytes or cannot be
+/// read to its end.
+std::string Read(const std::string& path, std::size_t most = MaxSize);
 
 /// False when the file now holds other bytes than these, or cannot be read. One that is gone has nothing to
 /// lose.

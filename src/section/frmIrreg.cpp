@@ -13,6 +13,7 @@
 #include "files/WholeFile.h"
 #include "platform/Keys.h"
 #include "platform/Services.h"
+#include "section/Import.h"
 #include "section/PastedSign.h"
 #include "section/PointsCsv.h"
 
@@ -34,6 +35,24 @@ void Complain(const std::string& text) {
 
 void Warn(const std::string& text) {
   TheServices().messageBox.Show(text, "Warning", BoxIcon::Exclamation, BoxButtons::Ok);
+}
+
+/// The points of a file that needs no mending. std::runtime_error where there is something to be mended or to
+/// be asked.
+IrregTable::Table PointsOf(const std::string& bytes) {
+  const Survey::Import import(bytes, ChannelState.UnitsEorM, [](double) {});
+  if (const std::string& doubtful = import.TheSign().Doubtful; !doubtful.empty())
+    throw std::runtime_error(Survey::InQuotes(doubtful) + " can be read in two ways.");
+  if (!import.Result().Changes.empty()) throw std::runtime_error(import.Result().Changes.front().Text);
+  if (!import.Result().Reason.empty() && !import.Result().LacksN)
+    throw std::runtime_error(import.Result().Reason);
+  return import.Result().Table;
+}
+
+/// What an export says of itself.
+std::string Remark(const std::string& unit) {
+  return std::string(Declarations::AppTitle) + ": " + Declarations::FileTitle + ", " +
+         TheServices().clock.ShortDate() + ", lengths in " + unit;
 }
 
 constexpr std::size_t LongestClip = std::size_t{64} << 20U;  // bytes
@@ -416,13 +435,12 @@ void frmIrreg::mnuFileImport_Click() {
   if (!path) return;
   std::string bytes;
   try {
-    bytes = WholeFile::Read(*path);
+    bytes = WholeFile::Read(*path, Survey::MaxBytes);
   } catch (const std::runtime_error&) {
     return Complain("The file cannot be read.");
   }
   try {
-    const IrregTable::Table points = PointsCsv::Parse(bytes);
-    Recorded([&] { ShowCells(points); });
+    Recorded([&] { ShowCells(PointsOf(bytes)); });
   } catch (const std::runtime_error& refusal) {
     return Complain(refusal.what());
   }
@@ -433,7 +451,8 @@ void frmIrreg::mnuFileImport_Click() {
 void frmIrreg::mnuFileExport_Click() {
   CommitEdit();
   if (CheckTable()) {
+    const std::string unit = UnitLabel(ChannelState.UnitsEorM, Units::Length);
     ExportFile({"Export Points", Filter, "csv"},
-               [this](const std::string&) { return PointsCsv::Format(Cells()); });
+               [&](const std::string&) { return PointsCsv::Format(Cells(), unit, Remark(unit)); });
   }
 }

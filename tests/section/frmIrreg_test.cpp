@@ -177,8 +177,10 @@ TEST_P(PointEditor, PointsGoOutAndComeIn) {
   fakes_.fileDialog.Choices = {file_};
   editor_.mnuFileExport_Click();
   EXPECT_EQ(fakes_.fileDialog.Requests[0].FileName, "Untitled.csv");
-  EXPECT_EQ(BytesOf(file_), DecimalComma() ? "Station;Elevation;n\r\n0;10,25;0,03\r\n1005,5;8;\r\n"
-                                           : "Station,Elevation,n\r\n0,10.25,0.03\r\n1005.5,8,\r\n");
+  EXPECT_EQ(BytesOf(file_), DecimalComma() ? "# Flumewise: Untitled, 2026-03-09, lengths in ft\r\nStation "
+                                             "(ft);Elevation (ft);n\r\n0;10,25;0,03\r\n1005,5;8;\r\n"
+                                           : "# Flumewise: Untitled, 2026-03-09, lengths in ft\r\nStation "
+                                             "(ft),Elevation (ft),n\r\n0,10.25,0.03\r\n1005.5,8,\r\n");
   Select({3, 1, 3, 3});
   Copied("7\t7\t7");
   editor_.cmdPaste_Click();
@@ -196,7 +198,7 @@ TEST_P(PointEditor, WhatCannotBeReadOrWrittenChangesNothing) {
   fakes_.fileDialog.Choices = {file_, "/nowhere/points.csv", std::nullopt};
   for (int i = 0; i < 3; ++i) editor_.mnuFileImport_Click();
   ASSERT_EQ(fakes_.messageBox.Boxes.size(), 2U);
-  EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "Line 2: \"x\" is not a number.");
+  EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "Line 2, column 2: \"x\" is not a number.");
   EXPECT_EQ(fakes_.messageBox.Boxes[1].Text, "The file cannot be read.");
   EXPECT_EQ(grid_.Text(1, 1), "");
   editor_.mnuFileExport_Click();

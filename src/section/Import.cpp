@@ -1,0 +1,118 @@
+// See Import.h.
+#include "section/Import.h"
+
+#include <algorithm>
+
+#include "section/ModelFiles.h"
+
+namespace Survey {
+
+Import::Import(std::string_view bytes, int unitSystem, const Watch& watch)
+    : watch_(watch), text_(SurveyText(bytes)), sections_(HecRasSections(*text_)) {
+  terms_.UnitSystem = unitSystem;
+  if (sections_.empty()) sections_ = SwmmSections(*text_);
+  if (sections_.empty()) ReadColumns(std::nullopt);
+  Update();
+}
+
+std::vector<std::string> Import::Notes() const {
+  if (!sections_.empty()) return sections_[chosen_].Notes;
+  std::vector<std::string> notes = sheet_.Notes;
+  for (std::size_t i = 0; i < columns_.Roles.size(); ++i) {
+    if (columns_.Roles[i] != Role::Ignored) continue;
+    const std::string name = i < sheet_.Head.size() ? " " + InQuotes(sheet_.Head[i]) : "";
+    notes.push_back("Column " + std::to_string(i + 1) + name + " left out.");
+  }
+  return notes;
+}
+
+void Import::ReadColumns(std::optional<char> separator) {
+  sheet_ = ReadSheet(text_, separator, watch_);
+  byPlace_ = ColumnsByPlace(sheet_);
+  columns_ = byHead_ = ColumnsByHead(sheet_);
+  sign_ = SignOf(sheet_, columns_);
+}
+
+void Import::ChooseSection(std::size_t index) {
+  chosen_ = index;
+  Update();
+}
+
+void Import::ChooseSeparator(char separator) {
+  ReadColumns(separator);
+  Update();
+}
+
+void Import::ChooseSign(const NumberLocale& spelling) {
+  sign_ = {spelling, ""};
+  Update();
+}
+
+void Import::ChooseColumns(const Columns& columns) {
+  columns_.Roles = columns.Roles;
+  Update();
+}
+
+void Import::ChooseUnit(std::optional<LengthUnit> unit) {
+  terms_.Unit = std::move(unit);
+  Update();
+}
+
+void Import::ChooseFrontN(std::optional<Number> n) {
+  terms_.FrontN = n;
+  Update();
+}
+
+void Import::Switch(Kind kind, bool on) {
+  if (kind == Kind::Columns) {
+    ChooseColumns(on ? byHead_ : byPlace_);
+  } else {
+    if (on) {
+      terms_.Off.erase(kind);
+    } else {
+      terms_.Off.insert(kind);
+    }
+    Update();
+  }
+}
+
+Section Import::Chosen() const {
+  return sections_.empty() ? SectionOf(sheet_, columns_, sign_.Spelling, watch_) : sections_[chosen_];
+}
+
+std::optional<Change> Import::ColumnsChange(const Curve& after) {
+  const bool twoOrders = byPlace_.Find(Role::Elevation) && byHead_.Find(Role::Station) &&
+                         byHead_.Find(Role::Elevation) && byHead_ != byPlace_;
+  if (!sections_.empty() || !twoOrders) return std::nullopt;
+  Curve byPlace;
+  try {
+    before_ = SectionOf(sheet_, byPlace_, sign_.Spelling, watch_).Points;
+    byPlace = CurveOf(before_);
+  } catch (const std::runtime_error&) {
+    before_.clear();  // by place there is no section to be drawn
+  }
+  std::string text = "Columns taken as the head names them";
+  for (const auto& [role, name] :
+       {std::pair(Role::Station, "station"), {Role::Elevation, "elevation"}, {Role::ManningN, "n"}}) {
+    if (const auto column = byHead_.Find(role))
+      text += std::string(", ") + name + " from column " + std::to_string(*column + 1);
+  }
+  return Change{Kind::Columns, text + ": they stand in another order than station, elevation, n.",
+                EffectOf(byPlace, after), columns_ == byHead_};
+}
+
+void Import::Update() {
+  try {
+    Section section = Chosen();
+    before_ = section.Points;
+    const auto columns = ColumnsChange(CurveOf(section.Points));
+    result_ = Mend(std::move(section), terms_);
+    if (columns) result_.Changes.insert(result_.Changes.begin(), *columns);
+  } catch (const std::runtime_error& refusal) {
+    before_.clear();
+    result_ = {};
+    result_.Reason = refusal.what();
+  }
+}
+
+}  // namespace Survey
