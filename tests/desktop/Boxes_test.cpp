@@ -107,6 +107,31 @@ TEST_F(Boxes, UndoEndsWhereAnotherProblemBegins) {
   }
 }
 
+TEST_F(Boxes, ASwitchLeavesTheKeyboardWhereItCanType) {
+  const struct {
+    TextBox& From;
+    MenuItem& Switch;
+    const char* Then;
+  } cases[] = {
+      {main_.tbFlow, main_.mnuSolveForFlow, "tbDepth"},
+      {main_.tbDepth, main_.mnuSolveForDepth, "tbSlope"},
+      {main_.tbBaseWidth, main_.mnuOptionsTriangular, "tbSSL"},
+      {main_.tbSSR, main_.mnuOptionsCircular, "tbFlow"},
+      {main_.tbVelocity, main_.mnuSolveForFlow, "tbVelocity"},
+      {main_.tbSlope, main_.mnuOptionsIrreg, "tbSlope"},
+      {main_.tbSlope, main_.mnuFileNew, "tbDepth"},
+  };
+  hands_.Click(main_.mnuOptionsTrap);
+  for (const auto& each : cases) {
+    if (&each.Switch == &main_.mnuOptionsCircular) hands_.Click(main_.mnuOptionsTrap);
+    hands_.Focus(each.From);
+    services_.messageBox.Answers = {BoxAnswer::No};
+    hands_.Click(each.Switch);
+    EXPECT_EQ(Focused(), each.Then) << each.Switch.Caption.Get();
+    EXPECT_EQ(main_.ActiveControl()->Name(), each.Then);
+  }
+}
+
 TEST_F(Boxes, ADoubleClickSelectsTheWholeNumber) {
   const std::pair<const char*, const char*> cases[] = {
       {"-1,234.5", "-1,234.5"}, {"1.5e-3", "1.5e-3"}, {"12 m", "12"}};

@@ -177,6 +177,9 @@ class frmMain : public Form {
   void SelectUnits(int units);
   /// The types without side slopes or without a base width hold "0" in the boxes that they do not ask for.
   void WriteHiddenZeros();
+  /// Moves the keyboard from a control that is gone, or a box that has become a result, to the next input
+  /// that can be typed in; from nowhere to the first.
+  void FocusInput(const FocusControl* from);
   /// Another problem is in the boxes: what was typed for the one before can no longer be undone.
   void ForgetEdits();
   /// A change that is no edit of a box counts as one when the project has a file to differ from.

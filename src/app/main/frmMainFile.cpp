@@ -175,7 +175,9 @@ void frmMain::OpenInstead(const std::string& path) {
 }
 
 void frmMain::mnuFileNew_Click() {
-  if (ChecknSave()) ResetForm();
+  if (!ChecknSave()) return;
+  ResetForm();
+  FocusInput(nullptr);
 }
 
 void frmMain::mnuFileOpen_Click() {

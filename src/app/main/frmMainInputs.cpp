@@ -1,4 +1,5 @@
 // The inputs as texts: edited, tidied, emptied, rewritten in other units, cut and pasted. See frmMain.h.
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -37,6 +38,21 @@ void frmMain::FormatInputs() {
     TextBox& box = this->*field.Box;
     if (field.IsInput()) box.Text = FormStuff::AddLeadingZero(box);
   }
+}
+
+void frmMain::FocusInput(const FocusControl* from) {
+  const auto fields = Fields();
+  const auto at =
+      std::ranges::find_if(fields, [&](const Field& field) { return &(this->*field.Box) == from; });
+  const bool locked = at != fields.end() && at->Result != ResultWhen::Always && at->IsResult();
+  if (from != nullptr && from->Visible && from->Enabled && !locked) return;
+  const auto takesTyping = [this](const Field& field) {
+    const TextBox& box = this->*field.Box;
+    return field.IsInput() && box.Visible && box.Enabled;
+  };
+  auto next = std::find_if(at, fields.end(), takesTyping);
+  if (next == fields.end()) next = std::ranges::find_if(fields, takesTyping);
+  if (next != fields.end()) MoveFocus(this->*next->Box);
 }
 
 void frmMain::ForgetEdits() {

@@ -44,10 +44,12 @@ void frmMain::SetUnitsEorM() {
 void frmMain::SelectChannelType(const ChannelType& type) {
   if (ChannelState.ChannelType != type.Name) MarkProjectChanged();
   ChannelState.ChannelType = type.Name;
+  const FocusControl* const left = ActiveControl();
   ToggleControls();
   WriteHiddenZeros();
   CheckInputs();
   ForgetEdits();
+  FocusInput(left);
 }
 
 void frmMain::SelectSolveForFlow(bool solveForFlow) {
@@ -56,6 +58,7 @@ void frmMain::SelectSolveForFlow(bool solveForFlow) {
   ToggleControls();
   CheckInputs();
   ForgetEdits();
+  FocusInput(ActiveControl());
 }
 
 void frmMain::MarkProjectChanged() {
