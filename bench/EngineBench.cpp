@@ -1,154 +1,191 @@
-// What the six operations cost beside the bare loop of their arithmetic, in one run. Before anything is
-// timed, the results of both are compared bit for bit.
-#include <benchmark/benchmark.h>
-
-#include <bit>
+// What the operations of the engine cost beside the plain loops, in one run. Each problem is solved by both
+// and compared bit for bit before anything is timed. A sequence of problems is timed rather than one: a
+// processor learns the jumps of a problem that it meets again and again.
+//
+// Usage: engine_bench [ROUNDS]
+#include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "BareLoops.h"
 #include "engine/ChannelState.h"
 #include "engine/SolveChannel.h"
+#include "plain/PlainLoops.h"
+#include "plain/Problems.h"
 
 namespace {
 
-using BareLoops::Results;
-
-struct Case {
-  std::string Name;
-  std::function<void()> FillRecord;
-  std::function<Results(double)> FlowFromDepth;
-  std::function<Results(double)> DepthFromFlow;
-  double Depth;
-  double Flow;
+// A number of the record for each problem.
+struct Varied {
+  EngineValue ChannelRecord::*cell;
+  std::vector<double> values;
 };
 
-void FillRecord(std::string_view type) {
+struct Sequence {
+  std::string name;
+  std::function<void()> setUp;
+  bool solveForFlow;
+  std::vector<Varied> varied;
+};
+
+constexpr size_t Problems = 2000;
+
+std::vector<double> Rising(double last) {
+  std::vector<double> values;
+  for (size_t i = 1; i <= Problems; ++i) values.push_back(last * static_cast<double>(i) / Problems);
+  return values;
+}
+
+std::vector<double> Random(double low, double high, unsigned seed) {
+  std::mt19937_64 random(seed);
+  std::uniform_real_distribution<double> exponent(std::log(low), std::log(high));
+  std::vector<double> values;
+  for (size_t i = 0; i < Problems; ++i) values.push_back(std::exp(exponent(random)));
+  return values;
+}
+
+void Begin(std::string_view type, double n, double S) {
   ChannelState = ChannelRecord{};
   ChannelState.ChannelType = type;
+  ChannelState.ManningN = n;
+  ChannelState.Slope = S;
 }
 
-Case Trapezoid() {
-  const BareLoops::TrapInputs in{20, 2, 3, 0.025, 0.0016};
-  return {"trapezoid",
-          [in] {
-            FillRecord(ChannelTypes::Trapezoidal);
-            ChannelState.BaseWidth = in.b;
-            ChannelState.SideSlopeLeft = in.zL;
-            ChannelState.SideSlopeRight = in.zR;
-            ChannelState.ManningN = in.n;
-            ChannelState.Slope = in.S;
-          },
-          [in](double y) { return BareLoops::TrapFlow(in, y); },
-          [in](double Q) { return BareLoops::TrapDepth(in, Q); },
-          3.5,
-          400};
+void Trapezoid() {
+  Begin(ChannelTypes::Trapezoidal, 0.025, 0.0016);
+  ChannelState.BaseWidth = 20;
+  ChannelState.SideSlopeLeft = 2;
+  ChannelState.SideSlopeRight = 3;
 }
 
-Case Circle() {
-  const BareLoops::CircInputs in{6, 0.013, 0.002};
-  return {"circle",
-          [in] {
-            FillRecord(ChannelTypes::Circular);
-            ChannelState.Diameter = in.D;
-            ChannelState.ManningN = in.n;
-            ChannelState.Slope = in.S;
-          },
-          [in](double y) { return BareLoops::CircFlow(in, y); },
-          [in](double Q) { return BareLoops::CircDepth(in, Q); },
-          3.5,
-          100};
+void Pipe() {
+  Begin(ChannelTypes::Circular, 0.013, 0.002);
+  ChannelState.Diameter = 6;
 }
 
 // A valley of 100 points, uneven at the bottom, with flood plains where there are three n.
-Case Valley(size_t roughnesses) {
-  BareLoops::IrregInputs in;
+void Valley(size_t roughnesses) {
+  Begin(ChannelTypes::Irregular, 0, 0.001);
+  ChannelState.IrregPointCount = 100;
   for (int i = 0; i < 100; ++i) {
     const double fromMiddle = i - 49.5;
-    in.x.push_back(4.0 * i + std::sin(i));
-    in.e.push_back(100 + fromMiddle * fromMiddle / 60 + std::sin(3.0 * i));
+    auto& point = ChannelState.IrregEnginePoints[static_cast<size_t>(i) + 1];
+    point[1] = 4.0 * i + std::sin(i);
+    point[2] = 100 + fromMiddle * fromMiddle / 60 + std::sin(3.0 * i);
   }
-  in.starts = roughnesses == 1 ? std::vector<size_t>{0} : std::vector<size_t>{0, 35, 65};
-  in.n = roughnesses == 1 ? std::vector<double>{0.035} : std::vector<double>{0.06, 0.03, 0.07};
-  in.S = 0.001;
-  return {"100 points, " + std::to_string(roughnesses) + " n",
-          [in] {
-            FillRecord(ChannelTypes::Irregular);
-            ChannelState.Slope = in.S;
-            ChannelState.IrregPointCount = static_cast<int>(in.x.size());
-            for (size_t i = 0; i < in.x.size(); ++i) {
-              ChannelState.IrregEnginePoints[i + 1][1] = in.x[i];
-              ChannelState.IrregEnginePoints[i + 1][2] = in.e[i];
-            }
-            for (size_t s = 0; s < in.n.size(); ++s) {
-              ChannelState.IrregEnginePoints[in.starts[s] + 1][3] = in.n[s];
-            }
-          },
-          [in](double W) { return BareLoops::IrregFlow(in, W); },
-          [in](double Q) { return BareLoops::IrregDepth(in, Q); },
-          112,
-          20000};
-}
-
-void Prepare(const Case& problem, bool solveForFlow) {
-  problem.FillRecord();
-  ChannelState.SolveForFlow = solveForFlow;
-  ChannelState.Depth = problem.Depth;
-  ChannelState.Flow = problem.Flow;
-}
-
-Results RunBare(const Case& problem, bool solveForFlow) {
-  return solveForFlow ? problem.FlowFromDepth(problem.Depth) : problem.DepthFromFlow(problem.Flow);
-}
-
-bool SameBits(const Case& problem, bool solveForFlow) {
-  Prepare(problem, solveForFlow);
-  SolveChannel();
-  const auto& s = ChannelState;
-  const Results record = {s.Depth.Number(),
-                          s.Flow.Number(),
-                          s.Area.Number(),
-                          s.WettedPerimeter.Number(),
-                          s.HydraulicRadius.Number(),
-                          s.Velocity.Number(),
-                          s.VelocityHead.Number(),
-                          s.TopWidth.Number(),
-                          s.Froude.Number(),
-                          s.CriticalDepth.Number(),
-                          s.CriticalSlope.Number()};
-  const Results bare = RunBare(problem, solveForFlow);
-  for (size_t i = 0; i < bare.size(); ++i) {
-    if (std::bit_cast<std::uint64_t>(record[i]) == std::bit_cast<std::uint64_t>(bare[i])) continue;
-    std::fprintf(stderr, "%s: result %zu is %.17g, the bare loop has %.17g\n", problem.Name.c_str(), i,
-                 record[i], bare[i]);
-    return false;
+  ChannelState.IrregEnginePoints[1][3] = 0.035;
+  if (roughnesses == 3) {
+    ChannelState.IrregEnginePoints[36][3] = 0.03;
+    ChannelState.IrregEnginePoints[66][3] = 0.07;
   }
-  return true;
+}
+
+// The random flows of a pipe: shares of what each carries.
+std::vector<double> PipeFlows(const std::vector<double>& D, const std::vector<double>& n,
+                              const std::vector<double>& S) {
+  std::vector<double> values = Random(0.01, 0.99, 9);
+  for (size_t i = 0; i < values.size(); ++i)
+    values[i] *= 0.49 / n[i] * std::pow(D[i], 8 / 3.0) * std::sqrt(S[i]);
+  return values;
+}
+
+std::vector<Sequence> Sequences() {
+  constexpr auto Q = &ChannelRecord::Flow;
+  constexpr auto y = &ChannelRecord::Depth;
+  constexpr auto n = &ChannelRecord::ManningN;
+  constexpr auto S = &ChannelRecord::Slope;
+  std::vector<Sequence> all;
+  const auto randomN = Random(0.01, 0.1, 1), randomS = Random(1e-5, 0.05, 2), randomD = Random(0.5, 20, 3);
+  std::vector<Varied> prismatic = {{n, randomN},
+                                   {S, randomS},
+                                   {&ChannelRecord::BaseWidth, Random(0.5, 100, 4)},
+                                   {&ChannelRecord::SideSlopeLeft, Random(0.1, 6, 5)},
+                                   {&ChannelRecord::SideSlopeRight, Random(0.1, 6, 6)}};
+  std::vector<Varied> pipes = {{n, randomN}, {S, randomS}, {&ChannelRecord::Diameter, randomD}};
+  std::vector<double> pipeDepths = Random(0.02, 1, 7);
+  for (size_t i = 0; i < Problems; ++i) pipeDepths[i] *= randomD[i];
+  const auto with = [](std::vector<Varied> varied, EngineValue ChannelRecord::*cell,
+                       std::vector<double> values) {
+    varied.push_back({cell, std::move(values)});
+    return varied;
+  };
+  all.push_back({"trapezoid, depth, series", Trapezoid, false, {{Q, Rising(4000)}}});
+  all.push_back({"trapezoid, depth, random", Trapezoid, false, with(prismatic, Q, Random(0.1, 1e5, 7))});
+  all.push_back({"trapezoid, flow, series", Trapezoid, true, {{y, Rising(12)}}});
+  all.push_back({"trapezoid, flow, random", Trapezoid, true, with(prismatic, y, Random(0.05, 30, 7))});
+  all.push_back({"pipe, depth, series", Pipe, false, {{Q, Rising(150)}}});
+  all.push_back({"pipe, depth, random", Pipe, false, with(pipes, Q, PipeFlows(randomD, randomN, randomS))});
+  all.push_back({"pipe, flow, series", Pipe, true, {{y, Rising(6)}}});
+  all.push_back({"pipe, flow, random", Pipe, true, with(pipes, y, pipeDepths)});
+  for (const size_t roughnesses : {1, 3}) {
+    const std::string name = "100 points, " + std::to_string(roughnesses) + " n, ";
+    const auto valley = [roughnesses] { Valley(roughnesses); };
+    std::vector<double> levels = Rising(20), randomLevels = Random(0.5, 40, 8);
+    for (double& level : levels) level += 99.5;
+    for (double& level : randomLevels) level += 99.5;
+    all.push_back({name + "depth, series", valley, false, {{Q, Rising(20000)}}});
+    all.push_back({name + "depth, random", valley, false, {{Q, Random(1, 1e5, 7)}, {S, randomS}}});
+    all.push_back({name + "flow, series", valley, true, {{y, levels}}});
+    all.push_back({name + "flow, random", valley, true, {{y, randomLevels}, {S, randomS}}});
+    // Each problem a section of its own: what one keystroke costs after a change of the points.
+    all.push_back({name + "depth, new section", valley, false, {{Q, Rising(20000)}}});
+    all.push_back({name + "flow, new section", valley, true, {{y, levels}}});
+  }
+  return all;
+}
+
+template <typename Solve>
+void RunAll(const Sequence& sequence, Solve solve) {
+  const bool newSection = sequence.name.ends_with("new section");
+  for (size_t i = 0; i < Problems; ++i) {
+    for (const Varied& each : sequence.varied) ChannelState.*each.cell = each.values[i];
+    if (newSection) ChannelState.IrregEnginePoints[1][2] = 140 + static_cast<double>(i) / 1024;
+    solve();
+  }
+}
+
+template <typename Solve>
+double Nanoseconds(const Sequence& sequence, Solve solve) {
+  const std::clock_t start = std::clock();
+  RunAll(sequence, solve);
+  return static_cast<double>(std::clock() - start) * (1e9 / CLOCKS_PER_SEC / Problems);
+}
+
+double Median(std::vector<double> values) {
+  std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
+                   values.end());
+  return values[values.size() / 2];
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  for (const Case& problem : {Trapezoid(), Circle(), Valley(1), Valley(3)}) {
-    for (const bool solveForFlow : {false, true}) {
-      if (!SameBits(problem, solveForFlow)) return 1;
-      const std::string name = problem.Name + (solveForFlow ? ", flow" : ", depth");
-      benchmark::RegisterBenchmark((name + ", operation").c_str(), [=](benchmark::State& state) {
-        Prepare(problem, solveForFlow);
-        for (auto _ : state) SolveChannel();
-      });
-      benchmark::RegisterBenchmark((name + ", bare loop").c_str(), [=](benchmark::State& state) {
-        for (auto _ : state) {
-          Results results = RunBare(problem, solveForFlow);
-          benchmark::DoNotOptimize(results);
-        }
-      });
+  const int rounds = argc > 1 ? std::atoi(argv[1]) : 101;
+  const std::string only = argc > 2 ? argv[2] : "";
+  std::printf("%-36s %10s %10s %6s\n", "problems", "plain ns", "engine ns", "ratio");
+  for (const Sequence& sequence : Sequences()) {
+    if (sequence.name.find(only) == std::string::npos) continue;
+    sequence.setUp();
+    ChannelState.SolveForFlow = sequence.solveForFlow;
+    std::string difference;
+    RunAll(sequence, [&] {
+      if (difference.empty()) difference = Difference();
+    });
+    if (!difference.empty()) {
+      std::fprintf(stderr, "%s\n", difference.c_str());
+      return 1;
     }
+    std::vector<double> plain, engine, ratio;
+    for (int round = 0; round < rounds; ++round) {
+      plain.push_back(Nanoseconds(sequence, PlainLoops::SolveChannel));
+      engine.push_back(Nanoseconds(sequence, SolveChannel));
+      ratio.push_back(engine.back() / plain.back());
+    }
+    std::printf("%-36s %10.0f %10.0f %6.2f\n", sequence.name.c_str(), Median(plain), Median(engine),
+                Median(ratio));
   }
-  benchmark::RunSpecifiedBenchmarks();
 }

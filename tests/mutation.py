@@ -17,7 +17,7 @@ BUILD = COPY / "build"
 # What is changed, and the programs whose tests are to notice, the likeliest first.
 TARGETS = {
     "engine/*.cpp": ["engine_tests", "console_tests", "rating_tests"],
-    "engine/Bisection.h": ["engine_tests", "console_tests"],
+    "engine/*.h": ["engine_tests", "console_tests"],
     "app/Units.cpp": ["app_tests", "console_tests"],
     "app/NumberDisplay.cpp": ["app_tests", "console_tests"],
     "app/project/ProjectFile.cpp": ["app_tests", "console_tests"],

@@ -7,30 +7,35 @@
 #include "engine/Constants.h"
 #include "engine/EngineFault.h"
 
-// Where a rising function of depth reaches the target, between lo and hi, all in feet; halves the interval
-// until it is no wider than the tolerance. Far from zero the spacing of doubles exceeds the tolerance: the
-// search then ends when its interval no longer shrinks. Faults when lo and hi leave no midpoint to try;
-// faults of the function pass through.
-template <typename Function>
-double LastMidpoint(double lo, double hi, double target, Function function) {
+// The last midpoint tried, and the interval that it halved; ft.
+struct Halving {
+  double y, lo, hi;
+};
+
+// Halves the interval from lo to hi (ft) until it is no wider than the tolerance, towards its upper end where
+// below(y) holds and towards its lower end elsewhere. Far from zero the spacing of doubles exceeds the
+// tolerance: the search then ends when its interval no longer shrinks. Faults when lo and hi leave no
+// midpoint to try; faults of below pass through.
+template <typename Below>
+Halving Bisect(double lo, double hi, Below below) {
   if (!(std::abs(hi - lo) > Constants::SearchTolerance))
     ThrowFault("the range of depths is too narrow to search");
-  double y = 0;
+  Halving last;
   double width = hi - lo;
   double widthBefore = 0;
   do {
-    y = (lo + hi) / 2;
+    last = {(lo + hi) / 2, lo, hi};
     // The empty statements keep the arms jumps: the processor then starts on the next midpoint while this
     // one is still compared. Blended into selects they cost a quarter of the search.
-    if (function(y) < target) {
+    if (below(last.y)) {
       asm volatile("");
-      lo = y;
+      lo = last.y;
     } else {
       asm volatile("");
-      hi = y;
+      hi = last.y;
     }
     widthBefore = width;
     width = hi - lo;
   } while (std::abs(width) > Constants::SearchTolerance && width != widthBefore);
-  return y;
+  return last;
 }

@@ -3,10 +3,13 @@
 // and seconds.
 #include "engine/ManningTrap.h"
 
+#include <algorithm>
+
 #include "engine/Bisection.h"
 #include "engine/ChannelState.h"
 #include "engine/Constants.h"
 #include "engine/EngineFault.h"
+#include "engine/Search.h"
 #include "engine/UniformFlow.h"
 
 namespace ManningTrap {
@@ -24,6 +27,14 @@ struct Trapezoid {
   double WettedPerimeter(double y) const { return (b + y * rightLength) + y * leftLength; }
   double TopWidth(double y) const { return slopes * y + b; }
 
+  // Flow and section factor then rise by a relative 1 / y a foot at least, as the jump asks for: 1e-9 over
+  // 1e-6 ft, against errors of 1e-14. For d ln Q / d ln y = 5/3 yT/A - 2/3 yP'/P, d ln Z / d ln y =
+  // 3/2 yT/A - 1/2 yT'/T, and A <= yT, yP' <= P, yT' <= T.
+  bool IsOrdinary() const {
+    return (b == 0 || Search::Ordinary(b)) && (slopes == 0 || Search::Ordinary(slopes)) && b + slopes > 0 &&
+           Search::Ordinary(rightLength + leftLength);
+  }
+
   double b, slopes, rightLength, leftLength;
 };
 
@@ -34,29 +45,75 @@ struct Inputs {
   double zR = Finite(ChannelState.SideSlopeRight.Number());
   double n = Finite(ChannelState.ManningN.Number());
   double S = Finite(ChannelState.Slope.Number());
+  Trapezoid section{b, zL, zR};
 };
 
-// Area, WettedPerimeter and HydraulicRadius of the record at the depth y.
-void AssignSection(const Inputs& in, double y) {
-  const double A = TrapArea(y, in.b, in.zL, in.zR);
+// A guess of the depth at which A^p = C L^q, L = b + my: normal depth, A^5 = C P^2 with the lengths of both
+// banks for m, and critical depth, A^3 = Z^2 T with their slopes.
+template <int p, int q>
+double GuessDepth(const Trapezoid& section, double C, double m) {
+  using Search::Power;
+  const double b = section.b;
+  const double s = std::max(section.slopes, 1e-20);
+  // The squared depths of a wide bed alone and of two banks alone, then a depth between them.
+  const double bed = Search::RoughPower(C / Power<p - q>(b), 2.0 / p);
+  const double banks = Search::RoughPower(C * Power<q>(m) * Power<p>(2 / s), 2.0 / (2 * p - q));
+  return Search::GuessRoot(1 / std::sqrt(1 / bed + 1 / banks), [&](double y) -> Search::Sides {
+    const double A = section.Area(y);
+    const double L = b + m * y;
+    return {Power<p>(A), C * Power<q>(L), y * (p * section.TopWidth(y) * L - q * m * A) / (A * L)};
+  });
+}
+
+// The depth (ft) of the flow Q, up to 999 ft.
+double NormalDepth(const Trapezoid& section, double n, double rootS, double Q) {
+  const auto below = [&](double y) {
+    return UniformFlow::Discharge(section.Area(y), section.WettedPerimeter(y), n, rootS) < Q;
+  };
+  if (!section.IsOrdinary() || !Search::Ordinary(n, rootS, Q))
+    return Bisect(0, Constants::SearchDepth, below).y;
+  const double C = Search::Power<3>(Q * n / (Constants::ManningK * rootS));
+  return Search::JumpInOpenChannel(GuessDepth<5, 2>(section, C, section.rightLength + section.leftLength),
+                                   below);
+}
+
+// The critical depth (ft) of the flow Q; false beyond 998 ft.
+EngineValue CriticalDepth(const Trapezoid& section, double Q) {
+  const double Z = UniformFlow::CriticalSectionFactor(Q);
+  const auto below = [&](double y) {
+    return UniformFlow::SectionFactor(section.Area(y), section.TopWidth(y)) < Z;
+  };
+  const double y = section.IsOrdinary() && Search::Ordinary(Z)
+                       ? Search::JumpInOpenChannel(
+                             GuessDepth<3, 1>(section, Z * Z, std::max(section.slopes, 1e-20)), below)
+                       : Bisect(0, Constants::SearchDepth, below).y;
+  return y <= Constants::DeepestResult ? EngineValue(y) : EngineValue::False();
+}
+
+double CriticalSlope(const Trapezoid& section, double yc, double n, double Q) {
+  return UniformFlow::CriticalSlope(Finite(section.Area(yc)), Finite(section.WettedPerimeter(yc)), n, Q);
+}
+
+// Area, WettedPerimeter and HydraulicRadius of the record at the depth y; returns the area.
+double AssignSection(const Trapezoid& section, double y) {
+  const double A = Finite(section.Area(y));
   ChannelState.Area = A;
-  const double P = TrapWettedPerimeter(y, in.b, in.zL, in.zR);
+  const double P = Finite(section.WettedPerimeter(y));
   ChannelState.WettedPerimeter = P;
   ChannelState.HydraulicRadius = UniformFlow::HydraulicRadius(A, P);
+  return A;
 }
 
 // The results that need the flow as well.
-void AssignFlowResults(const Inputs& in, double y, double Q) {
-  const double A = TrapArea(y, in.b, in.zL, in.zR);
+void AssignFlowResults(const Inputs& in, double y, double A, double Q) {
   const double V = UniformFlow::AssignVelocity(Q, A);
-  const double T = TrapTopWidth(y, in.b, in.zL, in.zR);
+  const double T = Finite(in.section.TopWidth(y));
   ChannelState.TopWidth = T;
   ChannelState.Froude = TrapFroude(V, T, A);
-  const EngineValue yc = TrapCriticalDepth(in.b, in.zL, in.zR, Q);
+  const EngineValue yc = CriticalDepth(in.section, Q);
   ChannelState.CriticalDepth = yc;
-  ChannelState.CriticalSlope = yc.IsDouble()
-                                   ? EngineValue(TrapCriticalSlope(yc.Number(), in.b, in.zL, in.zR, in.n, Q))
-                                   : EngineValue();
+  ChannelState.CriticalSlope =
+      yc.IsDouble() ? EngineValue(CriticalSlope(in.section, yc.Number(), in.n, Q)) : EngineValue();
 }
 
 }  // namespace
@@ -78,43 +135,33 @@ double TrapFroude(double V, double T, double A) {
 }
 
 EngineValue TrapCriticalDepth(double b, double zL, double zR, double Q) {
-  const Trapezoid section(b, zL, zR);
-  const double y = LastMidpoint(
-      0, Constants::SearchDepth, UniformFlow::CriticalSectionFactor(Q),
-      [&](double depth) { return UniformFlow::SectionFactor(section.Area(depth), section.TopWidth(depth)); });
-  return y <= Constants::DeepestResult ? EngineValue(y) : EngineValue::False();
+  return CriticalDepth(Trapezoid(b, zL, zR), Q);
 }
 
 double TrapCriticalSlope(double yc, double b, double zL, double zR, double n, double Q) {
-  return UniformFlow::CriticalSlope(TrapArea(yc, b, zL, zR), TrapWettedPerimeter(yc, b, zL, zR), n, Q);
+  return CriticalSlope(Trapezoid(b, zL, zR), yc, n, Q);
 }
 
 void PrismaticFlowFromDepth() {
   const Inputs in;
   const double y = Finite(ChannelState.Depth.Number());
-  AssignSection(in, y);
-  const Trapezoid section(in.b, in.zL, in.zR);
-  const double Q = UniformFlow::Discharge(section.Area(y), section.WettedPerimeter(y), in.n,
-                                          UniformFlow::RootOfSlope(in.S));
+  const double A = AssignSection(in.section, y);
+  const double P = in.section.WettedPerimeter(y);
+  const double Q = UniformFlow::Discharge(A, P, in.n, UniformFlow::RootOfSlope(in.S));
   ChannelState.Flow = Q;
-  AssignFlowResults(in, y, Q);
+  AssignFlowResults(in, y, A, Q);
 }
 
 void PrismaticDepthFromFlow() {
   const Inputs in;
   const double Q = Finite(ChannelState.Flow.Number());
-  const double rootS = UniformFlow::RootOfSlope(in.S);
-  const Trapezoid section(in.b, in.zL, in.zR);
-  const double y = LastMidpoint(0, Constants::SearchDepth, Q, [&](double depth) {
-    return UniformFlow::Discharge(section.Area(depth), section.WettedPerimeter(depth), in.n, rootS);
-  });
+  const double y = NormalDepth(in.section, in.n, UniformFlow::RootOfSlope(in.S), Q);
   if (y > Constants::DeepestResult) {
     UniformFlow::AssignOverflow(ChannelState.Depth);
     return;
   }
   ChannelState.Depth = y;
-  AssignSection(in, y);
-  AssignFlowResults(in, y, Q);
+  AssignFlowResults(in, y, AssignSection(in.section, y), Q);
 }
 
 }  // namespace ManningTrap
