@@ -39,3 +39,9 @@ Halving Bisect(double lo, double hi, Below below) {
   } while (std::abs(width) > Constants::SearchTolerance && width != widthBefore);
   return last;
 }
+
+// The last midpoint on the way to where a rising function of depth reaches the target.
+template <typename Function>
+double LastMidpoint(double lo, double hi, double target, Function function) {
+  return Bisect(lo, hi, [&](double y) { return function(y) < target; }).y;
+}

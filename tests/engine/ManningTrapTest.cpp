@@ -14,20 +14,19 @@ using ManningTrapTest = EngineTest;
 
 TEST(Bisection, ReportsTheLastMidpointTried) {
   int tried = 0;
-  const double top = Bisect(0, 999, [&](double) { return ++tried > 0; }).y;
+  const double top = LastMidpoint(0, 999, 1, [&](double) { return ++tried, 0; });
   EXPECT_EQ(tried, 30);
   EXPECT_DOUBLE_EQ(top, 999 - std::ldexp(999, -30));
-  EXPECT_DOUBLE_EQ(Bisect(0, 999, [](double) { return false; }).y, std::ldexp(999, -30));
+  EXPECT_DOUBLE_EQ(LastMidpoint(0, 999, 0, [](double) { return 0; }), std::ldexp(999, -30));
 }
 
 TEST(Bisection, EndsWhereDoublesAreCoarserThanTheTolerance) {
   const double lo = 1e12;
-  const double found = Bisect(lo, lo + 999, [lo](double y) { return y < lo + 500; }).y;
+  const double found = LastMidpoint(lo, lo + 999, lo + 500, [](double y) { return y; });
   EXPECT_NEAR(found, lo + 500, 2e-4);
-  const auto notBelow = [](double) { return false; };
-  EXPECT_LE(Bisect(1e18, 1e18 + 999, notBelow).y, 1e18 + 128);
-  EXPECT_THROW(Bisect(1e20, 1e20 + 999, notBelow), EngineFault);
-  EXPECT_THROW(Bisect(0, 1e-6, notBelow), EngineFault);
+  EXPECT_LE(LastMidpoint(1e18, 1e18 + 999, 0, [](double y) { return y; }), 1e18 + 128);
+  EXPECT_THROW(LastMidpoint(1e20, 1e20 + 999, 0, [](double y) { return y; }), EngineFault);
+  EXPECT_THROW(LastMidpoint(0, 1e-6, 0, [](double y) { return y; }), EngineFault);
 }
 
 TEST_F(ManningTrapTest, RectangleByHand) {
