@@ -29,6 +29,12 @@ std::string RangeText(const Range& range) {
   return text;
 }
 
+std::string MustBeNumber(const std::string& name, std::string_view text) {
+  const std::string must = name + " must be a number";
+  return text.empty() ? must
+                      : must + "; the decimal sign here is '" + CurrentNumberLocale().DecimalSign + "'";
+}
+
 bool CheckRange(std::string_view value, std::optional<double> min, bool minInclusive,
                 std::optional<double> max, bool maxInclusive, bool showMessage) {
   if (value.empty()) return false;

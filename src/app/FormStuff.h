@@ -23,6 +23,9 @@ bool Within(double x, const Range& range);
 /// " greater than 0 and less than 1": what a number of this range must be, with a blank in front.
 std::string RangeText(const Range& range);
 
+/// "Depth must be a number; the decimal sign here is ','", for a text that is none.
+std::string MustBeNumber(const std::string& name, std::string_view text);
+
 /// True when the text is a number within the bounds. With `showMessage` a "Warning" box says what the number
 /// must be; an empty text fails without it.
 bool CheckRange(std::string_view value, std::optional<double> min, bool minInclusive,

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/FormStuff.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
@@ -78,13 +79,13 @@ bool RangeSettings::Mark(TextBox& box, const std::string& offence) {
 }
 
 std::string RangeSettings::LastOffence() const {
-  if (!IsNumber(tbMax)) return "Last must be a number";
+  if (!IsNumber(tbMax)) return FormStuff::MustBeNumber("Last", tbMax.Text.Get());
   const bool greater = !IsNumber(tbMin) || LeadingNumber(tbMax.Text.Get()) > LeadingNumber(tbMin.Text.Get());
   return greater ? "" : "Last must be greater than first";
 }
 
 void RangeSettings::EnableOK() {
-  const bool first = Mark(tbMin, IsNumber(tbMin) ? "" : "First must be a number");
+  const bool first = Mark(tbMin, IsNumber(tbMin) ? "" : FormStuff::MustBeNumber("First", tbMin.Text.Get()));
   const bool last = Mark(tbMax, LastOffence());
   const bool step = MarkStep();
   cmdOK.Enabled = first && last && step;

@@ -2,6 +2,7 @@
 #include "rating/frmTableSettings.h"
 
 #include "app/Declarations.h"
+#include "app/FormStuff.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "engine/NumberText.h"
@@ -40,7 +41,7 @@ bool frmTableSettings::MarkStep() {
 }
 
 std::string frmTableSettings::StepOffence() const {
-  if (!IsNumeric(tbIncrement.Text.Get())) return "Step must be a number";
+  if (!IsNumeric(tbIncrement.Text.Get())) return FormStuff::MustBeNumber("Step", tbIncrement.Text.Get());
   const double step = NumberIn(tbIncrement);
   if (step <= 0) return "Step must be greater than 0";
   // Also when the range is too wide for a number of steps.

@@ -28,14 +28,17 @@ bool IsDigit(char c) {
   return std::isdigit(static_cast<unsigned char>(c)) != 0;
 }
 
-/// With the signs of the locale for "." and "," that stand beside a digit; lists of fixed texts keep theirs.
+/// With the signs of the locale for "." and "," that stand beside a digit, and for a "." that is quoted;
+/// lists of fixed texts keep theirs.
 std::string Respelled(const NumberLocale& locale, const std::string& text) {
   std::string respelled;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool inNumber = (i > 0 && IsDigit(text[i - 1])) || (i + 1 < text.size() && IsDigit(text[i + 1]));
-    if (inNumber && text[i] == '.') {
+    const char before = i > 0 ? text[i - 1] : ' ';
+    const char after = i + 1 < text.size() ? text[i + 1] : ' ';
+    const bool inNumber = IsDigit(before) || IsDigit(after);
+    if (text[i] == '.' && (inNumber || (before == '\'' && after == '\''))) {
       respelled += locale.DecimalSign;
-    } else if (inNumber && text[i] == ',') {
+    } else if (text[i] == ',' && inNumber && after != ' ') {
       respelled += locale.GroupSeparator;
     } else {
       respelled += text[i];
@@ -74,7 +77,8 @@ std::vector<Exchange> InLocale(const NumberLocale& locale, const std::vector<Exc
   for (const Exchange& exchange : conversation) {
     const bool typed = exchange.Line.starts_with("type tb") || exchange.Line.starts_with("clipboard");
     const bool read = exchange.Line.starts_with("get tb") || exchange.Line.starts_with("get frmMain.tb") ||
-                      exchange.Line.starts_with("get lblMissing") || exchange.Line.starts_with("cell ") ||
+                      exchange.Line.starts_with("get lst") || exchange.Line.starts_with("get lblMissing") ||
+                      exchange.Line.starts_with("get lblStatus") || exchange.Line.starts_with("cell ") ||
                       exchange.Line == "printed" ||
                       (exchange.Line.starts_with("record points") && exchange.Reply.starts_with("t:")) ||
                       exchange.Line.starts_with("clipboard");

@@ -49,7 +49,7 @@ void ExpectShown(const Control& control, const QObject& view) {
             control.Visible);
   if (const auto* const box = dynamic_cast<const TextBox*>(&control)) {
     EXPECT_EQ(view.property("text").toString().toStdString(), box->Text.Get());
-    EXPECT_EQ(view.property("toolTip").toString().toStdString(), box->ToolTip.Get());
+    EXPECT_EQ(FromQt(view.property("toolTip").toString()), FromQt(Printed(box->ToolTip.Get())));
     EXPECT_EQ(view.property("readOnly").toBool(), box->Locked);
     // The widget of an empty box need not be bold yet.
     EXPECT_TRUE(widget->font().bold() == box->Bold || box->Text.Get().empty());

@@ -20,8 +20,6 @@ namespace {
 using Record = ChannelRecord;
 using Point = std::array<EngineValue, 4>;
 
-constexpr double FullPipe = 1e-12;  // a depth within this part of the diameter counts as the diameter
-
 bool IsPipe(const Record&) {
   return CurrentChannelType().Is == Shape::Pipe;
 }
@@ -51,7 +49,7 @@ std::string Limit(double limit, int quantity, bool included) {
   const double factor = UnitFactor(ChannelState.UnitsEorM, quantity);
   const auto refused = [&](const std::string& shown) {
     const double typed = LeadingNumber(shown) * factor;
-    return included ? typed > limit * (1 + FullPipe) : typed >= limit;
+    return included ? typed > limit && !frmMain::IsFull(typed, limit) : typed >= limit;
   };
   const std::string nearest = ShownNumber(limit, quantity, false);
   if (!refused(nearest)) return WithUnit(nearest, quantity);
@@ -59,36 +57,9 @@ std::string Limit(double limit, int quantity, bool included) {
   return WithUnit(ShownNumber(limit - lastDigit * factor, quantity, false), quantity);
 }
 
-/// The row of the first point that is amiss; 0 when none is.
-template <class IsAmiss>
-int FirstPoint(const Record& r, IsAmiss isAmiss) {
-  const auto points = Points(r);
-  for (std::size_t i = 0; i < points.size(); ++i) {
-    if (isAmiss(points[i], i == 0 ? nullptr : &points[i - 1])) return static_cast<int>(i + 1);
-  }
-  return 0;
-}
-
-int NoRoughness(const Record& r) {
-  return FirstPoint(r, [](const Point& point, const Point*) {
-    return !point[3].IsEmptyText() && !(point[3].Number() > 0);
-  });
-}
-
-int NotAscending(const Record& r) {
-  return FirstPoint(r, [](const Point& point, const Point* before) {
-    return before != nullptr && !(point[1].Number() > (*before)[1].Number());
-  });
-}
-
 bool HasNoWidth(const Record& r) {
-  if (IsPipe(r)) return false;
-  if (!IsSection(r)) {
-    return r.BaseWidth.Number() == 0 && r.SideSlopeLeft.Number() == 0 && r.SideSlopeRight.Number() == 0;
-  }
-  const auto points = Points(r);
-  return points.size() > 1 &&
-         std::ranges::all_of(points, [&](const Point& point) { return point[1] == points[0][1]; });
+  return CurrentChannelType().Is == Shape::Prism && r.BaseWidth.Number() == 0 &&
+         r.SideSlopeLeft.Number() == 0 && r.SideSlopeRight.Number() == 0;
 }
 
 bool IsAboveEnds(const Record& r) {
@@ -112,16 +83,6 @@ struct Row {
 /// What is amiss with the inputs together, whatever the engine made of it. The first that applies counts.
 constexpr Row Inputs[] = {
     {HasNoWidth, [](const Record&) -> std::string { return "the channel has no width"; }},
-    {[](const Record& r) { return IsSection(r) && NotAscending(r) > 0; },
-     [](const Record& r) {
-       const int row = NotAscending(r);
-       return "the station of point " + std::to_string(row) + " is not above that of point " +
-              std::to_string(row - 1);
-     }},
-    {[](const Record& r) { return IsSection(r) && NoRoughness(r) > 0; },
-     [](const Record& r) {
-       return "Manning's n of point " + std::to_string(NoRoughness(r)) + " must be greater than 0";
-     }},
     {[](const Record& r) {
        const double lowest = LowPoint(r);
        return IsSection(r) && r.SolveForFlow && std::isfinite(lowest) && !(r.Depth.Number() > lowest);
@@ -162,6 +123,25 @@ Reason ReasonOf(const Row& row) {
   return {text, row.OfMany == nullptr ? text : row.OfMany, row.Box};
 }
 
+/// What the point editor refuses, for points that come from a file.
+struct PointRow {
+  bool (*IsAmiss)(const Point& point, const Point* before);
+  const char* Rule;
+};
+
+constexpr PointRow PointRules[] = {
+    {[](const Point& point, const Point*) { return !point[1].IsNumeric(); }, "Station must be a number"},
+    {[](const Point& point, const Point* before) {
+       return before != nullptr && !(point[1].Number() > (*before)[1].Number());
+     },
+     "Station must be greater than the one before"},
+    {[](const Point& point, const Point*) { return !point[2].IsNumeric(); }, "Elevation must be a number"},
+    {[](const Point& point, const Point*) {
+       return !point[3].IsEmptyText() && !(point[3].IsNumeric() && point[3].Number() > 0);
+     },
+     "Manning's n must be greater than 0"},
+};
+
 struct BlankRow {
   EngineValue Record::*Result;
   bool (*Applies)(const Record&);
@@ -195,6 +175,23 @@ Reason WhyNoResult(const std::string& fault) {
   if (input != std::end(Inputs)) return ReasonOf(*input);
   if (!fault.empty()) return {fault, fault};
   return ReasonOf(*std::ranges::find_if(Overflows, applies));
+}
+
+std::string WhyRefused(const PointTable& points, int count) {
+  for (std::size_t row = 1; row <= static_cast<std::size_t>(count); ++row) {
+    const Point* const before = row == 1 ? nullptr : &points[row - 1];
+    for (const PointRow& rule : PointRules) {
+      if (rule.IsAmiss(points[row], before)) return "Point " + std::to_string(row) + ": " + rule.Rule;
+    }
+  }
+  return "";
+}
+
+std::string Sentence(std::string reason) {
+  if (!reason.empty() && reason.front() >= 'a' && reason.front() <= 'z') {
+    reason.front() = static_cast<char>(reason.front() - 'a' + 'A');
+  }
+  return reason;
 }
 
 Reason WhyBlank(EngineValue ChannelRecord::*result) {

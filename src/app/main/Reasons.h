@@ -19,5 +19,12 @@ struct Reason {
 /// is the reason of an EngineFault; empty when there was none, or when the engine was not asked.
 Reason WhyNoResult(const std::string& fault);
 
+/// The first of these points, as typed, that the point editor would refuse, and why; empty when it would
+/// refuse none.
+std::string WhyRefused(const PointTable& points, int count);
+
+/// A reason as it stands alone: with a capital letter.
+std::string Sentence(std::string reason);
+
 /// Why this result of a solved problem is blank.
 Reason WhyBlank(EngineValue ChannelRecord::*result);

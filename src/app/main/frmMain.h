@@ -4,16 +4,20 @@
 
 #include <array>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "app/main/StatusLine.h"
 #include "app/main/SubWindows.h"
 #include "app/project/ProjectFile.h"
+#include "engine/ChannelState.h"
 #include "platform/Controls.h"
 
 struct ChannelType;
 struct Field;
+struct Reason;
 
 class frmMain : public Form {
  public:
@@ -83,6 +87,8 @@ class frmMain : public Form {
   void InputToGlobal();
   /// A pipe typed full is full: the same length typed as depth and as diameter differs in its last bits.
   static void FillPipe();
+  /// True for a pipe typed full, in feet.
+  static bool IsFull(double depth, double diameter);
   /// Runs the engine and fills the result boxes; EngineFault when the inputs have no solution.
   void ComputeResults();
   void ClearResults();
@@ -182,20 +188,30 @@ class frmMain : public Form {
   void FocusInput(const FocusControl* from);
   /// Another problem is in the boxes: what was typed for the one before can no longer be undone.
   void ForgetEdits();
+  /// Before the mode changes: the text of the input is kept, and that of the result, the next input, comes
+  /// back if it was typed and nothing has changed since.
+  void TurnIntoResult(const TextBox& input, TextBox& result);
   /// A change that is no edit of a box counts as one when the project has a file to differ from.
   void MarkProjectChanged();
 
+  /// Computes and shows the results, or tells why there are none.
+  std::string Solve();
   /// Marks the boxes that cannot be used and returns the reason of the first; empty when all can.
   std::string MarkOffences();
   /// What is wrong with an input; empty when nothing is or nobody asks for it.
   std::string OffenceOf(const Field& field) const;
   void SetResultLook(TextBox& box, bool result);
-  /// What to tell after the engine has run: why there is no result, or what was solved.
-  std::string Outcome() const;
-  std::string CriticalSlopeNote() const;
+  /// Marks the box to be mended, if it is one alone; returns the reason in words.
+  std::string Blame(const Reason& reason);
+  /// Gives each result its tool tip: why it is blank, or what there is to know of it.
+  void ExplainResults(const std::string& whyNone);
+  static std::string NoteOn(const Field& result);
 
   SubWindows& windows_;
-  std::string fileBytes_;  // of the project's file when it was opened or last saved
+  StatusLine status_;
+  std::map<const TextBox*, std::string> typed_;  // in boxes that became results; none once an input changes
+  PointTable typedWith_;                         // the points at that time
+  std::string fileBytes_;                        // of the project's file when it was opened or last saved
   bool solved_ = false;
   bool loading_ = false;  // boxes are being filled: their Change events neither compute nor clear
 };

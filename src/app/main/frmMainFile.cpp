@@ -126,6 +126,7 @@ bool frmMain::FileOpen(const std::string& path) {
   }
   fileBytes_ = std::move(bytes);
   const Loading loading(loading_);
+  typed_.clear();
   ChannelRecord& record = ChannelState;
   record.ChannelType = project.ChannelType;
   record.SolveForFlow = project.SolveForFlow;

@@ -1,32 +1,19 @@
 // The inputs as texts: edited, tidied, emptied, rewritten in other units, cut and pasted. See frmMain.h.
 #include <algorithm>
-#include <cmath>
-#include <utility>
 
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
-#include "app/NumberDisplay.h"
-#include "app/Units.h"
 #include "app/main/ChannelTypes.h"
 #include "app/main/Loading.h"
 #include "app/main/frmMain.h"
 #include "platform/Services.h"
 
-namespace {
-
-/// A typed number in the unit system now in force. What is not a number, or too large for one afterwards,
-/// stays as it is.
-EngineValue InOtherUnits(const EngineValue& typed, int quantity, int before, int decimals) {
-  const double factor = UnitFactor(before, quantity) / UnitFactor(ChannelState.UnitsEorM, quantity);
-  if (!std::isfinite(factor * typed.Number())) return typed;
-  return FixedFormat(typed, factor, decimals);
-}
-
-}  // namespace
-
 void frmMain::Input_Change() {
   Declarations::DataChanged = true;
-  if (!loading_) CheckInputs();
+  if (loading_) return;
+  status_.Edited();
+  typed_.clear();
+  CheckInputs();
 }
 
 void frmMain::Input_Validate() {
@@ -34,10 +21,12 @@ void frmMain::Input_Validate() {
 }
 
 void frmMain::FormatInputs() {
+  const auto typed = typed_;
   for (const Field& field : Fields()) {
     TextBox& box = this->*field.Box;
     if (field.IsInput()) box.Text = FormStuff::AddLeadingZero(box);
   }
+  typed_ = typed;  // a tidied text is no other input
 }
 
 void frmMain::FocusInput(const FocusControl* from) {
@@ -71,6 +60,7 @@ void frmMain::WriteHiddenZeros() {
 void frmMain::ResetForm() {
   Declarations::FileTitle = Declarations::FilePath = Declarations::Untitled;
   ShowTitle();
+  typed_.clear();
   {
     const Loading loading(loading_);
     tbProjName.Text = "";
@@ -83,35 +73,6 @@ void frmMain::ResetForm() {
   ForgetEdits();
   Declarations::DataChanged = false;
   CheckInputs();
-}
-
-void frmMain::SelectUnits(int units) {
-  if (units == ChannelState.UnitsEorM) return;
-  MarkProjectChanged();
-  const int before = std::exchange(ChannelState.UnitsEorM, units);
-  SetUnitsEorM();
-  ConvertInput(before);
-  ForgetEdits();
-  CheckInputs();
-}
-
-void frmMain::ConvertInput(int before) {
-  const Loading loading(loading_);
-  const int units = ChannelState.UnitsEorM;
-  for (const Field& field : Fields()) {
-    const auto decimals = TypedDecimals(units, field.Quantity);
-    if (field.Result == ResultWhen::Always || !decimals) continue;
-    Property<std::string>& text = (this->*field.Box).Text;
-    text = InOtherUnits(text.Get(), field.Quantity, before, *decimals).Text();
-  }
-  PointTable& points = ChannelState.IrregPoints;
-  if (points[1][1] == EngineValue("")) return;
-  const int decimals = TypedDecimals(units, Units::Length).value();
-  for (std::size_t row = 1; row <= static_cast<std::size_t>(ChannelState.IrregPointCount); ++row) {
-    for (const std::size_t column : {1U, 2U}) {
-      points[row][column] = InOtherUnits(points[row][column], Units::Length, before, decimals);
-    }
-  }
 }
 
 void frmMain::mnuEditCut_Click() {

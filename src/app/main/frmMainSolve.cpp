@@ -6,14 +6,18 @@
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
+#include "app/main/Reasons.h"
 #include "app/main/frmMain.h"
-#include "engine/Constants.h"
 #include "engine/EngineFault.h"
-#include "engine/ManningCircular.h"
 #include "engine/NumberText.h"
 #include "engine/SolveChannel.h"
 
 namespace {
+
+std::string LowerCase(std::string text) {
+  for (char& c : text) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  return text;
+}
 
 double FactorOf(int quantity) {
   return UnitFactor(ChannelState.UnitsEorM, quantity);
@@ -22,26 +26,61 @@ double FactorOf(int quantity) {
 }  // namespace
 
 void frmMain::CheckInputs() {
-  std::string reason = MarkOffences();
+  std::string whyNone = MarkOffences();
   solved_ = false;
-  if (reason.empty()) {
-    try {
-      ComputeResults();
-      solved_ = ChannelState.Area.IsNumeric();
-      reason = Outcome();
-    } catch (const EngineFault& fault) {
-      ClearResults();
-      reason = std::string("No result: ") + fault.what();
-    }
+  if (whyNone.empty()) {
+    whyNone = Solve();
   } else {
     ClearResults();
   }
+  ExplainResults(whyNone);
   for (Control* const command :
        std::initializer_list<Control*>{&mnuSolveGraph, &mnuSolveTable, &mnuSolveSection, &Toolbar1.Graph,
                                        &Toolbar1.Table, &Toolbar1.Section}) {
     command->Enabled = solved_;
   }
-  lblStatus.Caption = reason;
+  std::string verdict;
+  if (solved_) {
+    verdict = ChannelState.SolveForFlow ? "Flow solved" : "Depth solved";
+    if (const std::string& note = tbCritS.ToolTip; !note.empty()) verdict += ". " + note;
+  }
+  status_.Tell(StatusLine::NoResult, whyNone);
+  status_.Tell(StatusLine::Verdict, verdict);
+  lblStatus.Caption = status_.Text();
+}
+
+std::string frmMain::Solve() {
+  try {
+    ComputeResults();
+    solved_ = ChannelState.Area.IsNumeric();
+    return solved_ ? "" : "Overflow: " + Blame(WhyNoResult({}));
+  } catch (const EngineFault& fault) {
+    ClearResults();
+    return "No result: " + Blame(WhyNoResult(fault.what()));
+  }
+}
+
+std::string frmMain::Blame(const Reason& reason) {
+  if (reason.Box != nullptr) {
+    (this->*reason.Box).Offending = true;
+    (this->*reason.Box).ToolTip = Sentence(reason.Text);
+  }
+  return reason.Text;
+}
+
+void frmMain::ExplainResults(const std::string& whyNone) {
+  for (const Field& field : Fields()) {
+    if (field.IsResult()) (this->*field.Box).ToolTip = whyNone.empty() ? NoteOn(field) : whyNone;
+  }
+}
+
+std::string frmMain::NoteOn(const Field& result) {
+  const EngineValue& value = ChannelState.*result.Cell;
+  if (!value.IsNumeric()) return Sentence(WhyBlank(result.Cell).Text);
+  if (FactorOf(result.Quantity) == FactorOf(result.PageQuantity)) return "";
+  return Sentence(LowerCase(result.Caption.Current())) + ": " +
+         ShownNumber(value, result.PageQuantity, false) + " " +
+         UnitLabel(ChannelState.UnitsEorM, result.PageQuantity);
 }
 
 frmMain::Progress frmMain::CurrentProgress() const {
@@ -60,8 +99,10 @@ std::string frmMain::MarkOffences() {
   const ChannelType& type = CurrentChannelType();
   std::string first;
   if (type.Name.empty()) first = "Choose a channel type";
-  if (type.IsSurveyed() && ChannelState.IrregPoints[1][1] == EngineValue("")) {
-    first = "Enter the points of the section";
+  if (type.IsSurveyed()) {
+    const bool empty = ChannelState.IrregPoints[1][1] == EngineValue("");
+    first = empty ? "Enter the points of the section"
+                  : WhyRefused(ChannelState.IrregPoints, ChannelState.IrregPointCount);
   }
   for (const Field& field : Fields()) {
     if (field.Result == ResultWhen::Always) continue;
@@ -79,11 +120,13 @@ std::string frmMain::OffenceOf(const Field& field) const {
   const ChannelType& type = CurrentChannelType();
   if (field.IsResult() || !type.Has(field)) return "";
   const std::string& typed = (this->*field.Box).Text;
+  const std::string& name = (this->*field.Name).Caption;
+  if (!typed.empty() && !IsNumeric(typed)) return FormStuff::MustBeNumber(name, typed);
   if (field.IsElevation()) return field.SurveyedOffence(typed);
   const FormStuff::Range& allowed = field.Bounds;
   const bool within = FormStuff::CheckRange(typed, allowed.Min, allowed.MinInclusive, allowed.Max,
                                             allowed.MaxInclusive, false);
-  return within ? "" : (this->*field.Name).Caption.Get() + " must be" + FormStuff::RangeText(allowed);
+  return within ? "" : name + " must be" + FormStuff::RangeText(allowed);
 }
 
 void frmMain::InputToGlobal() {
@@ -109,7 +152,11 @@ void frmMain::FillPipe() {
   if (CurrentChannelType().Is != Shape::Pipe) return;
   const double depth = ChannelState.Depth.Number();
   const double diameter = ChannelState.Diameter.Number();
-  if (std::abs(depth - diameter) <= 1e-12 * std::abs(diameter)) ChannelState.Depth = ChannelState.Diameter;
+  if (IsFull(depth, diameter)) ChannelState.Depth = ChannelState.Diameter;
+}
+
+bool frmMain::IsFull(double depth, double diameter) {
+  return std::abs(depth - diameter) <= 1e-12 * std::abs(diameter);
 }
 
 void frmMain::ComputeResults() {
@@ -119,24 +166,13 @@ void frmMain::ComputeResults() {
     if (field.IsInput()) continue;
     (this->*field.Box).Text = ShownNumber(ChannelState.*field.Cell, field.Quantity, field.FixedDecimals);
   }
-  tbCritS.ToolTip = CriticalSlopeNote();
   EnablePrint(true);
-}
-
-std::string frmMain::CriticalSlopeNote() const {
-  if (CurrentChannelType().IsSurveyed()) return "A surveyed section has no critical slope";
-  const Field& field = FieldOf(&frmMain::tbCritS);
-  const bool asItIs = FactorOf(field.Quantity) == FactorOf(field.PageQuantity);
-  if (asItIs || !ChannelState.CriticalSlope.IsNumeric()) return "";
-  return "Critical slope: " + ShownNumber(ChannelState.CriticalSlope, field.PageQuantity, false) + " " +
-         UnitLabel(ChannelState.UnitsEorM, field.PageQuantity);
 }
 
 void frmMain::ClearResults() {
   for (const Field& field : Fields()) {
     if (field.IsResult()) (this->*field.Box).Text = "";
   }
-  tbCritS.ToolTip = "";
   EnablePrint(false);
 }
 
@@ -144,23 +180,4 @@ void frmMain::EnablePrint(bool enabled) {
   mnuFilePrint.Enabled = enabled;
   mnuFilePrintPreview.Enabled = enabled;
   Toolbar1.Print.Enabled = enabled;
-}
-
-std::string frmMain::Outcome() const {
-  const bool solveForFlow = ChannelState.SolveForFlow;
-  if (solved_) {
-    const std::string solved = solveForFlow ? "Flow solved" : "Depth solved";
-    const std::string note = CriticalSlopeNote();
-    return note.empty() ? solved : solved + ". " + note;
-  }
-  if (solveForFlow) return "Overflow: the depth is above the crown of the pipe";
-  if (CurrentChannelType().Is == Shape::Pipe) {
-    const double greatest = ManningCircular::CircMaxFlow(
-        ChannelState.Diameter.Number(), ChannelState.Slope.Number(), ChannelState.ManningN.Number());
-    return "Overflow: the pipe carries at most " + ShownNumber(greatest, Units::Flow, false) + " " +
-           lblFlowUnits.Caption.Get() + ", at 0.938 of its diameter";
-  }
-  return "Overflow: the channel does not carry this flow within " +
-         FixedFormat(Constants::DeepestResult, 1 / FactorOf(Units::Length), 0).Text() + " " +
-         lblDepthUnits.Caption.Get() + " of depth";
 }

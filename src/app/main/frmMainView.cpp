@@ -42,7 +42,10 @@ void frmMain::SetUnitsEorM() {
 }
 
 void frmMain::SelectChannelType(const ChannelType& type) {
-  if (ChannelState.ChannelType != type.Name) MarkProjectChanged();
+  if (ChannelState.ChannelType != type.Name) {
+    MarkProjectChanged();
+    typed_.clear();
+  }
   ChannelState.ChannelType = type.Name;
   const FocusControl* const left = ActiveControl();
   ToggleControls();
@@ -53,12 +56,27 @@ void frmMain::SelectChannelType(const ChannelType& type) {
 }
 
 void frmMain::SelectSolveForFlow(bool solveForFlow) {
-  if (ChannelState.SolveForFlow != solveForFlow) MarkProjectChanged();
+  if (ChannelState.SolveForFlow != solveForFlow) {
+    MarkProjectChanged();
+    if (solveForFlow) {
+      TurnIntoResult(tbFlow, tbDepth);
+    } else {
+      TurnIntoResult(tbDepth, tbFlow);
+    }
+  }
   ChannelState.SolveForFlow = solveForFlow;
   ToggleControls();
   CheckInputs();
   ForgetEdits();
   FocusInput(ActiveControl());
+}
+
+void frmMain::TurnIntoResult(const TextBox& input, TextBox& result) {
+  if (typedWith_ != ChannelState.IrregPoints) typed_.clear();
+  // Still locked, so that this is no edit.
+  if (const auto typed = typed_.find(&result); typed != typed_.end()) result.Text = typed->second;
+  typed_[&input] = input.Text;
+  typedWith_ = ChannelState.IrregPoints;
 }
 
 void frmMain::MarkProjectChanged() {

@@ -7,20 +7,25 @@
 namespace {
 
 struct Roughness {
-  const char* Line;
   double Value;
+  const char* Surface;
 };
 
 constexpr Roughness TypicalValues[] = {
-    {"0.011   Plastic or Welded Steel Surface", 0.011},
-    {"0.013   Concrete Channel or Pipe", 0.013},
-    {"0.024   Corrugated Metal", 0.024},
-    {"0.025   Excavated Gravel Channel", 0.025},
-    {"0.030   Natural Stream (Clean)", 0.030},
-    {"0.035   Natural Stream (Small Stones)", 0.035},
-    {"0.050   Natural Stream (Mountain)", 0.050},
-    {"0.100   Natural Stream (Floodway)", 0.100},
+    {0.011, "Plastic or Welded Steel Surface"},
+    {0.013, "Concrete Channel or Pipe"},
+    {0.024, "Corrugated Metal"},
+    {0.025, "Excavated Gravel Channel"},
+    {0.030, "Natural Stream (Clean)"},
+    {0.035, "Natural Stream (Small Stones)"},
+    {0.050, "Natural Stream (Mountain)"},
+    {0.100, "Natural Stream (Floodway)"},
 };
+
+/// As the number is typed.
+std::string Spelled(double n) {
+  return FixedFormat(n, 1, 3).Text();
+}
 
 }  // namespace
 
@@ -39,7 +44,7 @@ void frmMannParam::Form_Load() {
   const double typed = LeadingNumber(main_.tbMann.Text.Get());
   for (const Roughness& each : TypicalValues) {
     if (typed == each.Value) current = static_cast<int>(lines.size());
-    lines.emplace_back(each.Line);
+    lines.push_back(Spelled(each.Value) + "   " + each.Surface);
   }
   lstMannParam.Items = lines;
   lstMannParam.ListIndex = current;
@@ -47,7 +52,7 @@ void frmMannParam::Form_Load() {
 
 void frmMannParam::cmdOK_Click() {
   const int line = lstMannParam.ListIndex;
-  if (line >= 0) main_.tbMann.Text = FixedFormat(TypicalValues[line].Value, 1, 3).Text();
+  if (line >= 0) main_.tbMann.Text = Spelled(TypicalValues[line].Value);
   Unload();
 }
 

@@ -29,7 +29,7 @@ void Press(const HasClick& control) {
 }  // namespace
 
 QString WithMnemonic(std::string_view caption, std::string_view letters) {
-  const QString text = ToQt(caption);
+  const QString text = Printed(caption);
   qsizetype mnemonic = -1;
   for (const char letter : letters) {
     mnemonic = text.indexOf(QLatin1Char(letter), 0, Qt::CaseInsensitive);

@@ -48,7 +48,7 @@ Widget* Named(Control& control, Widget* widget) {
   widget->setObjectName(ToQt(control.Name()));
   Join(control.Enabled, widget, [](Widget& w, bool enabled) { w.setEnabled(enabled); });
   Join(control.Visible, widget, [](Widget& w, bool visible) { w.setVisible(visible); });
-  Join(control.ToolTip, widget, [](Widget& w, const std::string& tip) { w.setToolTip(ToQt(tip)); });
+  Join(control.ToolTip, widget, [](Widget& w, const std::string& tip) { w.setToolTip(Printed(tip)); });
   return widget;
 }
 

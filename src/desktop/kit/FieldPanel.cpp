@@ -57,12 +57,7 @@ BoxEdit* FieldPanel::AddField(const Field& field) {
   });
   const auto describe = [field, box] { box->setAccessibleDescription(Description(field)); };
   Bind::Follow(field.Box.ToolTip, this, describe);
-  if (field.Unit != nullptr) {
-    Bind::Follow(field.Unit->Caption, this, [field, unit, describe] {
-      unit->setText(Printed(field.Unit->Caption.Get()));
-      describe();
-    });
-  }
+  if (field.Unit != nullptr) Bind::Follow(field.Unit->Caption, this, describe);
   grid_->addWidget(caption, row, CaptionColumn);
   grid_->addWidget(symbol, row, SymbolColumn);
   grid_->addWidget(box, row, BoxColumn);

@@ -32,9 +32,9 @@ inline int UnitsIn(const QString& text, int characters) {
   return static_cast<int>(units);
 }
 
-/// A caption or unit as it is printed: "m^3/s" with its exponent raised.
+/// A text with its units as they are printed: "m^3/s" with its exponent raised.
 inline QString Printed(std::string_view text) {
   return ToQt(text)
-      .replace(QLatin1String("^2"), QStringLiteral("\u00B2"))
-      .replace(QLatin1String("^3"), QStringLiteral("\u00B3"));
+      .replace(QLatin1String("m^2"), QStringLiteral("m\u00B2"))
+      .replace(QLatin1String("m^3"), QStringLiteral("m\u00B3"));
 }

@@ -1,0 +1,30 @@
+// The texts that share the status line of the main window.
+#pragma once
+
+#include <array>
+#include <string>
+
+class StatusLine {
+ public:
+  /// In the order in which they are told: the first that there is, the others behind it.
+  enum Part { FileError, NoResult, Moved, UnitRead, Done, Verdict };
+
+  void Tell(Part part, std::string text) { texts_.at(part) = std::move(text); }
+
+  /// An input has changed: what was told of the moment before is over.
+  void Edited() {
+    for (const Part part : {FileError, Moved, UnitRead, Done}) texts_.at(part).clear();
+  }
+
+  std::string Text() const {
+    std::string line;
+    for (const std::string& text : texts_) {
+      if (!line.empty() && !text.empty()) line += ". ";
+      line += text;
+    }
+    return line;
+  }
+
+ private:
+  std::array<std::string, Verdict + 1> texts_;
+};
