@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 
 #include "desktop/Dialogs.h"
@@ -64,6 +65,23 @@ TEST(DesktopServices, TheClipboardEndsEveryLineAsSpreadsheetsDo) {
   EXPECT_EQ(clipboard.Text(), "0\t10\r\n5\t8\r\n9\t7\r\n");
   clipboard.SetText("0\t10\r5\t8\r\n9\t7");
   EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("0\t10\r\n5\t8\r\n9\t7"));
+}
+
+TEST(Progress, OfACommandThatIsFeltIsShownAndCanBeCancelled) {
+  QtProgress progress;
+  constexpr int steps = 100;
+  bool pressed = false;
+  int done = 1;
+  for (; done < steps && progress.Show("Computing", done, steps); ++done) {
+    QTest::qSleep(4);
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || !dialog->isVisible()) continue;
+    pressed = true;
+    QTest::mouseClick(dialog->findChild<QPushButton*>(), Qt::LeftButton);
+  }
+  EXPECT_TRUE(pressed);
+  EXPECT_LT(done, steps);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 }  // namespace

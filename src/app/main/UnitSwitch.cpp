@@ -38,6 +38,7 @@ EngineValue Rewritten::Text() const {
 
 void UnitSwitch::KeepAscending(std::vector<Rewritten>& stations) {
   std::vector<int> least;
+  least.reserve(stations.size());
   for (const Rewritten& station : stations) least.push_back(station.Decimals);
   for (std::size_t i = 1; i < stations.size();) {
     Rewritten& before = stations[i - 1];

@@ -120,7 +120,8 @@ bool QtProgress::Show(const std::string& text, int done, int total) {
     dialog_ =
         std::make_unique<QProgressDialog>(ToQt(text), QProgressDialog::tr("Cancel"), 0, total, FrontWindow());
     dialog_->setWindowModality(Qt::WindowModal);
-    dialog_->setMinimumDuration(500);
+    dialog_->setMinimumDuration(200);  // ms: what takes longer is felt, and can be cancelled
+    dialog_->setValue(0);              // starts its clock
   }
   dialog_->setValue(done);
   const bool goesOn = !dialog_->wasCanceled();
