@@ -2,11 +2,11 @@
 #include "console/Conversation.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 
 #include "app/Version.h"
+#include "support/LocaleTest.h"
 #include "support/TestFolder.h"
 
 namespace {
@@ -23,29 +23,6 @@ class WorkingFolder {
   std::filesystem::path before_ = std::filesystem::current_path();
   TestFolder folder_;
 };
-
-bool IsDigit(char c) {
-  return std::isdigit(static_cast<unsigned char>(c)) != 0;
-}
-
-/// With the signs of the locale for "." and "," that stand beside a digit, and for a "." that is quoted;
-/// lists of fixed texts keep theirs.
-std::string Respelled(const NumberLocale& locale, const std::string& text) {
-  std::string respelled;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char before = i > 0 ? text[i - 1] : ' ';
-    const char after = i + 1 < text.size() ? text[i + 1] : ' ';
-    const bool inNumber = IsDigit(before) || IsDigit(after);
-    if (text[i] == '.' && (inNumber || (before == '\'' && after == '\''))) {
-      respelled += locale.DecimalSign;
-    } else if (text[i] == ',' && inNumber && after != ' ') {
-      respelled += locale.GroupSeparator;
-    } else {
-      respelled += text[i];
-    }
-  }
-  return respelled;
-}
 
 /// With the version of the program in place of "{version}".
 std::string WithVersion(std::string text) {
