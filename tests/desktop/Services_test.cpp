@@ -13,6 +13,7 @@
 
 #include "desktop/Dialogs.h"
 #include "desktop/shell/QtServices.h"
+#include "support/TestFolder.h"
 
 namespace {
 
@@ -57,6 +58,40 @@ TEST(DesktopServices, AFileDialogStartsWhereItCanAndAddsTheSuffixOfTheKindChosen
     });
     EXPECT_EQ(dialogs.Choose(request), request.Folder + "/no such curve" + suffix);
   }
+}
+
+TEST(DesktopServices, AFileDialogTakesDoubleQuotesAsTheyAreTyped) {
+  const TestFolder folder;
+  QtFileDialog dialogs;
+  FileDialogRequest request{true, "Save As", folder.Path(),
+                            "Flumewise Data (*.fwd)|*.fwd|All Files (*.*)|*.*", ""};
+  // Types the name and Return; where a box opens, `answer` is the key for it. It gives up what stays open.
+  const auto type = [](const char* name, std::optional<Qt::Key> answer = {}) {
+    WhenOpen<QFileDialog>([name, answer](QFileDialog& dialog) {
+      if (answer) {
+        WhenOpen<QMessageBox>([name, answer](QMessageBox& box) {
+          EXPECT_TRUE(box.text().startsWith(QLatin1String(name))) << box.text().toStdString();
+          QTest::keyClick(&box, *answer);
+        });
+      }
+      QTest::keyClicks(dialog.focusWidget(), QLatin1String(name));
+      QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+      if (dialog.isVisible()) dialog.reject();
+    });
+  };
+  const std::string path = (folder.Path() / "18\" pipe.fwd").string();
+  type("18\" pipe");
+  EXPECT_EQ(dialogs.Choose(request), path);
+  std::ofstream(path) << "old";
+  type("18\" pipe.fwd", Qt::Key_N);
+  EXPECT_EQ(dialogs.Choose(request), std::nullopt);
+  type("18\" pipe.fwd", Qt::Key_Y);
+  EXPECT_EQ(dialogs.Choose(request), path);
+  request.Saving = false;
+  type("18\" pipe.fwd");
+  EXPECT_EQ(dialogs.Choose(request), path);
+  type("\"18\" \"pipe\"", Qt::Key_Escape);
+  EXPECT_EQ(dialogs.Choose(request), std::nullopt);
 }
 
 TEST(DesktopServices, TheClipboardEndsEveryLineAsSpreadsheetsDo) {

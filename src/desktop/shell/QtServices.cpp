@@ -4,13 +4,13 @@
 #include <QClipboard>
 #include <QDate>
 #include <QDir>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QMessageBox>
 
 #include "desktop/kit/FrontWindow.h"
 #include "desktop/kit/Text.h"
+#include "desktop/shell/ExactNameDialog.h"
 
 namespace {
 
@@ -88,8 +88,8 @@ QString SuffixOf(const QString& nameFilter) {
 
 std::optional<std::string> QtFileDialog::Choose(const FileDialogRequest& request) {
   const QString folder = ToQt(request.Folder);
-  QFileDialog dialog(FrontWindow(), ToQt(request.Title),
-                     !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath());
+  ExactNameDialog dialog(FrontWindow(), ToQt(request.Title),
+                         !folder.isEmpty() && QDir(folder).exists() ? folder : QDir::homePath());
   dialog.setWindowModality(Qt::WindowModal);
   dialog.setNameFilters(NameFilters(request.Filter));
   dialog.setAcceptMode(request.Saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -103,8 +103,8 @@ std::optional<std::string> QtFileDialog::Choose(const FileDialogRequest& request
     setSuffix(dialog.nameFilters().first());
   }
   if (!request.FileName.empty()) dialog.selectFile(ToQt(request.FileName));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FromQt(dialog.selectedFiles().first());
+  if (dialog.exec() != QDialog::Accepted || dialog.Path().isEmpty()) return std::nullopt;
+  return FromQt(dialog.Path());
 }
 
 std::string QtClock::ShortDate() {
