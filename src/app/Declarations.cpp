@@ -11,6 +11,7 @@ void Reset() {
   DataChanged = false;
   FilePath = FileTitle = Untitled;
   UserPath.clear();
+  Done.clear();
   SigDigs = EngDigs = 3;
 }
 

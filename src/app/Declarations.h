@@ -37,6 +37,9 @@ inline std::string FilePath;   ///< full path of the project file; "Untitled" wi
 inline std::string FileTitle;  ///< its name without the folder; "Untitled" without one
 inline std::string UserPath;   ///< folder, with its last separator, in which the file dialogs start
 
+/// What was last written, in words ("Saved canal.fwd"); empty after the next change.
+inline std::string Done;
+
 inline int SigDigs = 3;  ///< significant digits of computed results, 1 to 5
 inline int EngDigs =
     3;  ///< decimals of depths and water-surface elevations, 1 to 4 (5 is a stored value only)

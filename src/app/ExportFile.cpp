@@ -35,9 +35,10 @@ void ExportFile(const ExportKind& kind,
     const std::string bytes = content(ExtensionOf(*path));
     if (bytes.empty()) throw std::runtime_error("no file of this kind can be made");
     WholeFile::Write(*path, bytes);
+    Declarations::Done = "Exported " + fs::path(*path).filename().string();
   } catch (const std::exception& failure) {
-    services.messageBox.Show("Cannot write " + *path + ": " + failure.what(), Declarations::AppTitle,
-                             BoxIcon::Exclamation, BoxButtons::Ok);
+    services.messageBox.Show("Cannot write " + *path + ": " + WholeFile::ReasonOf(failure),
+                             Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);
   }
 }
 

@@ -44,16 +44,23 @@ OpenFile OpenLock(const fs::path& path) {
 
 }  // namespace
 
-KeptCopy::KeptCopy(fs::path path, std::string origin) : path_(std::move(path)), origin_(std::move(origin)) {}
+KeptCopy::KeptCopy(fs::path path) : path_(std::move(path)) {}
 
-KeptCopy::KeptCopy(const std::string& origin) : KeptCopy(NewPath(), origin) {
+KeptCopy::KeptCopy(std::string origin, std::string_view bytes) : KeptCopy(NewPath()) {
+  origin_ = std::move(origin);
   lock_.emplace(OpenLock(path_));
-  lock_->Lock(LockOf(path_));
-  lock_->Write(origin_);
+  try {
+    lock_->Lock(LockOf(path_));
+    lock_->Write(origin_);
+    Write(bytes);
+  } catch (const std::exception&) {
+    Remove();
+    throw;
+  }
 }
 
 std::optional<KeptCopy> KeptCopy::TakeOver(const fs::path& path) {
-  KeptCopy copy(path, "");
+  KeptCopy copy(path);
   try {
     copy.lock_.emplace(OpenLock(path));
     if (!copy.lock_->Lock(LockOf(path))) return std::nullopt;
@@ -62,9 +69,13 @@ std::optional<KeptCopy> KeptCopy::TakeOver(const fs::path& path) {
   } catch (const std::system_error&) {
     // A lock that cannot be opened is held by nobody.
   }
-  std::error_code error;
-  if (!fs::exists(path, error) && !error) return std::nullopt;
+  if (!copy.Exists()) return std::nullopt;
   return copy;
+}
+
+bool KeptCopy::Exists() const {
+  std::error_code error;
+  return fs::status(path_, error).type() != fs::file_type::not_found;
 }
 
 std::vector<fs::path> KeptCopy::All() {

@@ -12,9 +12,9 @@
 
 class KeptCopy {
  public:
-  /// A new copy, still without content, of what belongs in the file `origin` (empty: in none yet). It stays
-  /// on the disk, unlocked, when this object goes. std::runtime_error where the folder cannot be written.
-  explicit KeptCopy(const std::string& origin);
+  /// A new copy of what belongs in the file `origin` (empty: in none yet). It stays on the disk, unlocked,
+  /// when this object goes. std::runtime_error when it cannot be written; then nothing is left.
+  KeptCopy(std::string origin, std::string_view bytes);
   KeptCopy(KeptCopy&&) = default;
   KeptCopy& operator=(KeptCopy&&) = delete;
   KeptCopy(const KeptCopy&) = delete;
@@ -28,18 +28,18 @@ class KeptCopy {
   static std::vector<std::filesystem::path> All();
 
   const std::filesystem::path& Path() const { return path_; }
+  bool Exists() const;
   const std::string& Origin() const { return origin_; }
 
   /// Writes the content, over what it held, whole or not at all: then std::runtime_error.
   void Write(std::string_view bytes) const;
 
-  // The end of this copy.
   void Remove();
   /// Gives it a name under which it is no copy any more, and returns that.
   std::filesystem::path SetAside();
 
  private:
-  KeptCopy(std::filesystem::path path, std::string origin);
+  explicit KeptCopy(std::filesystem::path path);
 
   std::filesystem::path path_;
   std::string origin_;

@@ -35,8 +35,7 @@ void RequireWritable(const fs::path& file) {
 void WriteInPlace(const fs::path& file, std::string_view bytes) {
   const OpenFile target(file, O_RDWR);
   if (!target.Lock(file)) throw std::runtime_error("another program is saving the file");
-  KeptCopy copy(fs::absolute(file).string());
-  copy.Write(bytes);
+  KeptCopy copy(fs::absolute(file).string(), bytes);
   const std::string before = target.Read();
   try {
     target.Write(bytes);

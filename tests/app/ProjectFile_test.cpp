@@ -63,6 +63,10 @@ std::string Replaced(std::string text, const std::string& part, const std::strin
   return text.replace(at, part.size(), with);
 }
 
+std::string WithChecksum(const std::string& records) {
+  return records + PlainNumber(ProjectItems::Checksum(ProjectItems::Split(records)));
+}
+
 bool Opens(const std::string& bytes) {
   try {
     ProjectFile::Parse(bytes);
@@ -119,13 +123,10 @@ TEST_F(ProjectFileTest, IsRefusedWhenBroken) {
       {"4\r\n2\r\n2", {"4.0\r\n2\r\n2", "4\r\n\"2\"\r\n2"}},
       {"4\r\n2\r\n2", {"4\r\n2\r\n\"2\"", "4\r\n2\r\n3", "4\r\n2\r\n-1", "4\r\n2\r\n99999999999"}},
       {",\"\"\r\n", {"\r\n"}}};
-  const auto withChecksum = [](const std::string& records) {
-    return records + PlainNumber(ProjectItems::Checksum(ProjectItems::Split(records)));
-  };
-  EXPECT_TRUE(Opens(withChecksum(SampleRecords("1.25"))));
+  EXPECT_TRUE(Opens(WithChecksum(SampleRecords("1.25"))));
   for (const auto& [part, allBroken] : cases) {
     for (const char* const broken : allBroken)
-      EXPECT_FALSE(Opens(withChecksum(Replaced(SampleRecords("1.25"), part, broken)))) << broken;
+      EXPECT_FALSE(Opens(WithChecksum(Replaced(SampleRecords("1.25"), part, broken)))) << broken;
   }
 }
 
@@ -167,10 +168,12 @@ TEST_F(ProjectFileTest, HoldsNoMoreThanItsLimits) {
 }
 
 TEST_F(ProjectFileTest, ReadsOtherDigitsThanOneToFiveAsTheirDefault) {
-  for (const auto& [digits, sigDigs, engDigs] :
-       {std::tuple("1\r\n5\r\n2", 1, 5), {"5\r\n1\r\n2", 5, 1}, {"0\r\n6\r\n2", 3, 3}}) {
+  for (const auto& [digits, sigDigs, engDigs] : {std::tuple("1\r\n5\r\n2", 1, 5),
+                                                 {"5\r\n1\r\n2", 5, 1},
+                                                 {"0\r\n6\r\n2", 3, 3},
+                                                 {"-99999999999\r\n184467440737095516160\r\n2", 3, 3}}) {
     const Project read =
-        ProjectFile::Parse(Replaced(SampleRecords("1.25"), "4\r\n2\r\n2", digits) + "184.046875\r\n");
+        ProjectFile::Parse(WithChecksum(Replaced(SampleRecords("1.25"), "4\r\n2\r\n2", digits)));
     EXPECT_EQ(read.SigDigs, sigDigs);
     EXPECT_EQ(read.EngDigs, engDigs);
   }

@@ -66,11 +66,14 @@ void frmMain::JoinInputs() {
       if (!box.Locked) Input_Validate();
     };
   }
-  tbProjName.Change = [] { Declarations::DataChanged = true; };
+  tbProjName.Change = [this] {
+    Declarations::DataChanged = true;
+    ForgetNews();
+  };
   for (Control* const control : Controls()) {
     auto* const box = dynamic_cast<TextBox*>(control);
     if (box != nullptr)
-      box->TooLong = [this] { lblStatus.Caption = "The text on the clipboard is too long for a box"; };
+      box->TooLong = [this] { TellFailure("The text on the clipboard is too long for a box"); };
   }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <exception>
 #include <functional>
 #include <map>
 #include <optional>
@@ -55,7 +56,7 @@ class frmMain : public Form {
   enum class Progress { Missing, Wrong, Solved };
   Progress CurrentProgress() const;
 
-  /// Why there is no result, in words; else what was solved.
+  /// What went wrong with a file, why there is no result, what was written, what was solved.
   Label lblStatus{this, "lblStatus"};
 
   MenuItem mnuFileNew{this, "mnuFileNew"}, mnuFileOpen{this, "mnuFileOpen"}, mnuFileSave{this, "mnuFileSave"},
@@ -122,9 +123,12 @@ class frmMain : public Form {
   void OpenProject(const std::string& path);
   /// Likewise, when the project before may be let go: a file dropped on the window.
   void OpenInstead(const std::string& path);
-  /// Takes up a kept copy of unsaved work, which still has no file of its own.
-  void RecoverProject(const std::string& path);
+  /// Takes up unsaved work that was kept. Its first save offers the file `origin` (empty: none) that it came
+  /// from.
+  void RecoverProject(const ProjectFile::Project& project, const std::string& origin);
   ProjectFile::Project CurrentProject() const;
+  /// The file that the project was opened from, saved in or recovered for; empty without one.
+  std::string FileOfWork() const;
   /// What would be lost by a power cut now: the project with the points of an open editor; nothing when all
   /// is in its file.
   std::optional<ProjectFile::Project> UnsavedProject() const;
@@ -176,6 +180,7 @@ class frmMain : public Form {
   void Input_Validate();
   bool SaveProject();
   bool WriteProject();
+  void Fill(ProjectFile::Project project);
   void ShowProject();
   void ShowTitle();
   void SelectChannelType(const ChannelType& type);
@@ -196,6 +201,14 @@ class frmMain : public Form {
 
   /// Computes and shows the results, or tells why there are none.
   std::string Solve();
+  /// Puts the status line together, the most urgent part first.
+  void ShowStatus();
+  /// The project changes: what went wrong with a file, or was written, is news no more.
+  void ForgetNews();
+  void TellFailure(const std::string& failure);
+  /// Says in a box that something failed, and in the status line with which file and why.
+  void FileFailed(const char* text, const std::string& what, const std::exception& failure);
+
   /// Marks the boxes that cannot be used and returns the reason of the first; empty when all can.
   std::string MarkOffences();
   /// What is wrong with an input; empty when nothing is or nobody asks for it.
@@ -211,6 +224,7 @@ class frmMain : public Form {
   StatusLine status_;
   std::map<const TextBox*, std::string> typed_;  // in boxes that became results; none once an input changes
   PointTable typedWith_;                         // the points at that time
+  std::string recoveredFrom_;                    // the file of recovered work until it is saved
   std::string fileBytes_;                        // of the project's file when it was opened or last saved
   bool solved_ = false;
   bool loading_ = false;  // boxes are being filled: their Change events neither compute nor clear

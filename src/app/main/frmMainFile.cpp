@@ -14,21 +14,25 @@ namespace {
 
 constexpr const char* Filter = "Flumewise Data (*.fwd)|*.fwd|All Files (*.*)|*.*";
 
-void Complain(const char* text) {
-  TheServices().messageBox.Show(text, Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);
-}
-
 /// The text of a project that belongs in the box of a field; null for a result.
 std::string* ItemOf(ProjectFile::Project& project, const Field& field) {
   return field.FileItem < 0 ? nullptr : &project.Inputs.at(static_cast<std::size_t>(field.FileItem));
 }
 
+std::string NameOf(const std::string& path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
+/// With its last separator.
+std::string FolderOf(const std::string& path) {
+  return path.substr(0, path.rfind('/') + 1);
+}
+
 /// The project's file from now on; the dialogs start in its folder.
 void TakePath(const std::string& path) {
-  const std::size_t name = path.rfind('/') + 1;
   Declarations::FilePath = path;
-  Declarations::FileTitle = path.substr(name);
-  Declarations::UserPath = path.substr(0, name);
+  Declarations::FileTitle = NameOf(path);
+  Declarations::UserPath = FolderOf(path);
 }
 
 }  // namespace
@@ -63,17 +67,27 @@ bool frmMain::FileSave() {
 bool frmMain::WriteProject() {
   try {
     fileBytes_ = ProjectFile::Write(Declarations::FilePath, CurrentProject());
-  } catch (const std::exception&) {
-    Complain("File not saved; data corrupted.");
+  } catch (const std::exception& failure) {
+    FileFailed("File not saved; data corrupted.", "Cannot save " + Declarations::FileTitle, failure);
     return false;
   }
+  recoveredFrom_.clear();
   Declarations::DataChanged = false;
+  Declarations::Done = "Saved " + Declarations::FileTitle;
+  TellFailure("");
   return true;
 }
 
+void frmMain::FileFailed(const char* text, const std::string& what, const std::exception& failure) {
+  TellFailure(what + ": " + WholeFile::ReasonOf(failure));
+  TheServices().messageBox.Show(text, Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);
+}
+
 bool frmMain::SaveAsDialog() {
+  const bool recovered = !recoveredFrom_.empty();
   const auto path = TheServices().fileDialog.Choose(
-      {true, "File SaveAs", Declarations::UserPath, Filter, Declarations::FileTitle});
+      {true, "File SaveAs", recovered ? FolderOf(recoveredFrom_) : Declarations::UserPath, Filter,
+       recovered ? NameOf(recoveredFrom_) : Declarations::FileTitle});
   if (!path) return false;
   const std::string before[] = {Declarations::FilePath, Declarations::FileTitle, Declarations::UserPath};
   TakePath(*path);
@@ -120,11 +134,18 @@ bool frmMain::FileOpen(const std::string& path) {
   try {
     bytes = WholeFile::Read(path);
     project = ProjectFile::Parse(bytes);
-  } catch (const std::exception&) {
-    Complain("Cannot open entire file.");
+  } catch (const std::exception& failure) {
+    FileFailed("Cannot open entire file.", "Cannot open " + NameOf(path), failure);
     return false;
   }
   fileBytes_ = std::move(bytes);
+  Fill(std::move(project));
+  return true;
+}
+
+void frmMain::Fill(ProjectFile::Project project) {
+  recoveredFrom_.clear();
+  ForgetNews();
   const Loading loading(loading_);
   typed_.clear();
   ChannelRecord& record = ChannelState;
@@ -145,7 +166,6 @@ bool frmMain::FileOpen(const std::string& path) {
     point[3] = roughness;
   }
   Declarations::DataChanged = false;
-  return true;
 }
 
 void frmMain::OpenProject(const std::string& path) {
@@ -154,11 +174,16 @@ void frmMain::OpenProject(const std::string& path) {
   ShowProject();
 }
 
-void frmMain::RecoverProject(const std::string& path) {
-  if (!FileOpen(path)) return;
+void frmMain::RecoverProject(const ProjectFile::Project& project, const std::string& origin) {
+  Fill(project);
+  recoveredFrom_ = origin;
   Declarations::FilePath = Declarations::FileTitle = Declarations::Untitled;
   ShowProject();
   Declarations::DataChanged = true;
+}
+
+std::string frmMain::FileOfWork() const {
+  return Declarations::FilePath == Declarations::Untitled ? recoveredFrom_ : Declarations::FilePath;
 }
 
 void frmMain::ShowProject() {

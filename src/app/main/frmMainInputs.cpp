@@ -11,7 +11,7 @@
 void frmMain::Input_Change() {
   Declarations::DataChanged = true;
   if (loading_) return;
-  status_.Edited();
+  ForgetNews();
   typed_.clear();
   CheckInputs();
 }
@@ -59,6 +59,8 @@ void frmMain::WriteHiddenZeros() {
 
 void frmMain::ResetForm() {
   Declarations::FileTitle = Declarations::FilePath = Declarations::Untitled;
+  recoveredFrom_.clear();
+  ForgetNews();
   ShowTitle();
   typed_.clear();
   {

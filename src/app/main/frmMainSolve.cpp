@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "app/Declarations.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
@@ -46,7 +47,23 @@ void frmMain::CheckInputs() {
   }
   status_.Tell(StatusLine::NoResult, whyNone);
   status_.Tell(StatusLine::Verdict, verdict);
+  ShowStatus();
+}
+
+void frmMain::ShowStatus() {
+  status_.Tell(StatusLine::Done, Declarations::Done);
   lblStatus.Caption = status_.Text();
+}
+
+void frmMain::TellFailure(const std::string& failure) {
+  status_.Tell(StatusLine::FileError, failure);
+  ShowStatus();
+}
+
+void frmMain::ForgetNews() {
+  status_.Edited();
+  Declarations::Done.clear();
+  ShowStatus();
 }
 
 std::string frmMain::Solve() {

@@ -42,7 +42,6 @@ void frmMain::SelectUnits(int units) {
   MarkProjectChanged();
   const int before = std::exchange(ChannelState.UnitsEorM, units);
   SetUnitsEorM();
-  status_.Edited();
   typed_.clear();
   ConvertInput(before);
   ForgetEdits();

@@ -80,6 +80,7 @@ void frmMain::TurnIntoResult(const TextBox& input, TextBox& result) {
 }
 
 void frmMain::MarkProjectChanged() {
+  ForgetNews();
   if (Declarations::FileTitle != Declarations::Untitled) Declarations::DataChanged = true;
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <limits>
 #include <set>
 #include <span>
 #include <stdexcept>
@@ -85,17 +86,21 @@ bool IsNumber(const Item& item) {
   return !item.Quoted && FileNumber::IsNumeric(item.Text);
 }
 
+/// A whole number; one that no int holds is the greatest or least.
 int WholeNumber(const Item& item) {
+  using Limits = std::numeric_limits<int>;
   int number = 0;
   const char* const end = item.Text.data() + item.Text.size();
   const auto read = std::from_chars(item.Text.data(), end, number);
-  if (item.Quoted || read.ec != std::errc{} || read.ptr != end) throw std::runtime_error("no whole number");
+  if (item.Quoted || read.ec == std::errc::invalid_argument || read.ptr != end)
+    throw std::runtime_error("an item that must be a whole number is none");
+  if (read.ec != std::errc{}) return item.Text.starts_with('-') ? Limits::min() : Limits::max();
   return number;
 }
 
 int WholeNumber(const Item& item, int least, int most) {
   const int number = WholeNumber(item);
-  if (number < least || number > most) throw std::runtime_error("a number out of its range");
+  if (number < least || number > most) throw std::runtime_error("an item is out of its range");
   return number;
 }
 
@@ -105,13 +110,14 @@ int Digits(const Item& item) {
 }
 
 bool Boolean(const Item& item) {
-  if (item.Quoted || (item.Text != True && item.Text != False)) throw std::runtime_error("no boolean");
+  if (item.Quoted || (item.Text != True && item.Text != False))
+    throw std::runtime_error("the mode is neither #TRUE# nor #FALSE#");
   return item.Text == True;
 }
 
 std::string KnownType(const Item& item) {
   if (std::ranges::find(ChannelTypes::All, std::string_view(item.Text)) == ChannelTypes::All.end())
-    throw std::runtime_error("an unknown channel type");
+    throw std::runtime_error("its channel type is unknown");
   return item.Text;
 }
 
@@ -139,7 +145,7 @@ class ItemList {
     if (items_.size() < FirstPoint) throw std::runtime_error("items are missing");
     const std::span summed(items_.data(), items_.size() - 1);
     if (!IsNumber(items_.back()) || Val(items_.back().Text) != ProjectItems::Checksum(summed))
-      throw std::runtime_error("a wrong checksum");
+      throw std::runtime_error("the checksum does not match: the file was cut off or changed");
     pointCount_ = static_cast<size_t>(WholeNumber(At(PointCountItem), 0, MaxPoints));
     const size_t known = PointCountItem + 3 * pointCount_;
     if (summed.size() < known) throw std::runtime_error("points are missing");
@@ -190,7 +196,7 @@ std::string Format(const Project& project) {
 }
 
 Project Parse(std::string_view bytes) {
-  if (bytes.size() > WholeFile::MaxSize) throw std::runtime_error("too large for a project");
+  if (bytes.size() > WholeFile::MaxSize) throw std::runtime_error("it is too large for a project");
   const ItemList items(bytes);
   Project project;
   for (size_t i = 0; i < project.Inputs.size(); ++i) project.Inputs[i] = items.Typed(FirstInput + i);

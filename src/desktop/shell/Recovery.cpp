@@ -1,34 +1,21 @@
 // See Recovery.h.
 #include "desktop/shell/Recovery.h"
 
-#include <QDir>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QStandardPaths>
-#include <QUuid>
 #include <exception>
 
 #include "app/Declarations.h"
 #include "desktop/kit/FrontWindow.h"
 #include "desktop/kit/Text.h"
+#include "files/WholeFile.h"
 
 namespace {
 
-constexpr int PauseMilliseconds = 2000;
-
-QString Folder() {
-  QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/recovery";
-  QDir().mkpath(folder);
-  return folder;
-}
-
-QString LockOf(const QString& copy) {
-  return copy + ".lock";
-}
-
-/// True when the person wants the work back; false when it may go; nothing when undecided.
+/// True to open the copy, false to discard it; nothing when undecided.
 std::optional<bool> Ask(const QString& projectName, const QDateTime& time) {
   QMessageBox box(QMessageBox::Question, QString::fromLatin1(Declarations::AppTitle),
                   QStringLiteral("Flumewise ended without saving your work on %1.")
@@ -50,68 +37,95 @@ std::optional<bool> Ask(const QString& projectName, const QDateTime& time) {
   return std::nullopt;
 }
 
+/// Sets aside a copy that cannot be opened.
+void SetAside(KeptCopy& copy, const std::exception& failure) {
+  std::filesystem::path now = copy.Path();
+  try {
+    now = copy.SetAside();
+  } catch (const std::exception&) {
+    // It stays where it is and is told of again at the next start.
+  }
+  QMessageBox box(
+      QMessageBox::Warning, QString::fromLatin1(Declarations::AppTitle),
+      QStringLiteral("A recovery copy cannot be opened: %1.").arg(ToQt(WholeFile::ReasonOf(failure))),
+      QMessageBox::Ok, FrontWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowModality(Qt::WindowModal);
+  const QString origin =
+      copy.Origin().empty() ? QString() : QStringLiteral(" It belongs to %1.").arg(ToQt(copy.Origin()));
+  box.setInformativeText(QStringLiteral("It was kept as %1.").arg(ToQt(now.string())) + origin);
+  box.exec();
+}
+
 }  // namespace
 
-Recovery::Recovery(frmMain& main)
-    : main_(main),
-      folder_(Folder()),
-      copy_(folder_ + "/" + QUuid::createUuid().toString(QUuid::WithoutBraces) + ".fwd"),
-      lock_(LockOf(copy_)) {
+Recovery::Recovery(frmMain& main) : main_(main) {
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
-  timer_.start(PauseMilliseconds);
+  timer_.start(Milliseconds);
 }
 
 Recovery::~Recovery() {
-  DropCopy();
+  Drop();
 }
 
 void Recovery::Look() {
-  std::optional<ProjectFile::Project> now = main_.UnsavedProject();
-  if (!now) return DropCopy();
-  if (seen_ == now && kept_ != now) KeepCopy(*now);
-  seen_ = std::move(now);
+  std::optional<ProjectFile::Project> work = main_.UnsavedProject();
+  if (!work) return Drop();
+  if (kept_ != work || !copy_->Exists()) Keep(std::move(*work));
 }
 
-void Recovery::KeepCopy(const ProjectFile::Project& project) {
-  if (!lock_.isLocked() && !lock_.tryLock(0)) return;
+void Recovery::Leave() {
+  Look();
+  timer_.stop();
+  copy_.reset();
+}
+
+void Recovery::Keep(ProjectFile::Project work) {
+  const std::string origin = main_.FileOfWork();
+  const std::string bytes = ProjectFile::Format(work);
   try {
-    ProjectFile::Write(FromQt(copy_), project);
-    kept_ = project;
+    if (copy_ && copy_->Exists() && copy_->Origin() == origin) {
+      copy_->Write(bytes);
+    } else {
+      KeptCopy fresh(origin, bytes);
+      Drop();
+      copy_.emplace(std::move(fresh));
+    }
+    kept_ = std::move(work);
   } catch (const std::exception&) {
-    // A full disk, say: the copy before is still whole, and saving the project itself tells of it.
+    // A full disk, say: the copy before is still whole, and the next look tries again.
   }
 }
 
-void Recovery::DropCopy() {
-  if (!kept_) return;
-  QFile::remove(copy_);
-  lock_.unlock();
+void Recovery::Drop() {
+  if (copy_) copy_->Remove();
+  copy_.reset();
   kept_.reset();
-  seen_.reset();
 }
 
 void Recovery::OfferLeftCopies() {
-  for (const QFileInfo& copy : QDir(folder_).entryInfoList({"*.fwd"}, QDir::Files, QDir::Time)) {
-    if (Offer(copy.filePath())) return;
+  for (const std::filesystem::path& path : KeptCopy::All()) {
+    if (Offer(path)) return;
   }
 }
 
-bool Recovery::Offer(const QString& path) {
-  QLockFile lock(LockOf(path));
-  lock.setStaleLockTime(0);  // a lock goes with its program, however long that runs
-  if (path == copy_ || !lock.tryLock(0)) return false;
-  std::optional<bool> wanted;
+bool Recovery::Offer(const std::filesystem::path& path) {
+  std::optional<KeptCopy> left = KeptCopy::TakeOver(path);
+  if (!left) return false;
+  ProjectFile::Project project;
   try {
-    const ProjectFile::Project project = ProjectFile::Read(FromQt(path));
-    wanted = Ask(ToQt(project.ProjName), QFileInfo(path).lastModified());
-  } catch (const std::exception&) {
-    wanted = false;  // nothing in it that could be opened
+    project = ProjectFile::Read(path.string());
+  } catch (const std::exception& failure) {
+    SetAside(*left, failure);
+    return false;
   }
-  if (!wanted) return false;
-  if (*wanted) {
-    main_.RecoverProject(FromQt(path));
-    KeepCopy(main_.CurrentProject());
-  }
-  QFile::remove(path);
-  return *wanted;
+  const std::optional<bool> wanted =
+      Ask(ToQt(project.ProjName), QFileInfo(ToQt(path.string())).lastModified());
+  if (wanted == false) left->Remove();
+  if (wanted != true) return false;
+  Drop();
+  main_.RecoverProject(project, left->Origin());
+  copy_.emplace(std::move(*left));  // the work's copy from now on, so that there is one at every moment
+  kept_ = std::move(project);
+  return true;
 }

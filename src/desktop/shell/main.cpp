@@ -2,7 +2,6 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSessionManager>
 #include <QTimer>
 
 #include "app/Declarations.h"
@@ -14,6 +13,7 @@
 #include "desktop/shell/QtServices.h"
 #include "desktop/shell/QtWindowHost.h"
 #include "desktop/shell/Recovery.h"
+#include "desktop/shell/Session.h"
 #include "engine/NumberText.h"
 #include "program/Program.h"
 
@@ -40,14 +40,9 @@ int main(int argc, char* argv[]) {
   Program program({clipboard, messageBox, fileDialog, windows, printerDialog, clock, progress, helpViewer});
   program.Start();
   Recovery recovery(program.Main);
+  Session session(program.Main, recovery);
   QObject::connect(windows.WindowOf(program.Main), &QObject::destroyed, &application,
                    [] { QApplication::exit(); });
-  QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
-                   [&program](QSessionManager& session) {
-                     if (!session.allowsInteraction()) return;
-                     if (!program.Main.ChecknSave()) session.cancel();
-                     session.release();
-                   });
   // Once the window is there: both may have something to ask.
   QTimer::singleShot(0, &application, [&program, &recovery] {
     const QStringList arguments = QApplication::arguments();

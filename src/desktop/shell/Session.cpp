@@ -1,0 +1,34 @@
+// See Session.h.
+#include "desktop/shell/Session.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QSessionManager>
+
+#include "app/Declarations.h"
+#include "app/settings/InitialFile.h"
+
+Session::Session(frmMain& main, Recovery& recovery) : main_(main), recovery_(recovery) {
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+    if (!session.allowsInteraction()) return;
+    if (!MayEnd()) session.cancel();
+    session.release();
+  });
+  qApp->installEventFilter(this);
+}
+
+bool Session::MayEnd() {
+  if (!main_.ChecknSave()) return false;
+  givenUp_.reset();
+  if (Declarations::DataChanged) givenUp_ = main_.UnsavedProject();
+  return true;
+}
+
+bool Session::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != qApp || event->type() != QEvent::Quit) return false;
+  const auto work = main_.UnsavedProject();
+  if (work && work != givenUp_) recovery_.Leave();
+  InitialFile::SavePreferences();
+  QApplication::exit();
+  return true;
+}
