@@ -9,7 +9,8 @@ cd "$HOME"  # where it may leave files
 events=${2:-100}
 keys=(Tab Tab Tab shift+Tab Return Return Escape Escape Up Down Left Right Home End Page_Up Page_Down space
   BackSpace Delete F1 F2 ctrl+a ctrl+c ctrl+v ctrl+x ctrl+z ctrl+shift+z ctrl+n ctrl+s ctrl+o ctrl+p ctrl+l ctrl+w
-  shift+Down shift+Right alt+f alt+e alt+s alt+o alt+h alt+i alt+t alt+w alt+d alt+p alt+m alt+b
+  shift+Down shift+Right shift+Return ctrl+Return
+  ctrl+Next alt+f alt+e alt+s alt+o alt+h alt+i alt+t alt+w alt+d alt+p alt+m alt+b
   0 1 2 3 4 5 6 7 8 9 period comma minus c d g i m p r s t x n y)
 
 launched=0
