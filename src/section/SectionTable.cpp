@@ -3,8 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <span>
-#include <utility>
 
 namespace SectionTable {
 
@@ -30,26 +28,6 @@ class Series {
   std::size_t next_ = 0;
 };
 
-/// The points of a survey; a row that the table has not is empty like one that was never entered.
-class Survey {
- public:
-  Survey(const PointTable& points, int count) : points_(points), count_(static_cast<std::size_t>(count)) {}
-
-  std::size_t Count() const { return count_; }
-  Point At(std::size_t row) const {
-    if (row >= points_.size()) return {0, 0};
-    return {points_[row][1].Number(), points_[row][2].Number()};
-  }
-
- private:
-  const PointTable& points_;
-  std::size_t count_;
-};
-
-double Crossing(const Point& a, const Point& b, double W) {
-  return a.X + (W - a.Y) * (b.X - a.X) / (b.Y - a.Y);
-}
-
 }  // namespace
 
 Table Prismatic(double b, double zL, double zR, double y) {
@@ -58,10 +36,7 @@ Table Prismatic(double b, double zL, double zR, double y) {
   const double my = 0.01 * H;
   Table table;
   Series outline(table, OutlineX);
-  outline.Add(mx, H + my);
-  outline.Add(zL * H + mx, my);
-  outline.Add(zL * H + b + mx, my);
-  outline.Add(zL * H + b + zR * H + mx, H + my);
+  for (const Outline::Point& point : Outline::Prism(b, zL, zR, H)) outline.Add(point.X + mx, point.Y + my);
   Series water(table, WaterX);
   water.Add(zL * H - zL * y + mx, y + my);
   water.Add(zL * H + b + zR * y + mx, y + my);
@@ -84,21 +59,30 @@ Table Circular(double D, double y, double T) {
   return table;
 }
 
+Outline::Circle PipeWall(double D) {
+  Outline::Circle wall = Outline::Pipe(D);
+  wall.Centre.X += 0.01 * D;
+  wall.Centre.Y += 0.01 * D;
+  return wall;
+}
+
 Table Irregular(const PointTable& points, int count, double W) {
   Table table;
-  const Survey survey(points, count);
+  // Behind the last point lies a row that was never entered.
+  Outline::Line ground = Outline::Survey(points, std::min(count + 1, static_cast<int>(points.size()) - 1));
+  ground.resize(static_cast<std::size_t>(count) + 1);
   Series outline(table, OutlineX);
   Series water(table, WaterX);
-  for (std::size_t row = 1; row <= survey.Count(); ++row) {
-    const Point a = survey.At(row);
-    const Point b = survey.At(row + 1);
+  for (std::size_t i = 0; i + 1 < ground.size(); ++i) {
+    const Outline::Point& a = ground[i];
+    const Outline::Point& b = ground[i + 1];
     if (W > a.Y && W > b.Y) {
       water.Add(a.X, W);
     } else if (a.Y >= W && W > b.Y) {
       water.Break();
-      water.Add(Crossing(a, b, W), W);
+      water.Add(Outline::Crossing(a, b, W), W);
     } else if (a.Y < W && W <= b.Y) {
-      water.Add(Crossing(a, b, W), W);
+      water.Add(Outline::Crossing(a, b, W), W);
       water.Break();
     } else {
       water.Break();
@@ -108,41 +92,13 @@ Table Irregular(const PointTable& points, int count, double W) {
   return table;
 }
 
-std::vector<std::vector<Point>> Pools(std::span<const Point> ground, double W) {
-  std::vector<std::vector<Point>> pools;
-  std::vector<Point> pool;
-  for (std::size_t i = 0; i < ground.size(); ++i) {
-    const Point& point = ground[i];
-    const bool wet = point.Y < W;
-    if (wet && i == 0) pool.push_back({point.X, W});
-    if (i > 0 && wet != (ground[i - 1].Y < W)) pool.push_back({Crossing(ground[i - 1], point, W), W});
-    if (wet) pool.push_back(point);
-    if (!wet && !pool.empty()) pools.push_back(std::exchange(pool, {}));
-  }
-  if (!pool.empty()) {
-    pool.push_back({ground.back().X, W});
-    pools.push_back(pool);
-  }
-  return pools;
-}
-
-std::vector<std::vector<Point>> Pools(const Table& table) {
+std::vector<Outline::Line> Pools(const Table& table) {
   const auto surface = std::ranges::find_if(table, [](const auto& row) { return row[WaterY].has_value(); });
   if (surface == table.end()) return {};
-  std::vector<Point> ground;
+  Outline::Line ground;
   for (const auto& row : table)
     if (row[OutlineX]) ground.push_back({*row[OutlineX], *row[OutlineY]});
-  return Pools(ground, *(*surface)[WaterY]);
-}
-
-std::vector<Stretch> Stretches(const PointTable& points, int count) {
-  std::vector<Stretch> stretches;
-  for (const auto& point : std::span(points).subspan(1, static_cast<std::size_t>(count))) {
-    const double station = point[1].Number();
-    if (!stretches.empty()) stretches.back().To = station;
-    if (!point[3].IsEmptyText()) stretches.push_back({station, station, point[3].Text()});
-  }
-  return stretches;
+  return Outline::Pools(ground, *(*surface)[WaterY]);
 }
 
 }  // namespace SectionTable

@@ -1,13 +1,11 @@
-// The drawing of a cross-section as numbers: its ground or wall, and the water in it.
+// The drawing of a cross-section as the numbers of a chart: its ground or wall, and the water in it.
 #pragma once
 
 #include <array>
 #include <optional>
-#include <span>
-#include <string>
 #include <vector>
 
-#include "engine/ChannelState.h"
+#include "section/Outline.h"
 
 namespace SectionTable {
 
@@ -29,25 +27,10 @@ Table Circular(double D, double y, double T);
 /// Each pool is a line of its own; crossings of ground and water are interpolated.
 Table Irregular(const PointTable& points, int count, double W);
 
-struct Point {
-  double X, Y;
-};
+/// The wall that the chords of Circular stand for.
+Outline::Circle PipeWall(double D);
 
-/// The water up to the level W over a ground line, as areas to fill: of each pool the surface from its last
-/// point to its first, and the ground below. Water beyond the first or last point of the ground ends there.
-std::vector<std::vector<Point>> Pools(std::span<const Point> ground, double W);
-
-/// The water of a drawing over its outline.
-std::vector<std::vector<Point>> Pools(const Table& table);
-
-/// A stretch of a surveyed section with one Manning's n, as typed.
-struct Stretch {
-  double From, To;
-  std::string ManningN;
-  bool operator==(const Stretch&) const = default;
-};
-
-/// The stretches of rows 1 to count of the points, from the first that has an n.
-std::vector<Stretch> Stretches(const PointTable& points, int count);
+/// The water of a drawing over its outline, as areas to fill.
+std::vector<Outline::Line> Pools(const Table& table);
 
 }  // namespace SectionTable

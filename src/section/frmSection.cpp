@@ -9,14 +9,14 @@
 
 namespace {
 
-/// Inches in a foot, millimetres in a metre: diameters are typed in the smaller unit.
-double DiametersInLength() {
-  const int units = ChannelState.UnitsEorM;
-  return UnitFactor(units, Units::Length) / UnitFactor(units, Units::Diameter);
-}
-
 double NumberIn(const TextBox& box) {
   return LeadingNumber(box.Text.Get());
+}
+
+/// In the unit of the other lengths: it is typed in inches or millimetres.
+double Diameter(const frmMain& main) {
+  const int units = ChannelState.UnitsEorM;
+  return NumberIn(main.tbDiameter) / (UnitFactor(units, Units::Length) / UnitFactor(units, Units::Diameter));
 }
 
 }  // namespace
@@ -41,8 +41,7 @@ SectionTable::Table frmSection::Coordinates() const {
     case Shape::Survey:
       return SectionTable::Irregular(ChannelState.IrregPoints, ChannelState.IrregPointCount, depth);
     case Shape::Pipe:
-      return SectionTable::Circular(NumberIn(main_.tbDiameter) / DiametersInLength(), depth,
-                                    NumberIn(main_.tbTopW));
+      return SectionTable::Circular(Diameter(main_), depth, NumberIn(main_.tbTopW));
     case Shape::Prism:
       break;
   }
@@ -57,9 +56,14 @@ void frmSection::DrawChannel() {
   MSChart1.YTitle = (surveyed ? "Elevation, " : "Height, ") + unit;
   MSChart1.UniformAxis = CurrentChannelType().Is == Shape::Pipe;
   const SectionTable::Table table = Coordinates();
-  pools_ = SectionTable::Pools(table);
+  if (MSChart1.UniformAxis) {
+    drawing_.Pipe = SectionTable::PipeWall(Diameter(main_));
+    drawing_.Level = *table[0][SectionTable::WaterY];
+  } else {
+    drawing_.Pools = SectionTable::Pools(table);
+  }
   if (surveyed) {
-    stretches_ = SectionTable::Stretches(ChannelState.IrregPoints, ChannelState.IrregPointCount);
+    drawing_.Subsections = Outline::Subsections(ChannelState.IrregPoints, ChannelState.IrregPointCount);
   }
   std::vector<XYChart::Row> rows;
   for (const auto& row : table) rows.emplace_back(row.begin(), row.end());

@@ -1,11 +1,20 @@
 // The drawing of the current channel's cross-section with its water surface.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "app/main/frmMain.h"
 #include "platform/XYChart.h"
 #include "section/SectionTable.h"
+
+/// What a drawing shows besides the lines of its chart.
+struct SectionDrawing {
+  std::vector<Outline::Line> Pools;  ///< areas of water; of a pipe none, its wall holds the water
+  std::vector<Outline::Subsection> Subsections;
+  std::optional<Outline::Circle> Pipe;
+  double Level = 0;  ///< of the water in the pipe
+};
 
 class frmSection : public Form {
  public:
@@ -15,9 +24,7 @@ class frmSection : public Form {
   MenuItem mnuFileExport{this, "mnuFileExport"}, mnuFileExit{this, "mnuFileExit"};
   MenuItem mnuEditCopy{this, "mnuEditCopy"};
 
-  /// What the chart draws, as areas of water to fill and stretches of one n to tell apart.
-  const std::vector<std::vector<SectionTable::Point>>& Pools() const { return pools_; }
-  const std::vector<SectionTable::Stretch>& Stretches() const { return stretches_; }
+  const SectionDrawing& Drawing() const { return drawing_; }
 
   void mnuFileExport_Click();
   void mnuFileExit_Click();
@@ -31,6 +38,5 @@ class frmSection : public Form {
   SectionTable::Table Coordinates() const;
 
   const frmMain& main_;
-  std::vector<std::vector<SectionTable::Point>> pools_;
-  std::vector<SectionTable::Stretch> stretches_;
+  SectionDrawing drawing_;
 };

@@ -1,5 +1,8 @@
 // The drawing of a section: its water stands where the pools are, and what leaves the program is the same
 // drawing.
+#include <numbers>
+
+#include "app/Declarations.h"
 #include "desktop/Desk.h"
 #include "desktop/chart/ChartPlot.h"
 #include "desktop/chart/ChartWidget.h"
@@ -76,6 +79,22 @@ TEST_F(Section, APipeIsWetBelowItsWaterOnly) {
     const QColor water = Appearance::Water(chart_->palette());
     EXPECT_EQ(ColourAt(0.5, 0.8), water);
     EXPECT_NE(ColourAt(0.53, 1.53), water);
+  });
+}
+
+TEST_F(Section, APipeIsRoundAndItsWaterNoWider) {
+  Declarations::SigDigs = 1;  // the top width is told as 2 ft
+  EnterPipe("24", "1.3");
+  Declarations::SigDigs = 3;
+  Open([this] {
+    // Between two of the fifty points of the table the wall bulges by 0.002 of its radius.
+    const QPointF wall(1.02 + std::sin(std::numbers::pi / 50), 1.02 + std::cos(std::numbers::pi / 50));
+    chart_->Plot().Zoom(10, {Plot().xAxis->coordToPixel(wall.x()), Plot().yAxis->coordToPixel(wall.y())});
+    EXPECT_LT(qGray(ColourAt(wall.x(), wall.y()).rgb()), 100);
+    EXPECT_TRUE(drawn_->Rows()[50][0] && !drawn_->Rows()[51][0]) << "the table keeps its points";
+    const QList<QPointF> surface = Plot().Points().mid(51);
+    ASSERT_EQ(surface.size(), 2);
+    EXPECT_NEAR(surface[1].x() - surface[0].x(), 2 * 0.9539392014, 1e-9);
   });
 }
 

@@ -129,6 +129,28 @@ TEST_F(Windows, TheDrawingTellsMeasuresAsLongAsThereIsRoom) {
   SetNumberLocale({});
 }
 
+TEST_F(Windows, TheDrawingKeepsItsScaleUntilThePersonPauses) {
+  EnterTrapezoid();
+  auto* const drawing = [this] {
+    for (QWidget* const each : hands_.Window(main_).findChildren<QWidget*>())
+      if (auto* const shape = dynamic_cast<ShapeWidget*>(each)) return shape;
+    return static_cast<ShapeWidget*>(nullptr);
+  }();
+  const auto scale = [drawing] {
+    drawing->grab();
+    return drawing->Layout().Scale.value().Across;
+  };
+  hands_.Focus(main_.tbBaseWidth);
+  const double before = scale();
+  for (const char* const digit : {"2", "0", "."}) {
+    Keys(digit);
+    EXPECT_EQ(scale(), before) << digit;
+  }
+  hands_.Type(main_.tbBaseWidth, "2");
+  EXPECT_EQ(scale(), before);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return scale() > before; })) << "after a pause it fills its room again";
+}
+
 /// The letters behind "&" of the texts, joined; none may be there twice.
 QString UniqueLetters(const QStringList& texts) {
   QString letters;

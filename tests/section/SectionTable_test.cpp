@@ -103,10 +103,10 @@ TEST(SectionDrawing, AFullTableIsDrawnAndMoreWaterThanItHoldsIsNot) {
   EXPECT_EQ(Pools(table).size(), 50U);
 }
 
-double AreaOf(const std::vector<Point>& polygon) {
+double AreaOf(const Outline::Line& polygon) {
   double twice = 0;
-  const Point* before = &polygon.back();
-  for (const Point& point : polygon) {
+  const Outline::Point* before = &polygon.back();
+  for (const Outline::Point& point : polygon) {
     twice += before->X * point.Y - point.X * before->Y;
     before = &point;
   }
@@ -126,18 +126,27 @@ TEST(SectionDrawing, TheFilledPoolsHaveTheFlowArea) {
   const auto trapezoid = Pools(Prismatic(5, 1, 3, 10));
   ASSERT_EQ(trapezoid.size(), 1U);
   EXPECT_NEAR(AreaOf(trapezoid[0]), (5 + 45) / 2.0 * 10, 1e-9);
-  const auto pipe = Pools(Circular(2, 1, 2));
-  ASSERT_EQ(pipe.size(), 1U);
-  EXPECT_NEAR(AreaOf(pipe[0]), 3.14159265 / 2, 0.005) << "half a circle, less the segments off its chords";
 }
 
-TEST(SectionDrawing, StretchesBeginWhereAnNStands) {
+TEST(SectionDrawing, SubsectionsBeginWhereAnNStands) {
   PointTable points = Survey(TwoLows);
   points[1][3] = "0.03";
   points[3][3] = 0.05;
-  const std::vector<Stretch> expected = {{0, 20, "0.03"}, {20, 40, "0.05"}};
-  EXPECT_EQ(Stretches(points, 5), expected);
-  EXPECT_TRUE(Stretches(Survey(TwoLows), 5).empty());
+  points[4][3] = "0.03";
+  const std::vector<Outline::Subsection> expected = {
+      {0, 20, "0.03", 0}, {20, 30, "0.05", 1}, {30, 40, "0.03", 0}};
+  EXPECT_EQ(Outline::Subsections(points, 5), expected);
+  EXPECT_TRUE(Outline::Subsections(Survey(TwoLows), 5).empty());
+}
+
+TEST(SectionDrawing, ThePipesWaterMeetsItsWall) {
+  // 1.3 ft deep in a pipe of 2 ft: half of it is sqrt(1 - 0.3^2) = 0.9539392 wide.
+  const Outline::Line surface = Outline::Surface(PipeWall(2), 1.32);
+  ASSERT_EQ(surface.size(), 2U);
+  EXPECT_NEAR(surface[0].X, 1.02 - 0.9539392014, 1e-9);
+  EXPECT_NEAR(surface[1].X, 1.02 + 0.9539392014, 1e-9);
+  for (const double level : {0.0, 2.0, 2.5, -1.0})
+    EXPECT_TRUE(Outline::Surface(Outline::Pipe(2), level).empty());
 }
 
 }  // namespace

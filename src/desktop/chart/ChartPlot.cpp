@@ -71,8 +71,28 @@ ChartPlot::ChartPlot(const XYChart& chart, QWidget* parent) : QCustomPlot(parent
   Load();
 }
 
-QCPCurve* ChartPlot::AddCurve() {
-  auto* const curve = new QCPCurve(xAxis, yAxis);
+/// Its points are what is read off; its line is round however near one looks.
+class ChartPlot::CircleCurve : public QCPCurve {
+ public:
+  CircleCurve(QCPAxis* x, QCPAxis* y, const Circle& circle) : QCPCurve(x, y), circle_(circle) {}
+
+ protected:
+  void draw(QCPPainter* painter) override {
+    const QPointF corner(circle_.Radius, circle_.Radius);
+    const auto pixel = [this](const QPointF& at) { return coordsToPixels(at.x(), at.y()); };
+    applyDefaultAntialiasingHint(painter);
+    painter->setPen(pen());
+    painter->setBrush(Qt::NoBrush);
+    painter->drawEllipse(QRectF(pixel(circle_.Centre - corner), pixel(circle_.Centre + corner)).normalized());
+  }
+
+ private:
+  const Circle circle_;
+};
+
+template <class Curve, class... Shape>
+Curve* ChartPlot::AddCurve(Shape... shape) {
+  auto* const curve = new Curve(xAxis, yAxis, shape...);
   curve->setSelectable(QCP::stNone);
   return curve;
 }
@@ -106,7 +126,8 @@ ChartPlot::Breaking ChartPlot::PointsOf(int pair) const {
 }
 
 void ChartPlot::LoadLine(int pair) {
-  const Line line{AddCurve(), AddCurve()};
+  const auto circle = circles_.find(pair);
+  const Line line{circle == circles_.end() ? AddCurve() : AddCurve<CircleCurve>(circle->second), AddCurve()};
   line.Lonely->setLineStyle(QCPCurve::lsNone);
   if (pair < names_.size()) {
     line.Curve->setName(names_[pair]);
@@ -248,6 +269,10 @@ void ChartPlot::NameLines(const QStringList& names) {
 
 void ChartPlot::ReplaceLine(int pair, Breaking points) {
   replaced_[pair] = std::move(points);
+}
+
+void ChartPlot::DrawAsCircle(int pair, const QPointF& centre, double radius) {
+  circles_[pair] = {centre, radius};
 }
 
 void ChartPlot::ShowLegend(const QString& marked) {

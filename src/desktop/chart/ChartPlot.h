@@ -38,6 +38,8 @@ class ChartPlot : public QCustomPlot {
   using Breaking = std::vector<std::optional<QPointF>>;
   /// Draws these in the place of a line of the chart, by the number of its pair of columns.
   void ReplaceLine(int pair, Breaking points);
+  /// Draws a line of the chart as the circle of which it has points; they stay what is read off.
+  void DrawAsCircle(int pair, const QPointF& centre, double radius);
   /// Says in words, below the axes, what the marked stretches are.
   void ShowLegend(const QString& marked);
 
@@ -59,7 +61,13 @@ class ChartPlot : public QCustomPlot {
     QCPCurve* Curve;
     QCPCurve* Lonely;  ///< points without a neighbour, which no line would show
   };
-  QCPCurve* AddCurve();
+  struct Circle {
+    QPointF Centre;
+    double Radius;
+  };
+  class CircleCurve;
+  template <class Curve = QCPCurve, class... Shape>
+  Curve* AddCurve(Shape... shape);
   void LoadLine(int pair);
   void AddLegend();
   void LoadMarked();
@@ -76,6 +84,7 @@ class ChartPlot : public QCustomPlot {
   QList<QPointF> points_;
   QStringList names_;
   std::map<int, Breaking> replaced_;
+  std::map<int, Circle> circles_;
   bool whole_ = true;  // neither zoomed nor dragged
   double zoomed_ = 0;  // steps
 };

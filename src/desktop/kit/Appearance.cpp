@@ -78,7 +78,7 @@ QColor Earth(const QPalette& palette) {
                IsDark(palette) ? 0.22 : 0.16);
 }
 
-QColor Stretch(const QPalette& palette, int number) {
+QColor Subsection(const QPalette& palette, int number) {
   constexpr QRgb Tints[] = {0xC77D0A, 0x2E8B57, 0x8E5BB5, 0xC44E52, 0x5B7083, 0x9A8B12};
   constexpr int Count = static_cast<int>(std::size(Tints));
   return Mixed(palette.color(QPalette::Active, QPalette::Base), QColor(Tints[number % Count]),

@@ -40,7 +40,7 @@ QColor Faint(const QPalette& palette);
 QColor Water(const QPalette& palette);
 QColor WaterSurface(const QPalette& palette);
 QColor Earth(const QPalette& palette);
-/// Stretches of a section are told apart by these, from 0 on.
-QColor Stretch(const QPalette& palette, int number);
+/// Parts of a section with different Manning's n, numbered from 0.
+QColor Subsection(const QPalette& palette, int number);
 
 }  // namespace Appearance

@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int PauseInTyping = 700;  // milliseconds
+
 /// The number in a box that is shown; absent when there is none.
 std::optional<double> NumberIn(const TextBox& box) {
   if (!IsNumeric(box.Text.Get())) return std::nullopt;
@@ -33,35 +35,53 @@ ShapeLabel LabelOf(const frmMain& form, TextBox frmMain::*of) {
   return label;
 }
 
-std::vector<QPointF> Points() {
-  std::vector<QPointF> points;
-  for (std::size_t row = 1; row <= static_cast<std::size_t>(ChannelState.IrregPointCount); ++row) {
-    const auto& point = ChannelState.IrregPoints[row];
-    points.emplace_back(point[1].Number(), point[2].Number());
-  }
-  return points;
-}
-
 ShapeInputs InputsOf(const frmMain& form) {
-  const int units = ChannelState.UnitsEorM;
-  ShapeInputs inputs{ChannelState.ChannelType,
+  const ChannelRecord& record = ChannelState;
+  ShapeInputs inputs{record.ChannelType,
                      NumberIn(form.tbDepth),
                      NumberIn(form.tbBaseWidth),
                      NumberIn(form.tbSSL),
                      NumberIn(form.tbSSR),
                      NumberIn(form.tbDiameter),
-                     Points()};
+                     {},
+                     NumberIn(form.tbCritD),
+                     {}};
   if (inputs.Diameter)
-    *inputs.Diameter *= UnitFactor(units, Units::Diameter) / UnitFactor(units, Units::Length);
+    *inputs.Diameter *=
+        UnitFactor(record.UnitsEorM, Units::Diameter) / UnitFactor(record.UnitsEorM, Units::Length);
+  if (CurrentChannelType().IsSurveyed()) {
+    inputs.Ground = Outline::Survey(record.IrregPoints, record.IrregPointCount);
+    inputs.Parts = Outline::Subsections(record.IrregPoints, record.IrregPointCount);
+  }
   return inputs;
+}
+
+/// True when at most one dimension differs, as after a keystroke: results follow it.
+bool OneTyped(const ShapeInputs& before, const ShapeInputs& now) {
+  const int differ = (before.BaseWidth != now.BaseWidth) + (before.LeftSlope != now.LeftSlope) +
+                     (before.RightSlope != now.RightSlope) + (before.Diameter != now.Diameter);
+  return differ <= 1 && before.Type == now.Type && before.Ground == now.Ground;
 }
 
 ShapeLabels LabelsOf(const frmMain& form) {
   ShapeLabels labels{LabelOf(form, &frmMain::tbDepth),    LabelOf(form, &frmMain::tbBaseWidth),
                      LabelOf(form, &frmMain::tbSSL),      LabelOf(form, &frmMain::tbSSR),
-                     LabelOf(form, &frmMain::tbDiameter), LabelOf(form, &frmMain::tbMann)};
+                     LabelOf(form, &frmMain::tbDiameter), LabelOf(form, &frmMain::tbMann),
+                     LabelOf(form, &frmMain::tbCritD)};
   if (CurrentChannelType().IsSurveyed()) labels.Roughness.Symbol = QStringLiteral("n");
   return labels;
+}
+
+/// The colour where the shading is black, less of it where that fades.
+QBrush Tinted(QLinearGradient shading, const QColor& colour) {
+  QGradientStops stops = shading.stops();
+  for (QGradientStop& stop : stops) {
+    const float opacity = stop.second.alphaF();
+    stop.second = colour;
+    stop.second.setAlphaF(opacity);
+  }
+  shading.setStops(stops);
+  return shading;
 }
 
 void DrawArrow(QPainter& painter, const QLineF& line, double em) {
@@ -83,26 +103,6 @@ void DrawLabel(QPainter& painter, const ShapeLabel& label) {
   painter.drawText(from + QPointF(SymbolWidth(label.Symbol, painter.font()), 0), label.Value);
 }
 
-/// A line of many sides, in parts: the painter takes them sooner than the whole.
-void DrawInPieces(QPainter& painter, const QPolygonF& line) {
-  constexpr qsizetype Sides = 15;
-  for (qsizetype from = 0; from + 1 < line.size(); from += Sides) {
-    painter.drawPolyline(line.mid(from, Sides + 1));
-  }
-}
-
-/// The triangle and the short lines that mean a free water surface.
-void DrawSurfaceMark(QPainter& painter, const QLineF& surface, double em) {
-  const double x = surface.x1() + 0.15 * surface.dx();
-  const double y = surface.y1();
-  const double half = 0.3 * em;
-  painter.drawPolygon(
-      QPolygonF({{x, y - 1}, {x - half, y - 1.6 * half - 1}, {x + half, y - 1.6 * half - 1}}));
-  if (surface.length() < 4 * em) return;
-  painter.drawLine(QPointF(x - 0.8 * half, y + 3), QPointF(x + 0.8 * half, y + 3));
-  painter.drawLine(QPointF(x - 0.4 * half, y + 6), QPointF(x + 0.4 * half, y + 6));
-}
-
 /// To a screen reader a cross-section is a picture in words.
 QAccessibleInterface* ReadShape(const QString&, QObject* object) {
   auto* const shape = dynamic_cast<ShapeWidget*>(object);
@@ -115,7 +115,11 @@ ShapeWidget::ShapeWidget(frmMain& form, QWidget* parent) : QWidget(parent), form
   QAccessible::installFactory(ReadShape);
   setAccessibleName(QStringLiteral("Cross-section"));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  typing_.setSingleShot(true);
+  typing_.setInterval(PauseInTyping);
+  connect(&typing_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
   const auto refresh = [this] { Refresh(); };
+  Bind::Follow(form.tbCritD.Text, this, refresh);
   for (const Field& field : Fields()) {
     if (field.Result == ResultWhen::Always) continue;
     TextBox& box = form.*field.Box;
@@ -139,20 +143,28 @@ bool ShapeWidget::event(QEvent* event) {
   return QWidget::event(event);
 }
 
+/// What it shows is told at once, what it looks like is worked out when it is painted.
 void ShapeWidget::Refresh() {
-  inputs_ = InputsOf(form_);
-  labels_ = LabelsOf(form_);
-  Describe();
-  update();
-}
-
-void ShapeWidget::Describe() {
-  QStringList parts{ToQt(inputs_.Type)};
-  for (const ShapeLabel* const label : {&labels_.Depth, &labels_.BaseWidth, &labels_.LeftSlope,
-                                        &labels_.RightSlope, &labels_.Diameter, &labels_.Roughness}) {
+  const ShapeLabels labels = LabelsOf(form_);
+  QStringList parts{ToQt(ChannelState.ChannelType)};
+  for (const ShapeLabel* const label :
+       {&labels.Depth, &labels.BaseWidth, &labels.LeftSlope, &labels.RightSlope, &labels.Diameter,
+        &labels.Roughness, &labels.Critical}) {
     if (!label->Value.isEmpty()) parts << label->Plain();
   }
   setAccessibleDescription(parts.join(QLatin1String(", ")));
+  update();
+}
+
+/// While a number is being typed the scale stays as it is, where the shape fits.
+void ShapeWidget::LayOut(const QRectF& canvas) {
+  const ShapeInputs now = InputsOf(form_);
+  if (now != inputs_) {
+    OneTyped(inputs_, now) ? typing_.start() : typing_.stop();
+    inputs_ = now;
+  }
+  const std::optional<ShapeScale> held = typing_.isActive() ? layout_.Scale : std::nullopt;
+  layout_ = LayOutShape(ShapeOf(inputs_), LabelsOf(form_), canvas, QFontMetricsF(font()), held);
 }
 
 void ShapeWidget::paintEvent(QPaintEvent*) {
@@ -165,29 +177,37 @@ void ShapeWidget::paintEvent(QPaintEvent*) {
   painter.fillRect(canvas, colours.base());
   painter.setClipRect(canvas);
 
-  const ShapeGeometry shape = ShapeOf(inputs_);
-  const ShapeLayout layout = LayOutShape(shape, labels_, canvas, QFontMetricsF(font()));
+  LayOut(canvas);
   const QColor ink = colours.color(QPalette::Text);
   const QColor thin = Appearance::Faint(colours);
 
   painter.setPen(Qt::NoPen);
-  painter.setBrush(Appearance::Earth(colours));
-  painter.drawPolygon(layout.Earth);
+  painter.setBrush(Tinted(layout_.Known, Appearance::Earth(colours)));
+  painter.drawPolygon(layout_.Earth);
   painter.setBrush(Appearance::Water(colours));
-  for (const QPolygonF& pool : layout.Water) painter.drawPolygon(pool);
-  painter.setPen(QPen(Appearance::WaterSurface(colours), 1.5));
-  for (const QPolygonF& pool : layout.Water) painter.drawLine(pool.first(), pool.last());
+  painter.drawPath(layout_.Water);
   painter.setBrush(Qt::NoBrush);
-  if (!layout.SurfaceMark.isNull()) DrawSurfaceMark(painter, layout.SurfaceMark, em);
-  // The many short sides of a pipe need no rounding where they meet.
-  painter.setPen(shape.Pipe ? QPen(ink, 0.22 * em, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin)
-                            : QPen(ink, 0.14 * em, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  DrawInPieces(painter, layout.Ground);
+  painter.setPen(QPen(Appearance::WaterSurface(colours), 1.5, Qt::SolidLine, Qt::FlatCap));
+  painter.drawLines(layout_.Surfaces);
+  painter.drawPolygon(layout_.SurfaceMark);
+  painter.drawLines(layout_.SurfaceRipples);
+  painter.setPen(QPen(ink, 1, Qt::DashLine, Qt::FlatCap));
+  painter.drawLines(layout_.Critical);
+  for (const ShapeLayout::Part& part : layout_.Parts) {
+    const QColor colour = Appearance::Subsection(colours, part.Kind);
+    painter.fillRect(part.Bar.adjusted(0.5, 0, -0.5, 0), colour);
+    painter.setPen(QPen(colour, 0.4 * em, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    painter.drawPolyline(part.Ground);
+  }
+  painter.setPen(QPen(Tinted(layout_.Known, ink), 0.14 * em, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(layout_.Ground);
+  painter.setPen(QPen(ink, 0.22 * em));
+  painter.drawEllipse(layout_.Wall);
   painter.setPen(QPen(thin, 1));
-  painter.drawLines(layout.Extensions);
+  painter.drawLines(layout_.Extensions);
   painter.setPen(QPen(ink, 1.2));
-  for (const QLineF& arrow : layout.Arrows) DrawArrow(painter, arrow, em);
-  for (const ShapeLabel& label : layout.Labels) DrawLabel(painter, label);
+  for (const QLineF& arrow : layout_.Arrows) DrawArrow(painter, arrow, em);
+  for (const ShapeLabel& label : layout_.Labels) DrawLabel(painter, label);
   painter.setPen(thin);
-  painter.drawText(layout.NotePlace, Qt::TextDontClip, layout.Note);
+  painter.drawText(layout_.NotePlace, Qt::TextDontClip, layout_.Note);
 }

@@ -1,6 +1,7 @@
 // The drawing of the current channel beside its inputs, live with them where they are numbers.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 #include "app/main/frmMain.h"
@@ -10,6 +11,8 @@ class ShapeWidget : public QWidget {
  public:
   ShapeWidget(frmMain& form, QWidget* parent);
   QSize minimumSizeHint() const override;
+  /// As last painted.
+  const ShapeLayout& Layout() const { return layout_; }
 
  protected:
   bool event(QEvent* event) override;
@@ -17,9 +20,10 @@ class ShapeWidget : public QWidget {
 
  private:
   void Refresh();
-  void Describe();
+  void LayOut(const QRectF& canvas);
 
   frmMain& form_;
   ShapeInputs inputs_;
-  ShapeLabels labels_;
+  ShapeLayout layout_;
+  QTimer typing_;  ///< runs until a pause
 };

@@ -7,21 +7,22 @@
 
 #include "desktop/chart/ChartPlot.h"
 #include "desktop/kit/Appearance.h"
+#include "desktop/kit/PipeWater.h"
 #include "desktop/kit/Text.h"
 
 namespace {
 
-constexpr int NameRows = 2;  // beside each other names would run into each other over narrow stretches
+constexpr int NameRows = 2;  // beside each other names would run into each other over narrow parts
 constexpr double Clear = 0.7;
 
 }  // namespace
 
-SectionBackdrop::SectionBackdrop(ChartPlot& plot, Content content)
-    : QCPLayerable(&plot), plot_(plot), content_(std::move(content)) {
+SectionBackdrop::SectionBackdrop(ChartPlot& plot, const SectionDrawing& drawing)
+    : QCPLayerable(&plot), plot_(plot), drawing_(drawing) {
   const QString name = QStringLiteral("backdrop");
   plot.addLayer(name, plot.layer(QStringLiteral("grid")), QCustomPlot::limAbove);
   setLayer(name);
-  if (content_.Stretches.empty()) return;
+  if (drawing_.Subsections.empty()) return;
   QMargins margins = plot.axisRect()->minimumMargins();
   margins.setTop(NameRows * QFontMetrics(plot.font()).height() + 3 * BarHeight());
   plot.axisRect()->setMinimumMargins(margins);
@@ -39,21 +40,12 @@ QPointF SectionBackdrop::PixelOf(double x, double y) const {
   return {plot_.xAxis->coordToPixel(x), plot_.yAxis->coordToPixel(y)};
 }
 
-QColor SectionBackdrop::ColourOf(const SectionTable::Stretch& stretch) const {
-  std::vector<std::string> different;
-  for (const auto& each : content_.Stretches) {
-    if (std::ranges::find(different, each.ManningN) == different.end()) different.push_back(each.ManningN);
-  }
-  const auto place = std::ranges::find(different, stretch.ManningN) - different.begin();
-  return Appearance::Stretch(plot_.Colours(), static_cast<int>(place));
-}
-
-QPolygonF SectionBackdrop::Outline() const {
-  QPolygonF outline;
+QPolygonF SectionBackdrop::Ground() const {
+  QPolygonF ground;
   for (const auto& point : plot_.PointsOf(0)) {
-    if (point) outline << PixelOf(point->x(), point->y());
+    if (point) ground << PixelOf(point->x(), point->y());
   }
-  return outline;
+  return ground;
 }
 
 void SectionBackdrop::draw(QCPPainter* painter) {
@@ -61,7 +53,7 @@ void SectionBackdrop::draw(QCPPainter* painter) {
   painter->setClipRect(plot_.axisRect()->rect());
   DrawEarth(*painter);
   DrawWater(*painter);
-  DrawStretches(*painter);
+  DrawSubsections(*painter);
   painter->setClipping(false);
   DrawNames(*painter);
   painter->restore();
@@ -69,8 +61,8 @@ void SectionBackdrop::draw(QCPPainter* painter) {
 
 /// Below the outline, and beyond its ends as high as they are.
 void SectionBackdrop::DrawEarth(QCPPainter& painter) const {
-  QPolygonF earth = Outline();
-  if (content_.IsPipe || earth.size() < 2) return;
+  QPolygonF earth = Ground();
+  if (drawing_.Pipe || earth.size() < 2) return;
   const QRectF frame = plot_.axisRect()->rect();
   const double left = std::min(frame.left(), earth.first().x());
   const double right = std::max(frame.right(), earth.last().x()) + 1;
@@ -86,28 +78,33 @@ void SectionBackdrop::DrawEarth(QCPPainter& painter) const {
 void SectionBackdrop::DrawWater(QCPPainter& painter) const {
   painter.setPen(Qt::NoPen);
   painter.setBrush(Appearance::Water(plot_.Colours()));
-  for (const auto& pool : content_.Pools) {
+  for (const Outline::Line& pool : drawing_.Pools) {
     QPolygonF water;
-    for (const SectionTable::Point& point : pool) water << PixelOf(point.X, point.Y);
+    for (const Outline::Point& point : pool) water << PixelOf(point.X, point.Y);
     painter.drawPolygon(water);
   }
+  if (!drawing_.Pipe) return;
+  const auto& [centre, radius] = *drawing_.Pipe;
+  painter.drawPath(WaterInPipe(
+      QRectF(PixelOf(centre.X - radius, centre.Y + radius), PixelOf(centre.X + radius, centre.Y - radius)),
+      PixelOf(0, drawing_.Level).y()));
 }
 
-/// A band of its own colour along the ground of each stretch.
-void SectionBackdrop::DrawStretches(QCPPainter& painter) const {
+/// A band of its own colour along the ground of each part.
+void SectionBackdrop::DrawSubsections(QCPPainter& painter) const {
   const ChartPlot::Breaking ground = plot_.PointsOf(0);
-  for (const SectionTable::Stretch& stretch : content_.Stretches) {
+  for (const Outline::Subsection& part : drawing_.Subsections) {
     QPolygonF band;
     for (const auto& point : ground) {
-      if (point && point->x() >= stretch.From && point->x() <= stretch.To)
-        band << PixelOf(point->x(), point->y());
+      if (point && point->x() >= part.From && point->x() <= part.To) band << PixelOf(point->x(), point->y());
     }
-    painter.setPen(QPen(ColourOf(stretch), 2 * BarHeight(), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    painter.setPen(QPen(Appearance::Subsection(plot_.Colours(), part.Kind), 2 * BarHeight(), Qt::SolidLine,
+                        Qt::FlatCap, Qt::RoundJoin));
     painter.drawPolyline(band);
   }
 }
 
-/// Above the drawing a bar over each stretch and its n, where the names beside it leave room for that.
+/// Above the drawing a bar over each subsection and its n, where the names beside it leave room for that.
 void SectionBackdrop::DrawNames(QCPPainter& painter) const {
   const QRectF frame = plot_.axisRect()->rect();
   const QFontMetricsF metrics(plot_.font());
@@ -115,13 +112,13 @@ void SectionBackdrop::DrawNames(QCPPainter& painter) const {
   std::array<double, NameRows> taken;
   taken.fill(-std::numeric_limits<double>::infinity());
   painter.setFont(plot_.font());
-  for (const SectionTable::Stretch& stretch : content_.Stretches) {
-    const double left = std::max(plot_.xAxis->coordToPixel(stretch.From), frame.left());
-    const double right = std::min(plot_.xAxis->coordToPixel(stretch.To), frame.right());
+  for (const Outline::Subsection& part : drawing_.Subsections) {
+    const double left = std::max(plot_.xAxis->coordToPixel(part.From), frame.left());
+    const double right = std::min(plot_.xAxis->coordToPixel(part.To), frame.right());
     if (left >= right) continue;
     const QRectF bar(left, frame.top() - 1.5 * gap, right - left, gap);
-    painter.fillRect(bar.adjusted(0.5, 0, -0.5, 0), ColourOf(stretch));
-    const QString name = QStringLiteral("n = ") + ToQt(stretch.ManningN).trimmed();
+    painter.fillRect(bar.adjusted(0.5, 0, -0.5, 0), Appearance::Subsection(plot_.Colours(), part.Kind));
+    const QString name = QStringLiteral("n = ") + ToQt(part.ManningN).trimmed();
     const double width = metrics.horizontalAdvance(name);
     const double start = std::clamp(bar.center().x() - width / 2, 0.0, std::max(0.0, plot_.width() - width));
     const auto row = std::ranges::find_if(taken, [start](double end) { return end < start; });

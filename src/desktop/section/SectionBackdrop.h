@@ -1,23 +1,16 @@
-// What the drawing of a section shows besides its lines: ground, water, and the stretches of one Manning's n.
+// What the drawing of a section shows besides its lines: ground, water, and the parts of one Manning's n.
 #pragma once
 
 #include <qcustomplot.h>
 
-#include <vector>
-
-#include "section/SectionTable.h"
+#include "section/frmSection.h"
 
 class ChartPlot;
 
 class SectionBackdrop : public QCPLayerable {
  public:
-  struct Content {
-    std::vector<std::vector<SectionTable::Point>> Pools;
-    std::vector<SectionTable::Stretch> Stretches;
-    bool IsPipe = false;  ///< nothing is known of the ground around it
-  };
   /// Becomes part of the plot, behind the lines, the first of which is the outline of the section.
-  SectionBackdrop(ChartPlot& plot, Content content);
+  SectionBackdrop(ChartPlot& plot, const SectionDrawing& drawing);
 
  protected:
   void draw(QCPPainter* painter) override;
@@ -25,15 +18,13 @@ class SectionBackdrop : public QCPLayerable {
 
  private:
   QPointF PixelOf(double x, double y) const;
-  QPolygonF Outline() const;
+  QPolygonF Ground() const;
   void DrawEarth(QCPPainter& painter) const;
   void DrawWater(QCPPainter& painter) const;
-  void DrawStretches(QCPPainter& painter) const;
+  void DrawSubsections(QCPPainter& painter) const;
   void DrawNames(QCPPainter& painter) const;
-  /// Stretches of equal n have one colour.
-  QColor ColourOf(const SectionTable::Stretch& stretch) const;
   int BarHeight() const;
 
   const ChartPlot& plot_;
-  const Content content_;
+  const SectionDrawing drawing_;
 };

@@ -12,14 +12,18 @@
 
 namespace {
 
-/// The surfaces of pools: behind the last station of a section the chart's own line may go on.
-ChartPlot::Breaking Surfaces(const std::vector<std::vector<SectionTable::Point>>& pools) {
+/// The water surfaces from bank to bank. The chart's own line may go on behind the last station of a survey,
+/// and leave a pipe by the digits that its top width is rounded to.
+ChartPlot::Breaking Surfaces(const SectionDrawing& drawing) {
   ChartPlot::Breaking surfaces;
-  for (const auto& pool : pools) {
-    surfaces.emplace_back(QPointF(pool.front().X, pool.front().Y));
-    surfaces.emplace_back(QPointF(pool.back().X, pool.back().Y));
+  const auto add = [&surfaces](const Outline::Line& water) {
+    if (water.empty()) return;
+    surfaces.emplace_back(QPointF(water.front().X, water.front().Y));
+    surfaces.emplace_back(QPointF(water.back().X, water.back().Y));
     surfaces.emplace_back();
-  }
+  };
+  for (const Outline::Line& pool : drawing.Pools) add(pool);
+  if (drawing.Pipe) add(Outline::Surface(*drawing.Pipe, drawing.Level));
   return surfaces;
 }
 
@@ -29,15 +33,19 @@ SectionView::SectionView(frmSection& form, QWidget* parent) : FormWindow(parent)
   AddMenu(tr("&File"), {{&form.mnuFileExport, "e", {}}, {}, {&form.mnuFileExit, "x", QKeySequence::Close}});
   QMenu* const edit = AddMenu(tr("&Edit"), {{&form.mnuEditCopy, "c", QKeySequence::Copy}});
   ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, this));
-  const bool isPipe = form.MSChart1.UniformAxis;
-  const bool isSurveyed = !form.Stretches().empty();
-  chart->Dress([&form, isPipe, isSurveyed](ChartPlot& plot) {
-    plot.NameLines({isPipe       ? tr("Pipe wall")
+  const SectionDrawing& drawing = form.Drawing();
+  chart->Dress([&drawing](ChartPlot& plot) {
+    const bool isSurveyed = !drawing.Subsections.empty();
+    plot.NameLines({drawing.Pipe ? tr("Pipe wall")
                     : isSurveyed ? tr("Ground")
                                  : tr("Channel"),
                     tr("Water surface")});
-    if (isSurveyed) plot.ReplaceLine(1, Surfaces(form.Pools()));
-    new SectionBackdrop(plot, {form.Pools(), form.Stretches(), isPipe});  // the plot owns it
+    if (drawing.Pipe) {
+      const auto& [centre, radius] = *drawing.Pipe;
+      plot.DrawAsCircle(0, QPointF(centre.X, centre.Y), radius);
+    }
+    if (drawing.Pipe || isSurveyed) plot.ReplaceLine(1, Surfaces(drawing));
+    new SectionBackdrop(plot, drawing);  // the plot owns it
   });
   chart->LogarithmicAction()->setEnabled(false);
   chart->insertAction(chart->LogarithmicAction(), edit->actions().first());
