@@ -87,9 +87,6 @@ struct Roughness {
   struct Subsection {
     size_t from, to;  // its first row and the first row of the next
     double n, kOverN;
-
-    // Flow of the area A and the perimeter P on a slope of 1.
-    double Conveyance(double A, double P) const { return kOverN * A * std::pow(A / P, Constants::TwoThirds); }
   };
 
   Roughness(const PointTable& points, size_t last) {
@@ -123,7 +120,7 @@ struct Roughness {
       const auto [A, P, T] = ground.Below(subsections[s].from, subsections[s].to, W);
       wetArea += A;
       wetPerimeter += P;
-      if (P != 0) Q += rootS * subsections[s].Conveyance(A, P);
+      if (P != 0) Q += rootS * (subsections[s].kOverN * A * std::pow(A / P, Constants::TwoThirds));
     }
     if (!AllFinite(wetArea, wetPerimeter, Q)) [[unlikely]] {
       ThrowFault("a number is too large or a Manning's n is zero");

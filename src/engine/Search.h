@@ -49,6 +49,14 @@ inline double RoughPower(double x, double exponent) {
   return std::bit_cast<double>(One + static_cast<std::int64_t>(exponent * logarithm));
 }
 
+// Cube root within 1e-13, 1e-60 < x < 1e60: 0.98 of the rough power lies within 4 % of it, and each of
+// Halley's steps makes an error of d one of 2/3 d^3.
+inline double CubeRoot(double x) {
+  double root = 0.98 * RoughPower(x, 1 / 3.0);
+  for (int step = 0; step < 2; ++step) root *= (Power<3>(root) + 2 * x) / (2 * Power<3>(root) + x);
+  return root;
+}
+
 // Two sides of an equation at x that grow as powers of x; exponent is the difference of the two powers,
 // d ln(left / right) / d ln x.
 struct Sides {

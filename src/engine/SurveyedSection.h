@@ -68,7 +68,8 @@ class SurveyedSection {
       if (water.A == 0) continue;  // dry, or a wall: its segments have no width either
       const double rounding = Rounding(water.A, W);
       if (!(rounding < 1e9)) return std::nullopt;
-      const double part = roughness.subsections[s].Conveyance(water.A, water.P);
+      const double part =
+          roughness.subsections[s].kOverN * water.A * Search::Power<2>(Search::CubeRoot(water.A / water.P));
       conveyance += part;
       roundings += part * rounding;
     }

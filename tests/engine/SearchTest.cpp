@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "Problem.h"
+#include "engine/ManningCircular.h"
 #include "engine/SurveyedSection.h"
 #include "plain/Problems.h"
 
@@ -52,7 +53,14 @@ TEST_F(SearchEdges, ProblemsAtTheLimits) {
       EXPECT_EQ(Difference(), "");
     }
   }
-  for (const double D : {1.1e-6, 1e-3, 0.0011, 6.0, 999.0, 1000.0, 1e5, 1e12}) {
+  for (const double D : {1.1e-6, 1e-3, 0.0011, 6.0, 999.0, 1000.0, 1e5, 1e8, 1e12}) {
+    SetPipe(D, 0.013, 0.002);
+    ChannelState.SolveForFlow = false;
+    ChannelState.Flow = ManningCircular::CircMaxFlow(D, 0.002, 0.013);
+    for (int i = 0; i < 20; ++i) {
+      ChannelState.Flow = std::nextafter(ChannelState.Flow.Number(), 0);
+      EXPECT_EQ(Difference(), "");
+    }
     for (const double n : {0.013, 1e-25, -0.013}) {
       SetPipe(D, n, 0.002);
       for (const double share : {0.0, 1e-12, 1e-6, 0.24999, 0.25001, 0.5, 0.99, 0.999999, 1 - 1e-12, 1.0}) {
@@ -149,6 +157,7 @@ TEST(Search, AWrongGuessIsSearchedPlainly) {
 
 TEST(Search, PowersAndRootsAreAsCloseAsTold) {
   for (double x = 1e-40; x < 1e40; x *= 1.0137) {
+    ASSERT_NEAR(Search::CubeRoot(x) / std::cbrt(x), 1, 1e-13) << x;
     for (const double exponent : {1 / 8.0, 1 / 3.0, 2 / 3.0})
       ASSERT_NEAR(Search::RoughPower(x, exponent) / std::pow(x, exponent), 1, 0.07) << x;
   }
