@@ -51,9 +51,9 @@ struct Field {
   bool KeptByNew = false;  ///< New leaves the text in the box
   int FileItem = -1;       ///< place among the inputs of a project file
   int ReportLine = -1;     ///< place among the inputs of the report
+  int RatingColumn = 0;    ///< place in rating tables; 0: none
 
   const char* ListName = nullptr;  ///< in the lists of what to vary and to plot; null: in neither
-  int RatingColumn = 0;            ///< place in rating tables; 0: none
   Wording RatingHead = {};
   /// Head of the column where the channel type has no such value; null: another field takes the column.
   const char* HeadWithout = nullptr;
