@@ -42,7 +42,7 @@ PointGrid::PointGrid(frmIrreg& form, QWidget* parent)
   edit_->setAutoFillBackground(true);
   Bind::Join(form.tbSel.Visible, this, [](PointGrid& self, bool visible) { self.ShowEditor(visible); });
   FitColumns();
-  setFixedWidth(sizeHint().width());
+  setFixedWidth(FullWidth());
 }
 
 /// With room for the digits that are going to be typed, too.
@@ -52,15 +52,18 @@ int PointGrid::ColumnWidth(int gridColumn) const {
   return std::max(typed, GridTable::ColumnWidth(gridColumn));
 }
 
+int PointGrid::FullWidth() const {
+  return verticalHeader()->width() + horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() +
+         2 * frameWidth();
+}
+
 QSize PointGrid::sizeHint() const {
-  const int width = verticalHeader()->width() + horizontalHeader()->length() +
-                    verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
-  return {width, horizontalHeader()->sizeHint().height() + 12 * verticalHeader()->defaultSectionSize()};
+  return {FullWidth(), horizontalHeader()->sizeHint().height() + 12 * verticalHeader()->defaultSectionSize()};
 }
 
 void PointGrid::changeEvent(QEvent* event) {
   GridTable::changeEvent(event);
-  if (event->type() == QEvent::FontChange) setFixedWidth(sizeHint().width());
+  if (event->type() == QEvent::FontChange) setFixedWidth(FullWidth());
 }
 
 // The box of the current cell.

@@ -20,6 +20,7 @@ class PointGrid : public GridTable {
   void updateEditorGeometries() override;
 
  private:
+  int FullWidth() const;  ///< of all columns
   void ShowEditor(bool visible);
   void PlaceEditor();
   bool RunCommand(const QKeyEvent& event);
