@@ -11,6 +11,7 @@ namespace {
 
 class NoScreen : public WindowHost {
   void Open(Form&) override {}
+  void Raise(Form&) override {}
   void Wait(Form&) override {}
 };
 

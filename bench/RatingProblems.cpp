@@ -14,6 +14,7 @@ namespace {
 
 class NoScreen : public WindowHost {
   void Open(Form&) override {}
+  void Raise(Form&) override {}
   void Wait(Form&) override {}
 };
 

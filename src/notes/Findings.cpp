@@ -52,12 +52,13 @@ PipeFindings ExaminePipe(const ChannelRecord& record) {
   return found;
 }
 
-/// The level nearest to W, put in when rounding has hidden it from the search.
+/// Puts the level in the box in the place of the nearest one found, or where rounding has hidden it.
 std::size_t IndexOf(double W, std::vector<double>& levels) {
   const auto nearer = [W](double a, double b) { return std::abs(a - W) < std::abs(b - W); };
   auto place = std::ranges::min_element(levels, nearer);
   if (place == levels.end() || !Same(*place, W))
     place = levels.insert(std::ranges::lower_bound(levels, W), W);
+  *place = W;
   return static_cast<std::size_t>(place - levels.begin());
 }
 

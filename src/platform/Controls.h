@@ -130,6 +130,16 @@ class TextBox : public FocusControl {
   static constexpr int LightYellow = 0xC0FFFF;
 };
 
+/// A page of text that can be read, selected and searched, but not edited.
+struct TextPage : FocusControl {
+  using FocusControl::FocusControl;
+  /// The body of a web page.
+  Property<std::string> Html;
+  std::string Text;  ///< the same as plain text
+
+  std::function<void(const std::string& anchor)> ScrollView;  // set by the view: brings the place into sight
+};
+
 /// A list of lines; choosing one, by hand or by the program, raises Click.
 struct ListBox : FocusControl {
   using FocusControl::FocusControl;

@@ -30,6 +30,17 @@ void WindowHost::Show(Form& form) {
   form.Form_Activate();
 }
 
+void WindowHost::ShowBeside(Form& form) {
+  if (form.IsLoaded()) {
+    Raise(form);
+    return;
+  }
+  std::erase(beside_, &form);
+  beside_.push_back(&form);
+  form.Load();
+  Open(form);
+}
+
 void WindowHost::ShowModal(Form& form) {
   Show(form);
   if (form.IsLoaded()) Wait(form);

@@ -11,13 +11,15 @@
 class Form;
 class XYChart;
 
-/// The system clipboard's plain text (UTF-8).
+/// The system clipboard's text (UTF-8).
 class Clipboard {
  public:
   virtual ~Clipboard() = default;
   virtual void Clear() = 0;
   virtual std::string Text() = 0;
   virtual void SetText(const std::string& text) = 0;
+  /// A text and the same as the body of a web page: the program that pastes takes what it can use.
+  virtual void SetPage(const std::string& text, const std::string& html) = 0;
 };
 
 enum class BoxIcon { Exclamation, Information };
@@ -84,8 +86,9 @@ class Printer {
 };
 
 struct PrintRequest {
-  std::string Title;       ///< of the dialog
-  bool Landscape = false;  ///< the orientation proposed
+  std::string Title;        ///< of the dialog
+  bool Landscape = false;   ///< the orientation proposed
+  std::string Option = {};  ///< what a page of the dialog offers, off at first; empty: nothing
 };
 
 class PrinterDialog {
@@ -93,8 +96,12 @@ class PrinterDialog {
   virtual ~PrinterDialog() = default;
   /// The printer chosen, at the start of a document; null when the person cancels.
   virtual Printer* Choose(const PrintRequest& request) = 0;
+  /// The person wants what the last dialog offered.
+  virtual bool IsOptionChosen() const = 0;
   /// Shows on the screen the pages that `write` prints, from where the person may print them.
   virtual void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) = 0;
+  /// The pages that `write` prints as the bytes of a PDF file; empty when it cannot be made.
+  virtual std::string Pdf(const PrintRequest& request, const std::function<void(Printer&)>& write) = 0;
 };
 
 class Clock {
@@ -134,18 +141,25 @@ class WindowHost {
   void Show(Form& form);
   /// Loads and shows the form, returns when it is unloaded, and then activates the form below.
   void ShowModal(Form& form);
+  /// Loads and shows the form beside the others, or brings it to the front when it is open. It is usable as
+  /// long as it is loaded, whatever form is on top, and never is the one on top.
+  void ShowBeside(Form& form);
   /// The form that answers the keyboard; null when none is open.
   Form* Top() const;
   /// From the lowest to the one on top, and forms just unloaded.
   const std::vector<Form*>& OpenForms() const { return open_; }
+  /// Those shown beside them, and some of them unloaded.
+  const std::vector<Form*>& FormsBeside() const { return beside_; }
 
  protected:
   virtual void Open(Form& form) = 0;
+  /// Brings an open form to the front and gives it the keyboard.
+  virtual void Raise(Form& form) = 0;
   /// Returns when the form is unloaded.
   virtual void Wait(Form& form) = 0;
 
  private:
-  std::vector<Form*> open_;
+  std::vector<Form*> open_, beside_;
 };
 
 struct Services {

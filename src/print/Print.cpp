@@ -108,13 +108,6 @@ void Picture(PageWriter& page, Printer& printer, const XYChart& chart) {
   printer.Picture(*holder.PicTemp.Picture, Layout::LeftMargin, top, size.Width, size.Height);
 }
 
-void End(PageWriter& page, Printer& printer) {
-  page.Footer();
-  if (printer.End()) return;
-  TheServices().messageBox.Show("The pages cannot be printed.", Declarations::AppTitle, BoxIcon::Exclamation,
-                                BoxButtons::Ok);
-}
-
 /// x of each column; the leading one, which is empty, stands at the edge of the paper.
 using ColumnPositions = std::array<int, 21>;
 
@@ -170,18 +163,30 @@ class TableWriter {
 };
 
 PrintRequest Request(const Document& document) {
-  return {"Print", document.Landscape};
+  return {"Print", document.Landscape, document.Option};
 }
 
 }  // namespace
 
-Document Report(const frmMain& main) {
-  return {[&main](Printer& printer) {
-    PageWriter page(printer, main);
-    Inputs(page, main);
-    Results(page, main);
-    End(page, printer);
-  }};
+void End(PageWriter& page, Printer& printer) {
+  page.Footer();
+  if (printer.End()) return;
+  TheServices().messageBox.Show("The pages cannot be printed.", Declarations::AppTitle, BoxIcon::Exclamation,
+                                BoxButtons::Ok);
+}
+
+Document Report(const frmMain& main, const Appendix& appendix) {
+  return {[&main, append = appendix.Write](Printer& printer) {
+            PageWriter page(printer, main);
+            Inputs(page, main);
+            Results(page, main);
+            if (append && TheServices().printerDialog.IsOptionChosen()) {
+              page.NextPage();
+              append(page);
+            }
+            End(page, printer);
+          },
+          false, appendix.Option};
 }
 
 Document Graph(const frmMain& main, const XYChart& chart) {
@@ -204,6 +209,10 @@ void ToPrinter(const Document& document) {
 
 void ToPreview(const Document& document) {
   TheServices().printerDialog.Preview(Request(document), document.Write);
+}
+
+std::string ToPdf(const Document& document) {
+  return TheServices().printerDialog.Pdf(Request(document), document.Write);
 }
 
 }  // namespace Print

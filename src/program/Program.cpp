@@ -11,6 +11,8 @@
 #include "rating/OpenRating.h"
 #include "section/frmIrreg.h"
 #include "section/frmSection.h"
+#include "working/Working.h"
+#include "working/WorkingPages.h"
 
 namespace {
 
@@ -53,8 +55,18 @@ void Program::OpenGraph() {
 void Program::OpenTable() {
   OpenRatingTable(Main);
 }
+void Program::OpenWorking() {
+  TheServices().windows.ShowBeside(working_);
+  working_.ShowNotes();
+}
+void Program::FollowAnswer() {
+  working_.Follow();
+}
 void Program::PrintReport() {
-  Print::ToPrinter(Print::Report(Main));
+  Print::ToPrinter(Print::Report(Main, {"With the working", [this](PageWriter& page) {
+                                          const WorkingLines lines = FormWorking(Main);
+                                          AppendWorking(page, lines);
+                                        }}));
 }
 void Program::PreviewReport() {
   Print::ToPreview(Print::Report(Main));
@@ -65,8 +77,9 @@ void Program::OpenHelpContents() {
 void Program::OpenHelpIndex() {
   HTMLHelp::ShowIndex();
 }
-void Program::CloseHelp() {
+void Program::CloseBeside() {
   HTMLHelp::Close();
+  if (working_.IsLoaded()) working_.Unload();
 }
 void Program::OpenAbout() {
   ShowModal<frmAbout>();

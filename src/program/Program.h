@@ -5,6 +5,7 @@
 #include "app/main/SubWindows.h"
 #include "app/main/frmMain.h"
 #include "platform/Services.h"
+#include "working/frmWorking.h"
 
 class Program : private SubWindows {
  public:
@@ -18,16 +19,20 @@ class Program : private SubWindows {
   frmMain Main;
 
  private:
+  frmWorking working_{Main};
+
   void OpenDigits() override;
   void OpenMannParam() override;
   void OpenIrreg() override;
   void OpenSection() override;
   void OpenGraph() override;
   void OpenTable() override;
+  void OpenWorking() override;
+  void FollowAnswer() override;
   void PrintReport() override;
   void PreviewReport() override;
   void OpenHelpContents() override;
   void OpenHelpIndex() override;
-  void CloseHelp() override;
+  void CloseBeside() override;
   void OpenAbout() override;
 };

@@ -1,6 +1,7 @@
 // See Console.h.
 #include "console/Console.h"
 
+#include <algorithm>
 #include <map>
 
 #include "app/Declarations.h"
@@ -161,10 +162,12 @@ Form& Console::Top() const {
 
 Form& Console::FormOf(std::string_view& path) const {
   const std::string_view first = path.substr(0, path.find('.'));
-  for (Form* const form : stage_.Windows->OpenForms()) {
-    if (form->Name() != first) continue;
-    path.remove_prefix(std::min(path.size(), first.size() + 1));
-    return *form;
+  for (const auto* const forms : {&stage_.Windows->OpenForms(), &stage_.Windows->FormsBeside()}) {
+    for (Form* const form : *forms) {
+      if (form->Name() != first) continue;
+      path.remove_prefix(std::min(path.size(), first.size() + 1));
+      return *form;
+    }
   }
   return Top();
 }
@@ -181,7 +184,10 @@ Kind& Console::Usable(const std::string& name) const {
   Control& control = Find(name);
   auto* const usable = dynamic_cast<Kind*>(&control);
   if (usable == nullptr) throw Refusal("not possible with " + name);
-  if (&control.Owner() != &Top()) throw Refusal("another window is on top");
+  const auto& beside = stage_.Windows->FormsBeside();
+  const bool isBeside = std::ranges::find(beside, &control.Owner()) != beside.end();
+  if (isBeside ? !control.Owner().IsLoaded() : &control.Owner() != &Top())
+    throw Refusal("another window is on top");
   if (!control.Visible) throw Refusal(name + " is hidden");
   if (!control.Enabled) throw Refusal(name + " is disabled");
   return *usable;

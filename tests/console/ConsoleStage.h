@@ -13,6 +13,7 @@ class ConsoleHost : public WindowHost {
 
  protected:
   void Open(Form&) override {}
+  void Raise(Form&) override {}
   void Wait(Form& form) override { wait_(form); }
 
  private:

@@ -117,6 +117,8 @@ std::optional<std::string> ControlProperty(const Control& control, std::string_v
   if (const auto* grid = dynamic_cast<const FlexGrid*>(&control); grid && property == "Col") {
     return Told(grid->Selection.Get().Col);
   }
+  if (const auto* page = dynamic_cast<const TextPage*>(&control); page && property == "Text")
+    return page->Text;
   if (const auto* box = dynamic_cast<const TextBox*>(&control)) return TextBoxProperty(*box, property);
   return std::nullopt;
 }

@@ -60,6 +60,8 @@ TEST_P(ManualAndProgram, EveryWindowHasItsPageAndEveryControlItsExplanation) {
     Screen.Then(visit);
     command->Click();
   }
+  Main.mnuSolveWorking.Click();
+  visit(*Screen.FormsBeside().back());
   for (const auto& [name, text] : pages)
     EXPECT_TRUE(!name.starts_with("frm") || windows.contains(name)) << name;
 }

@@ -11,7 +11,7 @@ from pathlib import Path
 SHARED = ["engine", "notes", "platform", "files", "app"]
 KEPT = [*SHARED, "app/project", "app/settings"]
 CALCULATOR = [*KEPT, "app/main"]
-WINDOWS = [*CALCULATOR, "rating", "section", "print", "help"]
+WINDOWS = [*CALCULATOR, "rating", "section", "working", "print", "help"]
 FRONT = [*WINDOWS, "program"]
 FLOOR = ["desktop/kit", "desktop/main", "desktop/chart", "desktop/help"]
 MAY_INCLUDE = {
@@ -27,6 +27,7 @@ MAY_INCLUDE = {
     "print": CALCULATOR,
     "help": CALCULATOR,
     "rating": ["print", *CALCULATOR],
+    "working": ["print", *CALCULATOR],
     "program": WINDOWS,
     "desktop/kit": FRONT,
     "desktop/main": ["desktop/kit", *FRONT],
@@ -35,7 +36,9 @@ MAY_INCLUDE = {
     "desktop/section": [*FLOOR, *FRONT],
     "desktop/rating": [*FLOOR, *FRONT],
     "desktop/print": [*FLOOR, *FRONT],
-    "desktop/shell": [*FLOOR, "desktop/section", "desktop/rating", "desktop/print", *FRONT],
+    "desktop/working": [*FLOOR, *FRONT],
+    "desktop/shell": [*FLOOR, "desktop/section", "desktop/rating", "desktop/print",
+                      "desktop/working", *FRONT],
 }
 WITH_QT = ["src/desktop/", "tests/desktop/", "bench/desktop/"]
 QT = re.compile(r"Q[A-Z]|Qt|q[a-z]+\.h$|qcustomplot")

@@ -24,7 +24,13 @@ class FakeClipboard : public Clipboard {
  public:
   void Clear() override { text_.clear(); }
   std::string Text() override { return text_; }
-  void SetText(const std::string& text) override { text_ = text; }
+  void SetText(const std::string& text) override { SetPage(text, ""); }
+  void SetPage(const std::string& text, const std::string& html) override {
+    text_ = text;
+    Html = html;
+  }
+
+  std::string Html;
 
  private:
   std::string text_;
@@ -117,12 +123,19 @@ class FakePrinterDialog : public PrinterDialog {
     Requests.push_back(request);
     return TakeFirst(Answers).value_or(false) ? &Paper : nullptr;
   }
+  bool IsOptionChosen() const override { return Option; }
   void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) override {
     Requests.push_back(request);
     write(Screen);
   }
+  std::string Pdf(const PrintRequest& request, const std::function<void(Printer&)>& write) override {
+    Requests.push_back(request);
+    write(File);
+    return "%PDF of " + std::to_string(File.Texts.size()) + " texts";
+  }
 
-  FakePrinter Paper, Screen;
+  bool Option = false;
+  FakePrinter Paper, Screen, File;
   std::deque<bool> Answers;
   std::vector<PrintRequest> Requests;
 };

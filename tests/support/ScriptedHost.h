@@ -25,6 +25,7 @@ class ScriptedHost : public WindowHost {
 
  private:
   void Open(Form&) override {}
+  void Raise(Form&) override {}
   void Wait(Form& form) override {
     ASSERT_FALSE(acts_.empty()) << form.Name() << " was not expected";
     const auto act = acts_.front();

@@ -11,6 +11,8 @@ class StatusLine {
 
   void Tell(Part part, std::string text) { texts_.at(part) = std::move(text); }
 
+  const std::string& Told(Part part) const { return texts_.at(part); }
+
   /// An input has changed: what was told of the moment before is over.
   void Edited() {
     for (const Part part : {FileError, Moved, UnitRead, Done}) texts_.at(part).clear();

@@ -10,10 +10,14 @@ class SubWindows {
   virtual void OpenSection() = 0;
   virtual void OpenGraph() = 0;
   virtual void OpenTable() = 0;
+  virtual void OpenWorking() = 0;
+  /// The inputs were judged anew: what shows the answer beside the main window follows.
+  virtual void FollowAnswer() = 0;
   virtual void PrintReport() = 0;
   virtual void PreviewReport() = 0;
   virtual void OpenHelpContents() = 0;
   virtual void OpenHelpIndex() = 0;
-  virtual void CloseHelp() = 0;
+  /// Closes the windows that stand beside the main window.
+  virtual void CloseBeside() = 0;
   virtual void OpenAbout() = 0;
 };

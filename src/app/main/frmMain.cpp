@@ -37,6 +37,7 @@ void frmMain::CaptionControls() {
                                                       {mnuSolveGraph, "Rating Graph..."},
                                                       {mnuSolveTable, "Rating Table..."},
                                                       {mnuSolveSection, "Cross Section..."},
+                                                      {mnuSolveWorking, "Working..."},
                                                       {mnuOptionsDigits, "Digits..."},
                                                       {mnuHelpContents, "Contents"},
                                                       {mnuHelpIndex, "Index"},
@@ -106,6 +107,8 @@ void frmMain::JoinCommands() {
                                       {Toolbar1.Graph, &frmMain::mnuSolveGraph_Click},
                                       {mnuSolveTable, &frmMain::mnuSolveTable_Click},
                                       {Toolbar1.Table, &frmMain::mnuSolveTable_Click},
+                                      {mnuSolveWorking, &frmMain::mnuSolveWorking_Click},
+                                      {cmdNotes, &frmMain::mnuSolveWorking_Click},
                                       {mnuOptionsDigits, &frmMain::mnuOptionsDigits_Click},
                                       {mnuHelpContents, &frmMain::mnuHelpContents_Click},
                                       {mnuHelpIndex, &frmMain::mnuHelpIndex_Click},
@@ -135,7 +138,7 @@ void frmMain::Form_Activate() {
 bool frmMain::Form_QueryUnload() {
   if (!ChecknSave()) return false;
   InitialFile::SavePreferences();
-  windows_.CloseHelp();
+  windows_.CloseBeside();
   return true;
 }
 

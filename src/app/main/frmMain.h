@@ -14,6 +14,7 @@
 #include "app/main/SubWindows.h"
 #include "app/project/ProjectFile.h"
 #include "engine/ChannelState.h"
+#include "notes/Notes.h"
 #include "platform/Controls.h"
 
 struct ChannelType;
@@ -55,9 +56,16 @@ class frmMain : public Form {
   /// are there.
   enum class Progress { Missing, Wrong, Solved };
   Progress CurrentProgress() const;
+  /// Why there is no result; empty when there is one.
+  const std::string& WhyNone() const { return status_.Told(StatusLine::NoResult); }
+  /// What was found beside the results, and what there is to say of it; nothing without results.
+  const Findings& Found() const { return found_; }
+  const std::vector<Note>& Notes() const { return notes_; }
 
   /// What went wrong with a file, why there is no result, what was written, what was solved.
   Label lblStatus{this, "lblStatus"};
+  /// The notes that the verdict only counts; opens the working at them.
+  Button cmdNotes{this, "cmdNotes"};
 
   MenuItem mnuFileNew{this, "mnuFileNew"}, mnuFileOpen{this, "mnuFileOpen"}, mnuFileSave{this, "mnuFileSave"},
       mnuFileSaveAs{this, "mnuFileSaveAs"}, mnuFilePrint{this, "mnuFilePrint"},
@@ -66,7 +74,7 @@ class frmMain : public Form {
       mnuEditPaste{this, "mnuEditPaste"}, mnuEditDelete{this, "mnuEditDelete"};
   MenuItem mnuSolveForFlow{this, "mnuSolveForFlow"}, mnuSolveForDepth{this, "mnuSolveForDepth"},
       mnuSolveGraph{this, "mnuSolveGraph"}, mnuSolveTable{this, "mnuSolveTable"},
-      mnuSolveSection{this, "mnuSolveSection"};
+      mnuSolveSection{this, "mnuSolveSection"}, mnuSolveWorking{this, "mnuSolveWorking"};
   MenuItem mnuOptionsRect{this, "mnuOptionsRect"}, mnuOptionsTriangular{this, "mnuOptionsTriangular"},
       mnuOptionsTrap{this, "mnuOptionsTrap"}, mnuOptionsCircular{this, "mnuOptionsCircular"},
       mnuOptionsIrreg{this, "mnuOptionsIrreg"}, mnuOptionsUnitsEnglish{this, "mnuOptionsUnitsEnglish"},
@@ -160,6 +168,7 @@ class frmMain : public Form {
   void mnuSolveGraph_Click();
   void mnuSolveTable_Click();
   void mnuSolveSection_Click();
+  void mnuSolveWorking_Click();
   void mnuHelpContents_Click();
   void mnuHelpIndex_Click();
   void mnuHelpAbout_Click();
@@ -218,6 +227,7 @@ class frmMain : public Form {
   std::string Blame(const Reason& reason);
   /// Gives each result its tool tip: why it is blank, or what there is to know of it.
   void ExplainResults(const std::string& whyNone);
+  void ShowNotesOnBoxes();
   static std::string NoteOn(const Field& result);
 
   SubWindows& windows_;
@@ -226,6 +236,8 @@ class frmMain : public Form {
   PointTable typedWith_;                         // the points at that time
   std::string recoveredFrom_;                    // the file of recovered work until it is saved
   std::string fileBytes_;                        // of the project's file when it was opened or last saved
+  Findings found_;
+  std::vector<Note> notes_;
   bool solved_ = false;
   bool loading_ = false;  // boxes are being filled: their Change events neither compute nor clear
 };

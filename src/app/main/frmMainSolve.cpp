@@ -1,9 +1,11 @@
 // Checking the inputs, solving the channel and showing the results. See frmMain.h.
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 #include <utility>
 
 #include "app/Declarations.h"
+#include "app/NoteSpelling.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
@@ -35,6 +37,8 @@ void frmMain::CheckInputs() {
     ClearResults();
   }
   ExplainResults(whyNone);
+  found_ = solved_ ? Examine(ChannelState) : Findings{};
+  notes_ = NotesOn(found_, NoteSpelling());
   for (Control* const command :
        std::initializer_list<Control*>{&mnuSolveGraph, &mnuSolveTable, &mnuSolveSection, &Toolbar1.Graph,
                                        &Toolbar1.Table, &Toolbar1.Section}) {
@@ -42,17 +46,31 @@ void frmMain::CheckInputs() {
   }
   std::string verdict;
   if (solved_) {
-    verdict = ChannelState.SolveForFlow ? "Flow solved" : "Depth solved";
+    verdict = ::Verdict(found_, notes_);
     if (const std::string& note = tbCritS.ToolTip; !note.empty()) verdict += ". " + note;
   }
   status_.Tell(StatusLine::NoResult, whyNone);
   status_.Tell(StatusLine::Verdict, verdict);
   ShowStatus();
+  cmdNotes.Caption = NoteCount(notes_);
+  cmdNotes.Visible = !cmdNotes.Caption.Get().empty();
+  ShowNotesOnBoxes();
+  windows_.FollowAnswer();
 }
 
 void frmMain::ShowStatus() {
   status_.Tell(StatusLine::Done, Declarations::Done);
   lblStatus.Caption = status_.Text();
+}
+
+void frmMain::ShowNotesOnBoxes() {
+  for (const Note& note : notes_) {
+    for (const Field& field : Fields()) {
+      if (std::ranges::find(note.Concerns, field.Cell) == note.Concerns.end()) continue;
+      const std::string& tip = (this->*field.Box).ToolTip;
+      (this->*field.Box).ToolTip = tip.empty() ? note.Short : tip + "\n" + note.Short;
+    }
+  }
 }
 
 void frmMain::TellFailure(const std::string& failure) {

@@ -99,6 +99,9 @@ void frmMain::mnuSolveTable_Click() {
 void frmMain::mnuSolveSection_Click() {
   windows_.OpenSection();
 }
+void frmMain::mnuSolveWorking_Click() {
+  windows_.OpenWorking();
+}
 void frmMain::cmdIrreg_Click() {
   windows_.OpenIrreg();
 }

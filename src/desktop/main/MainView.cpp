@@ -150,6 +150,10 @@ QWidget* MainView::StatusLine() {
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   layout->addWidget(sign);
   layout->addWidget(text, 1);
+  QPushButton* const notes = Bind::Push(form_.cmdNotes, line);
+  notes->setFlat(true);
+  notes->setToolTip(tr("Open the working at the notes (F8)"));
+  layout->addWidget(notes);
   Bind::Follow(form_.lblStatus.Caption, sign, [this, sign, em] {
     const Sign& status = StatusOf(form_);
     sign->setPixmap(LineIcon(status.Icon, status.Colour(palette())).pixmap(em * 5 / 4));

@@ -85,7 +85,8 @@ void MainView::AddMenus() {
             {Separator},
             {&frmMain::mnuSolveGraph, "g"},
             {&frmMain::mnuSolveTable, "t"},
-            {&frmMain::mnuSolveSection, "c"}});
+            {&frmMain::mnuSolveSection, "c"},
+            {&frmMain::mnuSolveWorking, "w", Qt::Key_F8}});
   std::vector<ItemRow> options;
   for (const ChannelType& type : AllChannelTypes()) {
     options.push_back({type.Item, type.Mnemonic, {}, Kind::Choice});

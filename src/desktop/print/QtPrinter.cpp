@@ -3,12 +3,15 @@
 
 #include <qcustomplot.h>
 
+#include <QBuffer>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QGraphicsView>
 #include <QLineEdit>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -36,7 +39,7 @@ int Twips(double millimetres) {
   return static_cast<int>(std::lround(millimetres * TwipsOfInch / MillimetresOfInch));
 }
 
-QRectF Paper(const QPrinter& device) {
+QRectF Paper(const QPagedPaintDevice& device) {
   return device.pageLayout().fullRect(QPageLayout::Millimeter);
 }
 
@@ -163,7 +166,8 @@ bool QtPrinter::End() {
     for (const Stroke& stroke : pages_[static_cast<std::size_t>(page)]) stroke(painter);
     cancelled = !TheServices().progress.Show("Preparing the pages", page + 1, pages);
   }
-  works = painter.end() && works && device_.printerState() != QPrinter::Error &&
+  const auto* const printer = dynamic_cast<QPrinter*>(&device_);
+  works = painter.end() && works && (printer == nullptr || printer->printerState() != QPrinter::Error) &&
           (file_.isEmpty() || IsWhole(file_));
   if ((cancelled || !works) && QFileInfo(file_).isFile()) QFile::remove(file_);
   return works || cancelled;
@@ -172,12 +176,16 @@ bool QtPrinter::End() {
 QtPrinterDialog::QtPrinterDialog() = default;
 QtPrinterDialog::~QtPrinterDialog() = default;
 
+QString QtPrinterDialog::Title() {
+  return ToQt(std::string(Declarations::AppTitle) + " - " + Declarations::FileTitle);
+}
+
 QPrinter& QtPrinterDialog::Device(const PrintRequest& request) {
   if (!device_) {
     device_ = std::make_unique<QPrinter>(QPrinter::ScreenResolution);
     device_->setFullPage(true);
   }
-  device_->setDocName(ToQt(std::string(Declarations::AppTitle) + " - " + Declarations::FileTitle));
+  device_->setDocName(Title());
   device_->setPageOrientation(request.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
   return *device_;
 }
@@ -188,7 +196,14 @@ Printer* QtPrinterDialog::Choose(const PrintRequest& request) {
   dialog.setWindowTitle(ToQt(request.Title));
   dialog.setWindowModality(Qt::WindowModal);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  auto* const option = new QCheckBox(ToQt(request.Option), &dialog);
+  option->setObjectName(QStringLiteral("option"));
+  option->setWindowTitle(QObject::tr("Report"));
+  option->setChecked(optionChosen_);
+  if (!request.Option.empty()) dialog.setOptionTabs({option});
+  option->setVisible(!request.Option.empty());
   if (dialog.exec() != QDialog::Accepted) return nullptr;
+  if (!request.Option.empty()) optionChosen_ = option->isChecked();
   return &printer_.emplace(device, device.outputFileName());
 }
 
@@ -202,4 +217,21 @@ void QtPrinterDialog::Preview(const PrintRequest& request, const std::function<v
     write(printer);
   });
   dialog.exec();
+}
+
+// On the paper that the person printed on last, without asking the system for its printers.
+std::string QtPrinterDialog::Pdf(const PrintRequest& request, const std::function<void(Printer&)>& write) {
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter device(&file);
+    if (device_) device.setPageLayout(device_->pageLayout());
+    device.setPageOrientation(request.Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    device.setPageMargins({});
+    device.setTitle(Title());
+    device.setCreator(QLatin1String(Declarations::AppTitle));
+    QtPrinter printer(device, {});
+    write(printer);
+  }
+  return file.data().toStdString();
 }

@@ -12,14 +12,15 @@
 #include "platform/Services.h"
 
 class QCPPainter;
+class QPagedPaintDevice;
 class QPrinter;
 
 /// Keeps the pages until the end of the document. What is cancelled then leaves no file; a printer gets the
 /// pages until there.
 class QtPrinter : public Printer {
  public:
-  /// `file`: where the pages go; empty for a printer or the screen.
-  QtPrinter(QPrinter& device, QString file) : device_(device), file_(std::move(file)) {}
+  /// `file`: where the pages go; empty for a printer, the screen or a device that writes elsewhere.
+  QtPrinter(QPagedPaintDevice& device, QString file) : device_(device), file_(std::move(file)) {}
 
   int PageWidth() const override;
   int PageHeight() const override;
@@ -34,7 +35,7 @@ class QtPrinter : public Printer {
   using Stroke = std::function<void(QCPPainter&)>;
   void TextLine(int x, int y, const QString& shown, int maxWidth);
 
-  QPrinter& device_;
+  QPagedPaintDevice& device_;
   const QString file_;
   QFont font_;
   int lineHeight_ = 0;
@@ -46,13 +47,17 @@ class QtPrinterDialog : public PrinterDialog {
   QtPrinterDialog();
   ~QtPrinterDialog() override;
   Printer* Choose(const PrintRequest& request) override;
+  bool IsOptionChosen() const override { return optionChosen_; }
   void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) override;
+  std::string Pdf(const PrintRequest& request, const std::function<void(Printer&)>& write) override;
 
  private:
+  static QString Title();
   /// Made when first needed, as asking the system for its printers takes its time; later it knows what the
   /// person chose last.
   QPrinter& Device(const PrintRequest& request);
 
   std::unique_ptr<QPrinter> device_;
   std::optional<QtPrinter> printer_;
+  bool optionChosen_ = false;
 };

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QMessageBox>
+#include <QMimeData>
 
 #include "desktop/kit/FrontWindow.h"
 #include "desktop/kit/Text.h"
@@ -43,6 +44,13 @@ std::string QtClipboard::Text() {
 
 void QtClipboard::SetText(const std::string& text) {
   QGuiApplication::clipboard()->setText(WithCrLf(ToQt(text)));
+}
+
+void QtClipboard::SetPage(const std::string& text, const std::string& html) {
+  auto* const page = new QMimeData;
+  page->setText(WithCrLf(ToQt(text)));
+  page->setHtml(ToQt(html));
+  QGuiApplication::clipboard()->setMimeData(page);
 }
 
 BoxAnswer QtMessageBox::Show(const std::string& text, const std::string& title, BoxIcon icon,

@@ -11,6 +11,7 @@ class QtClipboard : public Clipboard {
   void Clear() override;
   std::string Text() override;
   void SetText(const std::string& text) override;
+  void SetPage(const std::string& text, const std::string& html) override;
 };
 
 class QtMessageBox : public MessageBox {

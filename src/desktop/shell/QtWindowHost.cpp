@@ -19,6 +19,7 @@
 #include "desktop/rating/TableView.h"
 #include "desktop/section/IrregView.h"
 #include "desktop/section/SectionView.h"
+#include "desktop/working/WorkingView.h"
 #include "help/HTMLHelp.h"
 
 namespace {
@@ -50,7 +51,8 @@ QWidget* MakeView(Form& form) {
       Make<frmMannParam, MannParamView>, Make<frmGraphSettings, GraphSettingsView>,
       Make<frmGraph, GraphView>,         Make<frmTableSettings, TableSettingsView>,
       Make<frmTable, TableView>,         Make<frmIrreg, IrregView>,
-      Make<frmSection, SectionView>,     Make<frmAbout, AboutView>};
+      Make<frmSection, SectionView>,     Make<frmWorking, WorkingView>,
+      Make<frmAbout, AboutView>};
   for (const auto make : Makers) {
     if (QWidget* const view = make(form)) return view;
   }
@@ -94,6 +96,13 @@ void QtWindowHost::Open(Form& form) {
     window->deleteLater();
   };
   window->show();
+}
+
+void QtWindowHost::Raise(Form& form) {
+  QWidget* const window = WindowOf(form);
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+  window->raise();
+  window->activateWindow();
 }
 
 void QtWindowHost::Wait(Form& form) {

@@ -24,6 +24,7 @@ class QtWindowHost : public WindowHost {
 
  private:
   void Open(Form& form) override;
+  void Raise(Form& form) override;
   void Wait(Form& form) final;
 
   std::map<const Form*, QPointer<QWidget>> windows_;

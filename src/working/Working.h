@@ -1,0 +1,10 @@
+// The working: where each number of an answer comes from, in lines that a reader can check with a hand
+// calculator.
+#pragma once
+
+#include "app/main/frmMain.h"
+#include "working/WorkingLine.h"
+
+/// The lines for the problem in work, in the units in force. With blank results: what is given, and why
+/// nothing follows.
+WorkingLines FormWorking(const frmMain& main);

@@ -1,0 +1,95 @@
+// Writes the working, theme by theme; see Working.h.
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/main/frmMain.h"
+#include "engine/ChannelState.h"
+#include "notes/Findings.h"
+#include "working/Equation.h"
+
+/// Water at one depth, in feet.
+struct WaterBelow {
+  double A, P, T;
+};
+
+/// A search as the engine makes it, with what it tried.
+struct SearchTrace {
+  double From, To;  ///< the interval searched, From with the lower value
+  int Steps = 0;
+  double Low, High;  ///< the last bracket
+  double Found;      ///< the last midpoint tried
+};
+
+class WorkingWriter {
+ public:
+  explicit WorkingWriter(const frmMain& main);
+  WorkingLines Write();
+
+ private:
+  // WorkingGiven.cpp
+  void Given();
+  void GivenPoints();
+  void Constants();
+
+  // WorkingFlow.cpp
+  void UniformFlow();
+  void SubsectionTable();
+  void DepthSearch();
+  void CriticalFlow();
+  void AddDiameter();
+  void Geometry(double y, const std::string& index, ShownNumbers& numbers);
+  void Residual(const std::string& quantity, double y, double carried, double wanted, double carriedAbove,
+                UnitKind unit);
+  void Search(const SearchTrace& trace, const std::string& depth, const char* target);
+
+  // WorkingMore.cpp
+  void OtherDepths();
+  void WaterLevels(const LevelSearch& found, std::optional<std::size_t> shown, const std::string& what,
+                   UnitKind unit, double factor);
+  void MoreResults();
+  void AlternateDepth();
+  void WhatIf();
+  void Notes();
+
+  bool IsPipe() const { return record_.ChannelType == ChannelTypes::Circular; }
+  bool IsSection() const { return record_.ChannelType == ChannelTypes::Irregular; }
+  bool IsFull() const { return found_.Pipe && found_.Pipe->Full; }
+  /// Water below a depth or a water level (ft), and the flow (ft^3/s) it carries.
+  WaterBelow Water(double y) const;
+  double Carried(double y) const;
+  SearchTrace Trace(double from, double to, double target, const std::function<double(double)>& curve) const;
+  /// Depth of the water (ft): of a surveyed section above its lowest point.
+  double Depth() const { return found_.Depth - low_; }
+
+  double InUnits(double value, int quantity) const;
+  std::string Fine(double feet) const;  ///< a length with the decimals of 1e-6 ft and its unit
+  std::string FineNumber(double feet, int moreDecimals = 0) const;
+  std::string WithUnit(double value, UnitKind unit) const;  ///< five digits, from units shown
+  void Heading(const std::string& text) { lines_.push_back({WorkingLine::Kind::Heading, {text}}); }
+  void Say(const std::string& text) { lines_.push_back({WorkingLine::Kind::Sentence, {text}}); }
+  void Equal(std::vector<std::string> parts) {
+    lines_.push_back({WorkingLine::Kind::Equation, std::move(parts)});
+  }
+  void Heads(std::vector<std::string> cells) {
+    lines_.push_back({WorkingLine::Kind::Head, std::move(cells)});
+  }
+  void Row(std::vector<std::string> cells) { lines_.push_back({WorkingLine::Kind::Row, std::move(cells)}); }
+  void Add(std::initializer_list<Equation> equations, const ShownNumbers& numbers,
+           const std::string& index = "") {
+    for (const Equation& equation : equations) AddEquation(lines_, equation, numbers, index);
+  }
+
+  const frmMain& main_;
+  const ChannelRecord& record_;
+  const Findings& found_;
+  const bool metric_;
+  WorkingLines lines_;
+  ShownNumbers numbers_;  // of the solved problem
+  double low_ = 0;        // lowest elevation of a surveyed section, else 0 (ft)
+};
