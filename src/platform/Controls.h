@@ -84,6 +84,11 @@ struct OptionButton : FocusControl, HasCaption, HasClick {
   Property<bool> Value{false};
 };
 
+/// On or off by itself.
+struct CheckBox : OptionButton {
+  using OptionButton::OptionButton;
+};
+
 /// A stretch of a text, in characters (code points).
 struct TextRange {
   int Start = 0;

@@ -26,6 +26,11 @@ struct ClipShape {
 };
 ClipShape ShapeOfClip(std::string_view text);
 
+struct GridCell {
+  int Row = 0, Col = 0;
+  bool operator==(const GridCell&) const = default;
+};
+
 /// Row 0 and column 0 are heads: fixed on the screen and never current. Entering the grid asks no other
 /// control for its Validate.
 class FlexGrid : public FocusControl {
@@ -53,6 +58,8 @@ class FlexGrid : public FocusControl {
   void SetClip(std::string_view text);
 
   Property<std::vector<int>> ColWidths;  ///< twips
+  /// A cell whose text cannot be used as it is: the view tints it. None in row 0.
+  Property<GridCell> Offending;
 
   std::function<void()> Press;  ///< a mouse button goes down on a cell, before it becomes the current one
   std::function<void()> DblClick;

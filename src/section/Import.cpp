@@ -13,6 +13,7 @@ Import::Import(std::string_view bytes, int unitSystem, const Watch& watch)
   if (sections_.empty()) sections_ = SwmmSections(*text_);
   if (sections_.empty()) ReadColumns(std::nullopt);
   Update();
+  watch_ = [](double) {};  // what follows a choice is not to be cancelled halfway
 }
 
 std::vector<std::string> Import::Notes() const {
@@ -39,8 +40,13 @@ void Import::ChooseSection(std::size_t index) {
 }
 
 void Import::ChooseSeparator(char separator) {
-  ReadColumns(separator);
-  Update();
+  try {
+    ReadColumns(separator);
+    Update();
+  } catch (const std::runtime_error& refusal) {
+    sheet_.Separator = separator;
+    Give(refusal.what());
+  }
 }
 
 void Import::ChooseSign(const NumberLocale& spelling) {
@@ -105,14 +111,19 @@ void Import::Update() {
   try {
     Section section = Chosen();
     before_ = section.Points;
+    unit_ = {section.XUnit, section.ZUnit, terms_.Unit, section.AsksUnit};
     const auto columns = ColumnsChange(CurveOf(section.Points));
     result_ = Mend(std::move(section), terms_);
     if (columns) result_.Changes.insert(result_.Changes.begin(), *columns);
   } catch (const std::runtime_error& refusal) {
-    before_.clear();
-    result_ = {};
-    result_.Reason = refusal.what();
+    Give(refusal.what());
   }
+}
+
+void Import::Give(const std::string& reason) {
+  before_.clear();
+  result_ = {};
+  result_.Reason = reason;
 }
 
 }  // namespace Survey

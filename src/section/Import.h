@@ -6,6 +6,14 @@
 
 namespace Survey {
 
+/// The unit of length of what is being imported.
+struct FileUnit {
+  std::optional<LengthUnit> X, Z;    ///< as the file names it
+  std::optional<LengthUnit> Chosen;  ///< by the person
+  bool Asked = false;                ///< the format has one, and the file does not name it
+  bool Named() const { return X || Z; }
+};
+
 class Import {
  public:
   /// Reads a file or a clipboard. Where the file holds several sections the first is chosen.
@@ -18,10 +26,13 @@ class Import {
   const Sheet& TheSheet() const { return sheet_; }
   const Columns& TheColumns() const { return columns_; }
   const Sign& TheSign() const { return sign_; }
+  const FileUnit& TheUnit() const { return unit_; }
+  std::size_t ChosenSection() const { return chosen_; }
   /// What was left out while reading, in sentences.
   std::vector<std::string> Notes() const;
 
-  // What the person chooses. Each works out the result anew.
+  // What the person chooses. Each works out the result anew. A separator that leaves no sheet is said as the
+  // reason.
   void ChooseSection(std::size_t index);
   void ChooseSeparator(char separator);
   void ChooseSign(const NumberLocale& spelling);
@@ -38,6 +49,8 @@ class Import {
  private:
   void ReadColumns(std::optional<char> separator);
   void Update();
+  /// No section, for this reason.
+  void Give(const std::string& reason);
   Section Chosen() const;
   /// The columns in another order than by place, as a change that can be left out.
   std::optional<Change> ColumnsChange(const Curve& after);
@@ -49,6 +62,7 @@ class Import {
   Sheet sheet_;
   Columns columns_, byHead_, byPlace_;
   Sign sign_;
+  FileUnit unit_;
   Terms terms_;
   std::vector<Point> before_;
   Mended result_;

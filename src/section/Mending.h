@@ -23,11 +23,12 @@ enum class Kind {
   FrontN,
   Thinning
 };
+inline constexpr int KindCount = 12;
 
 struct Change {
   Kind What;
   std::string Text;  ///< what is changed and why, in sentences
-  Effect Change;
+  Effect Effects;
   bool On;  ///< it was made
 };
 

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "engine/NumberText.h"
-#include "platform/Services.h"
 #include "section/IrregTable.h"
 
 namespace {
@@ -75,14 +74,18 @@ std::string Respelled(std::string_view rows, const NumberLocale& other) {
 
 namespace PastedSign {
 
+BoxAnswer Ask(const std::string& doubtful, const std::string& sign) {
+  return TheServices().messageBox.Show("\"" + doubtful + "\" reads as " +
+                                           PlainNumberInLocale(LeadingNumber(doubtful)) + " here. Is \"" +
+                                           sign + "\" the decimal sign of these points?",
+                                       "Warning", BoxIcon::Exclamation, BoxButtons::YesNoCancel);
+}
+
 std::optional<std::string> Settled(std::string rows, const GridBlock& block) {
   const std::optional<NumberLocale> other = OtherSign();
   const std::string doubtful = other ? Doubtful(rows, block, *other) : "";
   if (doubtful.empty()) return rows;
-  const BoxAnswer answer = TheServices().messageBox.Show(
-      "\"" + doubtful + "\" reads as " + PlainNumberInLocale(LeadingNumber(doubtful)) + " here. Is \"" +
-          other->DecimalSign + "\" the decimal sign of these points?",
-      "Warning", BoxIcon::Exclamation, BoxButtons::YesNoCancel);
+  const BoxAnswer answer = Ask(doubtful, other->DecimalSign);
   if (answer == BoxAnswer::Cancel) return std::nullopt;
   return answer == BoxAnswer::Yes ? Respelled(rows, *other) : rows;
 }

@@ -23,7 +23,7 @@ std::string InQuotes(std::string_view text) {
 }
 
 std::string Counted(std::size_t count, const std::string& thing) {
-  return count == 1 ? "one " + thing : std::to_string(count) + " " + thing + "s";
+  return std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
 }
 
 }  // namespace Survey

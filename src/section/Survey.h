@@ -66,7 +66,7 @@ using Watch = std::function<void(double share)>;
 
 std::string InQuotes(std::string_view text);
 
-/// "one thing", "2 things".
+/// "1 thing", "2 things".
 std::string Counted(std::size_t count, const std::string& thing);
 
 }  // namespace Survey

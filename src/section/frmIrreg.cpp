@@ -3,19 +3,14 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <stdexcept>
 
-#include "app/Declarations.h"
-#include "app/ExportFile.h"
 #include "app/Units.h"
 #include "engine/ChannelState.h"
 #include "engine/NumberText.h"
-#include "files/WholeFile.h"
 #include "platform/Keys.h"
 #include "platform/Services.h"
-#include "section/Import.h"
+#include "section/ImportSurvey.h"
 #include "section/PastedSign.h"
-#include "section/PointsCsv.h"
 
 namespace {
 
@@ -23,36 +18,12 @@ using IrregTable::Elevation;
 using IrregTable::ManningN;
 using IrregTable::Station;
 
-constexpr const char* Filter = "Point Lists (*.csv;*.txt)|*.csv;*.txt|All Files (*.*)|*.*";
-
 std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
 }
 
-void Complain(const std::string& text) {
-  TheServices().messageBox.Show(text, Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);
-}
-
 void Warn(const std::string& text) {
   TheServices().messageBox.Show(text, "Warning", BoxIcon::Exclamation, BoxButtons::Ok);
-}
-
-/// The points of a file that needs no mending. std::runtime_error where there is something to be mended or to
-/// be asked.
-IrregTable::Table PointsOf(const std::string& bytes) {
-  const Survey::Import import(bytes, ChannelState.UnitsEorM, [](double) {});
-  if (const std::string& doubtful = import.TheSign().Doubtful; !doubtful.empty())
-    throw std::runtime_error(Survey::InQuotes(doubtful) + " can be read in two ways.");
-  if (!import.Result().Changes.empty()) throw std::runtime_error(import.Result().Changes.front().Text);
-  if (!import.Result().Reason.empty() && !import.Result().LacksN)
-    throw std::runtime_error(import.Result().Reason);
-  return import.Result().Table;
-}
-
-/// What an export says of itself.
-std::string Remark(const std::string& unit) {
-  return std::string(Declarations::AppTitle) + ": " + Declarations::FileTitle + ", " +
-         TheServices().clock.ShortDate() + ", lengths in " + unit;
 }
 
 constexpr std::size_t LongestClip = std::size_t{64} << 20U;  // bytes
@@ -74,16 +45,6 @@ std::optional<std::string> ClipboardRows() {
   if (text.size() <= LongestClip && !HasLongCell(text)) return text;
   Warn("The text on the clipboard is too long for the table.");
   return std::nullopt;
-}
-
-std::string Spelled(const ClipShape& shape) {
-  return std::to_string(shape.Rows) + (shape.Rows == 1 ? " row" : " rows") + " and " +
-         std::to_string(shape.Cols) + (shape.Cols == 1 ? " column" : " columns");
-}
-
-bool Confirms(const std::string& question) {
-  return TheServices().messageBox.Show(question, "Warning", BoxIcon::Exclamation, BoxButtons::YesNo) ==
-         BoxAnswer::Yes;
 }
 
 /// How a key ends the edit of a cell, and how far it moves the current cell.
@@ -170,17 +131,8 @@ void frmIrreg::Form_Load() {
   MSChart1.YTitle = MSFlexGrid1.Text(0, Elevation);
   opened_ = Cells();
   EnableTravel();
+  ShowOffence();
   LoadChart();
-}
-
-void frmIrreg::LoadChart() {
-  const IrregTable::Table table = Cells();
-  std::vector<XYChart::Row> points;
-  for (int row = 1; row <= IrregTable::PointCount(table); ++row) {
-    const auto& texts = table[Index(row)];
-    points.push_back({LeadingNumber(texts[Station]), LeadingNumber(texts[Elevation])});
-  }
-  MSChart1.Load(std::move(points), 2);
 }
 
 // Editing a cell.
@@ -257,13 +209,13 @@ void frmIrreg::Paste(const std::string& copied) {
 void frmIrreg::PasteWidened() {
   const std::optional<std::string> rows = ClipboardRows();
   if (!rows) return;
+  const std::string survey = TheServices().clipboard.Text();
+  if (HasHeadRow(survey)) return TakeOver(ImportedPoints(survey));
   const GridBlock at = MSFlexGrid1.Selection;
   if (at.Row == at.RowSel && at.Col == at.ColSel) {
     const ClipShape there = ShapeOfClip(*rows);
-    const ClipShape room{MSFlexGrid1.Rows() - at.Row, MSFlexGrid1.Cols() - at.Col};
-    if (there.Rows > room.Rows || there.Cols > room.Cols)
-      return Warn("The clipboard has " + Spelled(there) + ". From the current cell on, " + Spelled(room) +
-                  " fit. Nothing was pasted.");
+    if (at.Row + there.Rows > MSFlexGrid1.Rows() || at.Col + there.Cols > MSFlexGrid1.Cols())
+      return TakeOver(ImportedPoints(survey));
     MSFlexGrid1.Selection = {at.Row, at.Col, at.Row + there.Rows - 1, at.Col + there.Cols - 1};
   }
   Paste(*rows);
@@ -305,6 +257,13 @@ void frmIrreg::cmdDel_Click() {
   LoadChart();
 }
 
+void frmIrreg::TakeOver(const std::optional<IrregTable::Table>& points) {
+  if (!points) return;
+  Recorded([&] { ShowCells(*points); });
+  MSFlexGrid1.SelectCell(1, Station);
+  LoadChart();
+}
+
 // Undo and redo.
 
 IrregTable::Table frmIrreg::Cells() const {
@@ -343,6 +302,7 @@ void frmIrreg::Recorded(Edit edit) {
     }
   }
   if (change.empty()) return;
+  ShowOffence();
   done_.push_back(std::move(change));
   undone_.clear();
   EnableTravel();
@@ -356,6 +316,7 @@ void frmIrreg::Travel(std::vector<GridChange>& from, std::vector<GridChange>& to
   from.pop_back();
   for (const CellChange& each : to.back()) MSFlexGrid1.SetText(each.Row, each.Column, each.*text);
   MSFlexGrid1.SelectCell(to.back().front().Row, to.back().front().Column);
+  ShowOffence();
   EnableTravel();
   LoadChart();
 }
@@ -370,89 +331,4 @@ void frmIrreg::mnuEditUndo_Click() {
 }
 void frmIrreg::mnuEditRedo_Click() {
   Travel(undone_, done_, &CellChange::After);
-}
-
-// The table as a whole.
-
-bool frmIrreg::CheckTable() {
-  const auto failure = IrregTable::CheckTable(Cells());
-  if (!failure) return true;
-  TheServices().messageBox.Show(std::string(IrregTable::MessageOf(failure->Code)), "Warning",
-                                BoxIcon::Information, BoxButtons::Ok);
-  MSFlexGrid1.SelectCell(failure->Row, failure->Column);
-  MoveFocus(MSFlexGrid1);
-  return false;
-}
-
-void frmIrreg::LoadArray() {
-  EmptySection();  // a point or an n taken out must not come back
-  const IrregTable::Table table = Cells();
-  ChannelState.IrregPointCount = IrregTable::PointCount(table);
-  for (int row = 1; row <= ChannelState.IrregPointCount; ++row) {
-    for (const int col : {Station, Elevation, ManningN})
-      ChannelState.IrregPoints[Index(row)][Index(col)] = table[Index(row)][Index(col)];
-  }
-}
-
-void frmIrreg::cmdOK_Click() {
-  if (ChannelState.IrregPointCount > IrregTable::Rows &&
-      !Confirms("Discard point 101? The table has room for 100."))
-    return;
-  if (!CheckTable()) return;
-  LoadArray();
-  settled_ = true;
-  Unload();
-  Declarations::DataChanged = true;
-}
-
-void frmIrreg::cmdCancel_Click() {
-  settled_ = true;
-  Unload();
-}
-
-bool frmIrreg::Form_QueryUnload() {
-  return settled_ || CellsInWork() == opened_ || Confirms("Discard the changed points?");
-}
-
-std::optional<frmIrreg::Points> frmIrreg::ChangedPoints() const {
-  const IrregTable::Table cells = CellsInWork();
-  if (settled_ || cells == opened_) return std::nullopt;
-  Points points;
-  for (const auto& row : cells) points.push_back({row[Station], row[Elevation], row[ManningN]});
-  points.erase(points.begin());
-  if (ChannelState.IrregPointCount > IrregTable::Rows) {
-    const auto& last = ChannelState.IrregPoints[IrregTable::Rows + 1];
-    points.push_back({last[Station], last[Elevation], last[ManningN]});
-  }
-  while (!points.empty() && points.back() == Points::value_type{}) points.pop_back();
-  return points;
-}
-
-void frmIrreg::mnuFileImport_Click() {
-  CommitEdit();
-  const auto path =
-      TheServices().fileDialog.Choose({false, "Import Points", Declarations::UserPath, Filter, ""});
-  if (!path) return;
-  std::string bytes;
-  try {
-    bytes = WholeFile::Read(*path, Survey::MaxBytes);
-  } catch (const std::runtime_error&) {
-    return Complain("The file cannot be read.");
-  }
-  try {
-    Recorded([&] { ShowCells(PointsOf(bytes)); });
-  } catch (const std::runtime_error& refusal) {
-    return Complain(refusal.what());
-  }
-  MSFlexGrid1.SelectCell(1, Station);
-  LoadChart();
-}
-
-void frmIrreg::mnuFileExport_Click() {
-  CommitEdit();
-  if (CheckTable()) {
-    const std::string unit = UnitLabel(ChannelState.UnitsEorM, Units::Length);
-    ExportFile({"Export Points", Filter, "csv"},
-               [&](const std::string&) { return PointsCsv::Format(Cells(), unit, Remark(unit)); });
-  }
 }

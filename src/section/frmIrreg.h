@@ -12,6 +12,7 @@
 #include "platform/FlexGrid.h"
 #include "platform/XYChart.h"
 #include "section/IrregTable.h"
+#include "section/Outline.h"
 
 class frmIrreg : public Form {
  public:
@@ -50,13 +51,21 @@ class frmIrreg : public Form {
   void mnuEditUndo_Click();
   void mnuEditRedo_Click();
 
+  /// Shows the survey of a file in the import dialog, as the menu command and a dropped file do.
+  void ImportFile(const std::string& path);
+
+  /// The ground as far as each row has a station and an elevation.
+  Outline::Line Ground() const;
+  /// The parts of it with one n each.
+  std::vector<Outline::Subsection> Subsections() const;
+
   // What the keys of a desktop do beyond the buttons.
   /// Empties the selected block.
   void ClearBlock();
   /// Copies the selected block and empties it.
   void CutBlock();
-  /// Pastes; where one cell is selected, the block first widens to what the clipboard holds. What does not
-  /// fit between that cell and the end of the table is not pasted at all.
+  /// Pastes; where one cell is selected, the block first widens to what the clipboard holds. What has a head,
+  /// or more rows or columns than there are from here on, goes through the import dialog.
   void PasteWidened();
 
   using Points = std::vector<std::array<EngineValue, 3>>;  ///< station, elevation, n
@@ -79,6 +88,8 @@ class frmIrreg : public Form {
   /// The cells, with the text of an edit under way.
   IrregTable::Table CellsInWork() const;
   void ShowCells(const IrregTable::Table& table);
+  /// Puts imported points in the place of those in the table.
+  void TakeOver(const std::optional<IrregTable::Table>& points);
   /// Makes a change of the grid that can be undone.
   template <class Edit>
   void Recorded(Edit edit);
@@ -86,6 +97,8 @@ class frmIrreg : public Form {
   void Travel(std::vector<GridChange>& from, std::vector<GridChange>& to, std::string CellChange::*text);
   void EnableTravel();
 
+  /// Tints the text that OK would refuse first. What is still missing is no mistake yet.
+  void ShowOffence();
   /// True when the table is accepted; else says why and goes to the failing cell.
   bool CheckTable();
   /// Writes rows from the clipboard into the selected block.

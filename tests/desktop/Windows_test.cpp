@@ -22,6 +22,7 @@
 #include "desktop/section/PointGrid.h"
 #include "engine/NumberText.h"
 #include "help/frmAbout.h"
+#include "section/frmIrreg.h"
 
 namespace {
 
@@ -45,6 +46,10 @@ class Windows : public Desk {
     }
     hands_.Click(main_.mnuOptionsIrreg);
     InModal(main_.cmdIrreg, check);
+    InModal(main_.cmdIrreg, [&](Form& editor) {
+      services_.fileDialog.Choices = {SURVEY};
+      InModal(dynamic_cast<frmIrreg&>(editor).mnuFileImport, check);
+    });
   }
 
   void InEveryType(const std::function<void()>& check) {
@@ -214,7 +219,10 @@ TEST_F(Windows, TabGoesInReadingOrder) {
       {"frmGraph", "MSChart1"},
       {"frmTableSettings", "cbxVary tbMin tbMax tbIncrement cmdOK cmdCancel"},
       {"frmTable", "MSFlexGrid1"},
-      {"frmIrreg", "MSFlexGrid1 cmdCopy cmdPaste cmdIns cmdDel MSChart1 cmdOK cmdCancel"}};
+      {"frmIrreg", "MSFlexGrid1 cmdCopy cmdPaste cmdIns cmdDel MSChart1 cmdOK cmdCancel"},
+      {"frmImport",
+       "MSFlexGrid1 cbxSeparator cbxSign cbxStation cbxElevation cbxRoughness cbxUnit MSChart1 chkChange_0 "
+       "chkChange_3 cmdOK cmdCancel"}};
   hands_.Click(main_.mnuOptionsTrap);
   hands_.Focus(main_.tbProjName);
   InEveryWindow([&](Form& form) {

@@ -7,6 +7,7 @@
 #include <regex>
 #include <set>
 
+#include "section/frmIrreg.h"
 #include "support/ProgramStage.h"
 #include "support/TestFolder.h"
 
@@ -48,6 +49,10 @@ TEST_P(ManualAndProgram, EveryWindowHasItsPageAndEveryControlItsExplanation) {
     const std::string& page = pages.at(form.Name() + ".html");
     for (const Control* const control : form.Controls())
       EXPECT_THAT(page, HasSubstr(" id=\"" + control->Name() + "\"")) << form.Name();
+    if (auto* const editor = dynamic_cast<frmIrreg*>(&form)) {
+      Screen.Then(visit);
+      editor->ImportFile(SURVEY);
+    }
     if (!form.Name().ends_with("Settings")) return;
     Screen.Then(visit);  // a rating window opens when its settings are accepted
     dynamic_cast<Button&>(*form.Find("cmdOK")).Click();

@@ -51,6 +51,7 @@ const Shape Shapes[] = {
     {"plain.csv", Channel, "", ""},
     {"head.csv", Channel, "", ""},
     {"wrong-order.csv", Channel, "columns", ""},
+    {"order-and-unit.csv", MetricInFeet, "columns units", ""},
     {"point-numbers.csv", "0 10, 5 4, 15 4, 20 10", "columns", "The first points have no n: enter one."},
     {"point-numbers-no-head.csv", "", "", "No column is known as the station: choose it in the lists."},
     {"codes-no-head.csv", Channel, "", ""},
@@ -289,12 +290,12 @@ TEST_P(SurveyFiles, EffectsAreThoseOfTheEngine) {
     EXPECT_NEAR(before[i].first, after[i].first, 1e-12);
     largest = std::min(largest, after[i].second / before[i].second - 1);
   }
-  const Effect& effect = import.Result().Changes.at(0).Change;
+  const Effect& effect = import.Result().Changes.at(0).Effects;
   EXPECT_LT(largest, -0.05) << "cut at each point it carried more";
   EXPECT_NEAR(effect.Flow.value(), largest, 1e-12);
   EXPECT_NEAR(effect.Area.value(), 0, 1e-12);
   const Import metres = Read("metres.csv");
-  EXPECT_NEAR(metres.Result().Changes.at(0).Change.Area.value(), 3.28084 * 3.28084 - 1, 1e-3);
+  EXPECT_NEAR(metres.Result().Changes.at(0).Effects.Area.value(), 3.28084 * 3.28084 - 1, 1e-3);
 }
 
 TEST_P(SurveyFiles, ThinningKeepsWhatShapesTheSection) {
@@ -309,8 +310,8 @@ TEST_P(SurveyFiles, ThinningKeepsWhatShapesTheSection) {
     })) << station;
   }
   // The V is 6 ft deep and its teeth 0.01 ft high: leaving out 21 of them hardly shows.
-  EXPECT_LT(std::abs(mended.Changes[0].Change.Area.value()), 0.05);
-  EXPECT_TRUE(mended.Changes[0].Change.Flow.has_value());
+  EXPECT_LT(std::abs(mended.Changes[0].Effects.Area.value()), 0.05);
+  EXPECT_TRUE(mended.Changes[0].Effects.Flow.has_value());
 }
 
 /// By hand: the triangles of the inner points have 2, 0.5 and 3 times half a unit; without the second the

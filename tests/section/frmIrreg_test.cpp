@@ -4,9 +4,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include "app/Declarations.h"
 #include "engine/ChannelState.h"
 #include "files/WholeFile.h"
+#include "section/frmImport.h"
 #include "support/FakeServices.h"
 #include "support/LocaleTest.h"
 #include "support/ScriptedHost.h"
@@ -48,37 +50,33 @@ TEST_P(PointEditor, OneCellWidensToWhatIsPasted) {
   EXPECT_EQ(grid_.Clip(), "1\r3");
 }
 
-TEST_P(PointEditor, WhatDoesNotFitIsNotPasted) {
+TEST_P(PointEditor, WhatDoesNotFitOrHasAHeadGoesThroughTheImportDialog) {
   std::string rows;
-  for (int i = 0; i < 100; ++i) rows += "5\r\n";
+  for (int i = 0; i < 100; ++i) rows += std::to_string(i) + "\t5\r\n";
   struct Case {
     int Row, Col;
-    std::string Copied, Warning;
+    std::string Copied;
+    bool Dialog;
   };
-  const std::string then = " fit. Nothing was pasted.";
-  const Case cases[] = {
-      {1, 1, rows, ""},
-      {100, 3, "1\r\n", ""},
-      {1, 1, rows + "5",
-       "The clipboard has 101 rows and 1 column. From the current cell on, 100 rows and 3 columns"},
-      {2, 1, rows,
-       "The clipboard has 100 rows and 1 column. From the current cell on, 99 rows and 3 columns"},
-      {100, 3, "1\t2", "The clipboard has 1 row and 2 columns. From the current cell on, 1 row and 1 column"},
-  };
+  const std::string head = "Elevation\tStation\tn\r\n10\t0\t1\r\n8\t5\t\r\n";
+  const Case cases[] = {{1, 1, rows, false}, {100, 3, "1\r\n", false}, {1, 1, rows + "100\t5", true},
+                        {2, 1, rows, true},  {100, 3, "1\t2", true},   {1, 1, head, true}};
   for (const Case& each : cases) {
     editor_.cmdIns_Click();  // so that there is something to change
     Select({each.Row, each.Col, each.Row, each.Col});
     const std::string before = grid_.Text(each.Row, each.Col);
     Copied(each.Copied);
+    bool opened = false;
+    if (each.Dialog) windows_.Then<frmImport>([&](frmImport&) { opened = true; });
     editor_.PasteWidened();
-    EXPECT_EQ(grid_.Text(each.Row, each.Col), each.Warning.empty() ? each.Copied.substr(0, 1) : before);
-    const auto boxes = std::exchange(fakes_.messageBox.Boxes, {});
-    ASSERT_EQ(boxes.size(), each.Warning.empty() ? 0U : 1U) << each.Copied.size();
-    if (boxes.empty()) continue;
-    EXPECT_EQ(boxes[0].Text, each.Warning + then);
-    EXPECT_EQ(boxes[0].Title, "Warning");
-    EXPECT_EQ(grid_.Selection.Get(), (GridBlock{each.Row, each.Col, each.Row, each.Col}));
+    EXPECT_EQ(opened, each.Dialog) << each.Copied;
+    EXPECT_EQ(grid_.Text(each.Row, each.Col) == before, each.Dialog) << each.Copied;
   }
+  windows_.Then<frmImport>([](frmImport& form) { form.cmdOK.Click(); });
+  editor_.PasteWidened();
+  EXPECT_EQ(grid_.Text(1, 2), "10") << "the head names the columns";
+  EXPECT_EQ(grid_.Text(100, 1), "") << "they take the place of all points";
+  EXPECT_TRUE(fakes_.messageBox.Boxes.empty());
   for (const std::size_t length : {std::size_t{100'001}, std::size_t{65} << 20U}) {
     Select({1, 1, 1, 1});
     Copied(std::string(length, length > 100'001 ? '\t' : '7'));
@@ -185,6 +183,7 @@ TEST_P(PointEditor, PointsGoOutAndComeIn) {
   Copied("7\t7\t7");
   editor_.cmdPaste_Click();
   fakes_.fileDialog.Choices = {file_};
+  windows_.Then<frmImport>([](frmImport& form) { form.cmdOK.Click(); });
   editor_.mnuFileImport_Click();
   EXPECT_EQ(grid_.Text(2, 1), Spelled("1005.5"));
   EXPECT_EQ(grid_.Text(3, 3), "") << "the points that were there are gone";
@@ -194,16 +193,34 @@ TEST_P(PointEditor, PointsGoOutAndComeIn) {
 }
 
 TEST_P(PointEditor, WhatCannotBeReadOrWrittenChangesNothing) {
-  WholeFile::Write(file_, "0;1\n2;x\n");
+  const auto refusal = [this](const std::string& bytes) {
+    WholeFile::Write(file_, bytes);
+    fakes_.fileDialog.Choices = {file_};
+    editor_.mnuFileImport_Click();
+    EXPECT_EQ(grid_.Text(1, 1), "");
+    const auto boxes = std::exchange(fakes_.messageBox.Boxes, {});
+    return boxes.size() == 1 ? boxes[0].Text : "no message";
+  };
+  windows_.Then<frmImport>([](frmImport& form) {
+    EXPECT_EQ(form.lblReason.Caption.Get(), "Line 2, column 2: \"x\" is not a number.");
+    EXPECT_FALSE(form.cmdOK.Enabled);
+  });
+  EXPECT_EQ(refusal("0;1\n2;x\n"), "no message") << "another column may be chosen there";
+  EXPECT_EQ(refusal("0;\"1\n"), "Line 1, column 2: A quotation mark is not closed.");
+  std::filesystem::resize_file(file_, (std::size_t{64} << 20U) + 1);
   fakes_.fileDialog.Choices = {file_, "/nowhere/points.csv", std::nullopt};
   for (int i = 0; i < 3; ++i) editor_.mnuFileImport_Click();
   ASSERT_EQ(fakes_.messageBox.Boxes.size(), 2U);
-  EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "Line 2, column 2: \"x\" is not a number.");
+  EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "The file is larger than 64 MiB.");
   EXPECT_EQ(fakes_.messageBox.Boxes[1].Text, "The file cannot be read.");
-  EXPECT_EQ(grid_.Text(1, 1), "");
+  fakes_.messageBox.Boxes.clear();
+  std::string many = "Station,Elevation,n\n";
+  for (int i = 0; i < 50000; ++i) many += std::to_string(i) + ",5,\n";
+  fakes_.progress.CancelAt = 0;
+  EXPECT_EQ(refusal(many), "no message") << "cancelled while reading";
   editor_.mnuFileExport_Click();
-  EXPECT_EQ(fakes_.messageBox.Boxes[2].Text, "Must have at least two rows of data.");
-  EXPECT_EQ(fakes_.fileDialog.Requests.size(), 3U) << "no file is asked for";
+  ASSERT_EQ(fakes_.messageBox.Boxes.size(), 1U);
+  EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "Must have at least two rows of data.");
 }
 
 TEST_P(PointEditor, AnEditUnderWayIsKeptByTheMenus) {

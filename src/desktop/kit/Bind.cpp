@@ -2,6 +2,7 @@
 #include "desktop/kit/Bind.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -24,6 +25,14 @@ Widget* Captioned(HasCaption& control, Widget* widget, std::string_view letters)
 
 void Press(const HasClick& control) {
   if (control.Click) control.Click();
+}
+
+template <class Widget>
+Widget* Checkable(OptionButton& option, Widget* made) {
+  auto* const widget = Captioned(option, Adopt(option, made), "");
+  Join(option.Value, widget, [](Widget& w, bool value) { w.setChecked(value); });
+  QObject::connect(widget, &Widget::clicked, widget, [&option] { Press(option); });
+  return widget;
 }
 
 }  // namespace
@@ -64,10 +73,11 @@ QPushButton* Push(Button& button, QWidget* parent, std::string_view letters) {
 }
 
 QRadioButton* Option(OptionButton& option, QWidget* parent) {
-  auto* const widget = Captioned(option, Adopt(option, new QRadioButton(parent)), "");
-  Join(option.Value, widget, [](QRadioButton& w, bool value) { w.setChecked(value); });
-  QObject::connect(widget, &QRadioButton::clicked, widget, [&option] { Press(option); });
-  return widget;
+  return Checkable(option, new QRadioButton(parent));
+}
+
+QCheckBox* Check(CheckBox& box, QWidget* parent) {
+  return Checkable(box, new QCheckBox(parent));
 }
 
 QListWidget* List(ListBox& list, QWidget* parent) {

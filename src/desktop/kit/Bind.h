@@ -13,6 +13,7 @@
 #include "platform/Controls.h"
 
 class QAction;
+class QCheckBox;
 class QComboBox;
 class QGroupBox;
 class QLabel;
@@ -72,6 +73,7 @@ BoxEdit* Box(TextBox& box, QWidget* parent);
 QLabel* Caption(Label& label, QWidget* parent, std::string_view letters = "");
 QPushButton* Push(Button& button, QWidget* parent, std::string_view letters = "");
 QRadioButton* Option(OptionButton& option, QWidget* parent);
+QCheckBox* Check(CheckBox& box, QWidget* parent);
 QListWidget* List(ListBox& list, QWidget* parent);
 QComboBox* Combo(ComboBox& list, QWidget* parent);
 /// The frame that a label heads.

@@ -23,23 +23,26 @@ namespace {
 constexpr int TwipsPerInch = 1440;
 constexpr int DragInterval = 40;  // ms for each row that is scrolled
 
-/// A tinted block, and in it the current cell with a frame.
+/// A tinted block, and in it the current cell with a frame; a text that cannot be used has a tint of its own.
 class CellDelegate : public QStyledItemDelegate {
  public:
-  explicit CellDelegate(QTableView* view) : QStyledItemDelegate(view), view_(*view) {}
+  CellDelegate(QTableView* view, const FlexGrid& grid)
+      : QStyledItemDelegate(view), view_(*view), grid_(grid) {}
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QStyleOptionViewItem cell = option;
     const QPalette& colours = option.palette;
     const QColor highlight = colours.color(QPalette::Active, QPalette::Highlight);
     const bool current = index == view_.currentIndex();
+    const bool offending = grid_.Offending.Get() == GridCell{index.row() + 1, index.column() + 1};
     cell.palette.setColor(QPalette::Highlight,
                           Appearance::Mixed(colours.color(QPalette::Base), highlight, 0.25));
     cell.palette.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
     cell.state.setFlag(QStyle::State_HasFocus, false);
-    if (current) {
+    if (current || offending) {
       cell.state.setFlag(QStyle::State_Selected, false);
-      painter->fillRect(option.rect, colours.brush(QPalette::Base));
+      painter->fillRect(option.rect,
+                        offending ? Appearance::OffendingGround(colours) : colours.color(QPalette::Base));
     }
     QStyledItemDelegate::paint(painter, cell, index);
     if (!current) return;
@@ -54,6 +57,7 @@ class CellDelegate : public QStyledItemDelegate {
 
  private:
   const QTableView& view_;
+  const FlexGrid& grid_;
 };
 
 }  // namespace
@@ -61,7 +65,7 @@ class CellDelegate : public QStyledItemDelegate {
 GridTable::GridTable(FlexGrid& grid, QWidget* parent)
     : QTableView(parent), grid_(grid), note_(new EmptyNote(viewport())) {
   setModel(new GridModel(grid, this));
-  setItemDelegate(new CellDelegate(this));
+  setItemDelegate(new CellDelegate(this, grid));
   setSelectionMode(NoSelection);  // the grid's own block is shown instead
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
@@ -87,6 +91,7 @@ GridTable::GridTable(FlexGrid& grid, QWidget* parent)
     PressHeader({1, section + 1}, {grid_.Rows() - 1, section + 1});
   });
   Bind::Join(grid.ColWidths, this, [](GridTable& table, const std::vector<int>&) { table.FitColumns(); });
+  Bind::Join(grid.Offending, this, [](GridTable& table, const GridCell&) { table.viewport()->update(); });
   Bind::Join(grid.Selection, this, [](GridTable& table, const GridBlock&) { table.ShowSelection(); });
 }
 

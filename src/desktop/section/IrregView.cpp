@@ -3,15 +3,21 @@
 
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMimeData>
+#include <QPointer>
 #include <QPushButton>
+#include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include "desktop/chart/ChartPlot.h"
 #include "desktop/chart/ChartWidget.h"
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/ScrollPage.h"
+#include "desktop/kit/Text.h"
 #include "desktop/section/PointGrid.h"
 #include "desktop/section/SectionBackdrop.h"
 
@@ -30,22 +36,46 @@ QVBoxLayout* TableColumn(PointGrid* grid, frmIrreg& form, QWidget* page) {
   return column;
 }
 
+/// A row without an elevation yet draws nothing.
+ChartPlot::Breaking Ground(const frmIrreg& form) {
+  ChartPlot::Breaking ground;
+  for (const Outline::Point& point : form.Ground()) ground.emplace_back(QPointF(point.X, point.Y));
+  return ground;
+}
+
 ChartWidget* Drawing(frmIrreg& form, QWidget* page) {
   ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, page));
   chart->SetTexts(IrregView::tr("The section is drawn here as its points are entered."), {});
-  chart->Dress([](ChartPlot& plot) {
+  chart->Dress([&form](ChartPlot& plot) {
     plot.NameLines({IrregView::tr("Ground")});
-    new SectionBackdrop(plot, {});  // the plot owns it
+    plot.ReplaceLine(0, Ground(form));
+    new SectionBackdrop(  // the plot owns it
+        plot, [&form] {
+          SectionDrawing drawing;
+          drawing.Subsections = form.Subsections();
+          return drawing;
+        });
   });
+  form.MSChart1.LoadView = [&form, guarded = QPointer<ChartWidget>(chart),
+                            load = std::move(form.MSChart1.LoadView)] {
+    if (guarded) guarded->Plot().ReplaceLine(0, Ground(form));
+    load();
+  };
   chart->LogarithmicAction()->setEnabled(false);
   // The table needs most of a small screen.
   chart->Plot().setMinimumSize(QSize(10, 8) * page->fontMetrics().height());
   return chart;
 }
 
+/// The path of the one file that is dragged; else empty.
+QString DraggedFile(const QMimeData& dragged) {
+  const QList<QUrl> urls = dragged.urls();
+  return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
 }  // namespace
 
-IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent) {
+IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent), form_(form) {
   AddMenu(tr("&File"), {{&form.mnuFileImport, "i", {}}, {&form.mnuFileExport, "e", {}}});
   QMenu* const edit =
       AddMenu(tr("&Edit"), {{&form.mnuEditUndo, "u", QKeySequence::Undo}, {&form.mnuEditRedo, "r", {}}});
@@ -70,5 +100,17 @@ IrregView::IrregView(frmIrreg& form, QWidget* parent) : FormWindow(parent) {
   ScrollPage::Fill(window, page, ending)->insertWidget(0, hint);
   setCentralWidget(window);
   grid->setFocus();
+  setAcceptDrops(true);
   SetSize({56, 38});
+}
+
+void IrregView::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DraggedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void IrregView::dropEvent(QDropEvent* event) {
+  const std::string path = FromQt(DraggedFile(*event->mimeData()));
+  event->acceptProposedAction();
+  // Afterwards: the dialog waits for the person, and the program dragged from for the drop to end.
+  QTimer::singleShot(0, this, [this, path] { form_.ImportFile(path); });
 }

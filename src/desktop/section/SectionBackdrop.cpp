@@ -17,14 +17,24 @@ constexpr double Clear = 0.7;
 
 }  // namespace
 
-SectionBackdrop::SectionBackdrop(ChartPlot& plot, const SectionDrawing& drawing)
-    : QCPLayerable(&plot), plot_(plot), drawing_(drawing) {
+SectionBackdrop::SectionBackdrop(ChartPlot& plot, std::function<SectionDrawing()> now)
+    : QCPLayerable(&plot),
+      plot_(plot),
+      now_(std::move(now)),
+      plainMargin_(plot.axisRect()->minimumMargins().top()) {
   const QString name = QStringLiteral("backdrop");
   plot.addLayer(name, plot.layer(QStringLiteral("grid")), QCustomPlot::limAbove);
   setLayer(name);
-  if (drawing_.Subsections.empty()) return;
+  QObject::connect(&plot, &QCustomPlot::beforeReplot, this, [this, &plot] { Update(plot); });
+  Update(plot);
+}
+
+void SectionBackdrop::Update(ChartPlot& plot) {
+  drawing_ = now_();
   QMargins margins = plot.axisRect()->minimumMargins();
-  margins.setTop(NameRows * QFontMetrics(plot.font()).height() + 3 * BarHeight());
+  margins.setTop(drawing_.Subsections.empty()
+                     ? plainMargin_
+                     : NameRows * QFontMetrics(plot.font()).height() + 3 * BarHeight());
   plot.axisRect()->setMinimumMargins(margins);
 }
 

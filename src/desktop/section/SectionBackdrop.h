@@ -3,20 +3,24 @@
 
 #include <qcustomplot.h>
 
+#include <functional>
+
 #include "section/frmSection.h"
 
 class ChartPlot;
 
 class SectionBackdrop : public QCPLayerable {
  public:
-  /// Becomes part of the plot, behind the lines, the first of which is the outline of the section.
-  SectionBackdrop(ChartPlot& plot, const SectionDrawing& drawing);
+  /// Becomes part of the plot, behind the lines, the first of which is the outline of the section. Each
+  /// drawing shows what `now` returns then.
+  SectionBackdrop(ChartPlot& plot, std::function<SectionDrawing()> now);
 
  protected:
   void draw(QCPPainter* painter) override;
   void applyDefaultAntialiasingHint(QCPPainter* painter) const override;
 
  private:
+  void Update(ChartPlot& plot);
   QPointF PixelOf(double x, double y) const;
   QPolygonF Ground() const;
   void DrawEarth(QCPPainter& painter) const;
@@ -26,5 +30,7 @@ class SectionBackdrop : public QCPLayerable {
   int BarHeight() const;
 
   const ChartPlot& plot_;
-  const SectionDrawing drawing_;
+  std::function<SectionDrawing()> now_;
+  SectionDrawing drawing_;
+  int plainMargin_;  // above a drawing without names of subsections
 };

@@ -45,7 +45,7 @@ SectionView::SectionView(frmSection& form, QWidget* parent) : FormWindow(parent)
       plot.DrawAsCircle(0, QPointF(centre.X, centre.Y), radius);
     }
     if (drawing.Pipe || isSurveyed) plot.ReplaceLine(1, Surfaces(drawing));
-    new SectionBackdrop(plot, drawing);  // the plot owns it
+    new SectionBackdrop(plot, [drawing] { return drawing; });  // the plot owns it
   });
   chart->LogarithmicAction()->setEnabled(false);
   chart->insertAction(chart->LogarithmicAction(), edit->actions().first());

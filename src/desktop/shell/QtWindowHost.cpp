@@ -17,6 +17,7 @@
 #include "desktop/rating/GraphView.h"
 #include "desktop/rating/TableSettingsView.h"
 #include "desktop/rating/TableView.h"
+#include "desktop/section/ImportView.h"
 #include "desktop/section/IrregView.h"
 #include "desktop/section/SectionView.h"
 #include "desktop/working/WorkingView.h"
@@ -51,8 +52,8 @@ QWidget* MakeView(Form& form) {
       Make<frmMannParam, MannParamView>, Make<frmGraphSettings, GraphSettingsView>,
       Make<frmGraph, GraphView>,         Make<frmTableSettings, TableSettingsView>,
       Make<frmTable, TableView>,         Make<frmIrreg, IrregView>,
-      Make<frmSection, SectionView>,     Make<frmWorking, WorkingView>,
-      Make<frmAbout, AboutView>};
+      Make<frmSection, SectionView>,     Make<frmImport, ImportView>,
+      Make<frmWorking, WorkingView>,     Make<frmAbout, AboutView>};
   for (const auto make : Makers) {
     if (QWidget* const view = make(form)) return view;
   }
