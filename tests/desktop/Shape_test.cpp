@@ -223,6 +223,16 @@ TEST_F(Drawn, CriticalDepthIsALineFromBankToBankWithItsName) {
   EXPECT_TRUE(LayOut(full).Critical.isEmpty()) << "at the crown there is no surface";
 }
 
+TEST_F(Drawn, TheDepthIsNamedClearOfASteepBank) {
+  ShapeInputs triangle = Trapezoid(2, 0, 0.5, 0);
+  triangle.CriticalDepth = 3;
+  const ShapeLayout layout = LayOut(triangle);
+  const double wall = layout.Ground.last().x();
+  for (const ShapeLabel& label : layout.Labels) {
+    if (label.Symbol == u"y") EXPECT_TRUE(label.Place.right() < wall || label.Place.left() > wall);
+  }
+}
+
 TEST_F(Drawn, NamesThePartsOfASectionWithTheirN) {
   ShapeInputs section = Section(3, {{0, 4}, {10, 2}, {20, 0}, {30, 2}, {40, 4}});
   section.Parts = {{0, 10, "0.08", 0}, {10, 30, "0.035", 1}, {30, 40, "0.08", 0}};

@@ -134,17 +134,34 @@ TEST_F(Windows, TheDrawingTellsMeasuresAsLongAsThereIsRoom) {
   SetNumberLocale({});
 }
 
+/// The sketch beside the inputs as it is drawn now.
+const ShapeLayout& Sketch(const QWidget& window) {
+  for (QWidget* const each : window.findChildren<QWidget*>()) {
+    auto* const shape = dynamic_cast<ShapeWidget*>(each);
+    if (shape == nullptr) continue;
+    shape->grab();
+    return shape->Layout();
+  }
+  throw std::runtime_error("no sketch");
+}
+
+TEST_F(Windows, TheDrawingFollowsASwitchOfUnits) {
+  TakePoints({{"100", "104", "0.03"}, {"110", "100", ""}, {"120", "104", ""}});
+  hands_.Click(main_.mnuSolveForFlow);
+  Enter({{&main_.tbSlope, "0.002"}, {&main_.tbDepth, "102"}});
+  for (Control* const units :
+       std::initializer_list<Control*>{&main_.mnuOptionsUnitsMetric, &main_.mnuOptionsUnitsEnglish}) {
+    hands_.Click(*units);
+    const ShapeLayout& drawn = Sketch(hands_.Window(main_));
+    ASSERT_EQ(drawn.Surfaces.size(), 1);
+    const QRectF ground = drawn.Ground.boundingRect();
+    EXPECT_NEAR((ground.bottom() - drawn.Surfaces[0].y1()) / ground.height(), 0.5, 0.01);
+  }
+}
+
 TEST_F(Windows, TheDrawingKeepsItsScaleUntilThePersonPauses) {
   EnterTrapezoid();
-  auto* const drawing = [this] {
-    for (QWidget* const each : hands_.Window(main_).findChildren<QWidget*>())
-      if (auto* const shape = dynamic_cast<ShapeWidget*>(each)) return shape;
-    return static_cast<ShapeWidget*>(nullptr);
-  }();
-  const auto scale = [drawing] {
-    drawing->grab();
-    return drawing->Layout().Scale.value().Across;
-  };
+  const auto scale = [this] { return Sketch(hands_.Window(main_)).Scale.value().Across; };
   hands_.Focus(main_.tbBaseWidth);
   const double before = scale();
   for (const char* const digit : {"2", "0", "."}) {

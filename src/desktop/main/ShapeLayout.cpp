@@ -285,9 +285,15 @@ class Layout {
     const double free = toe + wet * (water.right() - toe) - middle;
     if (water.height() > 1.4 * em_ && free > Width(labels_.Depth) + em_) {
       Put(labels_.Depth, {middle + 0.5 * em_, water.center().y()}, {0, 0.6});
-    } else {
-      Put(labels_.Depth, {middle, water.top() - em_}, {0.5, 1});
+      return;
     }
+    // Or above the water, clear of the banks.
+    const QPointF above(middle, water.top() - em_);
+    double across = 0.5;
+    for (const double other : {1.1, -0.1}) {
+      if (!IsFree(PlaceOf(labels_.Depth, above, {across, 1}))) across = other;
+    }
+    Put(labels_.Depth, above, {across, 1});
   }
 
   /// A right triangle under the bank, 1 upwards and z across; only the label where the bank is too steep for
