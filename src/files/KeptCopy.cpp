@@ -31,7 +31,7 @@ fs::path RecoveryFolder() {
 fs::path NewPath() {
   const fs::path folder = RecoveryFolder();
   if (folder.empty()) throw std::runtime_error("there is no folder for recovery copies");
-  fs::create_directories(folder);
+  if (fs::create_directories(folder)) fs::permissions(folder, fs::perms::owner_all);
   std::random_device random;
   std::ostringstream name;
   name << std::hex << random() << '-' << random() << Extension;
@@ -86,6 +86,7 @@ std::vector<fs::path> KeptCopy::All() {
   }
   std::ranges::sort(found, std::greater{});
   std::vector<fs::path> paths;
+  paths.reserve(found.size());
   for (auto& [time, path] : found) paths.push_back(std::move(path));
   return paths;
 }

@@ -40,7 +40,11 @@ void WriteInPlace(const fs::path& file, std::string_view bytes) {
   try {
     target.Write(bytes);
   } catch (const std::exception&) {
-    target.Write(before);
+    try {
+      target.Write(before);
+    } catch (const std::exception&) {
+      throw std::runtime_error("the file is damaged; what was to be saved is " + copy.Path().string());
+    }
     copy.Remove();
     throw;
   }

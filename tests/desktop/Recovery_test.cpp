@@ -33,8 +33,9 @@ class RecoveryTest : public Desk {
   }
 
   /// Presses the button with that caption in the box that is about to open.
-  static void Press(const char* button) {
-    WhenOpen<QMessageBox>([button](QMessageBox& box) {
+  static void Press(const char* button, const char* named = "") {
+    WhenOpen<QMessageBox>([button, named](QMessageBox& box) {
+      EXPECT_TRUE(box.text().contains(QLatin1String(named))) << box.text().toStdString();
       for (QAbstractButton* const each : box.buttons()) {
         if (each->text().remove(u'&') == QLatin1String(button)) return each->click();
       }
@@ -42,8 +43,8 @@ class RecoveryTest : public Desk {
       box.reject();
     });
   }
-  void Offer(const char* button) {
-    Press(button);
+  void Offer(const char* button, const char* named = "") {
+    Press(button, named);
     Recovery(main_).OfferLeftCopies();
   }
 
@@ -106,10 +107,12 @@ TEST_F(RecoveryTest, AnOpenedCopyStaysUntilTheWorkIsSafe) {
 
 TEST_F(RecoveryTest, ACopyGoesOnlyWhenTheUserSaysSo) {
   LeftCopy("Canal", "");
-  Offer("Ask later");
+  Offer("Ask later", "\"Canal\"");
   EXPECT_EQ(KeptName(), "Canal");
   EXPECT_EQ(main_.tbProjName.Text.Get(), "");
   Offer("Discard it");
+  LeftCopy("", "/rivers/18\" pipe.fwd");
+  Offer("Discard it", "18\" pipe.fwd");
   EXPECT_EQ(KeptName(), "0");
   EXPECT_EQ(std::distance(fs::directory_iterator(data_.Path() / "Flumewise" / "recovery"), {}), 0);
 }

@@ -120,7 +120,9 @@ bool Recovery::Offer(const std::filesystem::path& path) {
     return false;
   }
   const std::optional<bool> wanted =
-      Ask(ToQt(project.ProjName), QFileInfo(ToQt(path.string())).lastModified());
+      Ask(ToQt(project.ProjName.empty() ? std::filesystem::path(left->Origin()).filename().string()
+                                        : project.ProjName),
+          QFileInfo(ToQt(path.string())).lastModified());
   if (wanted == false) left->Remove();
   if (wanted != true) return false;
   Drop();
