@@ -229,7 +229,8 @@ TEST_F(Drawn, TheDepthIsNamedClearOfASteepBank) {
   const ShapeLayout layout = LayOut(triangle);
   const double wall = layout.Ground.last().x();
   for (const ShapeLabel& label : layout.Labels) {
-    if (label.Symbol == u"y") EXPECT_TRUE(label.Place.right() < wall || label.Place.left() > wall);
+    if (label.Symbol != u"y") continue;
+    EXPECT_TRUE(label.Place.right() < wall || label.Place.left() > wall);
   }
 }
 

@@ -107,11 +107,13 @@ TEST_F(Windows, AScreenReaderTellsCaptionUnitAndWhatIsWrong) {
   for (const Control* const control : main_.Controls()) {
     if (const auto* const box = dynamic_cast<const TextBox*>(control)) all += told(*box) + "; ";
   }
-  EXPECT_EQ(all,
-            "Project|; Flow|cfs; Depth|ft; Slope|ft/ft; Manning's n|; Base Width|ft; Left Side Slope|:1; "
-            "Right Side Slope|:1; Diameter|in; Velocity|fps; Velocity Head|ft; Flow Area|sf; "
-            "Wetted Perimeter|ft; Hydraulic Radius|ft; Top Width|ft; Froude Number|; Critical Depth|ft; "
-            "Critical Slope|ft; ");
+  EXPECT_EQ(
+      all,
+      "Project|; Flow|cfs; Depth|ft; Slope|ft/ft; Manning's n|; Base Width|ft; Left Side Slope|:1; "
+      "Right Side Slope|:1; Diameter|in; Velocity|fps; Velocity Head|ft; Flow Area|sf; "
+      "Wetted Perimeter|ft; Hydraulic Radius|ft; Top Width|ft; Froude Number|Subcritical: the water level "
+      "is governed from downstream; Critical Depth|ft; "
+      "Critical Slope|ft; ");
   hands_.Click(main_.mnuOptionsUnitsMetric);
   EXPECT_EQ(told(main_.tbArea), "Flow Area|m\u00B2");
   hands_.Type(main_.tbSlope, "2");

@@ -103,7 +103,8 @@ class Agreement : public ProgramStage {
     }
     if (ChannelState.ChannelType == ChannelTypes::Irregular) return;
     // In metric the box has the slope divided by a length; its tool tip gives the slope.
-    const std::string& tip = Main.tbCritS.ToolTip;
+    const std::string& tips = Main.tbCritS.ToolTip;
+    const std::string tip = tips.substr(0, tips.find('\n'));
     EXPECT_EQ(
         tip.empty() ? Text(Main.tbCritS) : tip.substr(tip.find(':') + 2, tip.rfind(' ') - tip.find(':') - 2),
         row[14]);

@@ -152,6 +152,7 @@ QWidget* MainView::StatusLine() {
   layout->addWidget(text, 1);
   QPushButton* const notes = Bind::Push(form_.cmdNotes, line);
   notes->setFlat(true);
+  notes->setAccessibleName(tr("Notes"));
   notes->setToolTip(tr("Open the working at the notes (F8)"));
   layout->addWidget(notes);
   Bind::Follow(form_.lblStatus.Caption, sign, [this, sign, em] {
