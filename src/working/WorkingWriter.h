@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/main/ChannelTypes.h"
 #include "app/main/frmMain.h"
 #include "engine/ChannelState.h"
 #include "notes/Findings.h"
@@ -57,8 +58,8 @@ class WorkingWriter {
   void WhatIf();
   void Notes();
 
-  bool IsPipe() const { return record_.ChannelType == ChannelTypes::Circular; }
-  bool IsSection() const { return record_.ChannelType == ChannelTypes::Irregular; }
+  static bool IsPipe() { return CurrentChannelType().Is == Shape::Pipe; }
+  static bool IsSection() { return CurrentChannelType().IsSurveyed(); }
   bool IsFull() const { return found_.Pipe && found_.Pipe->Full; }
   /// Water below a depth or a water level (ft), and the flow (ft^3/s) it carries.
   WaterBelow Water(double y) const;
