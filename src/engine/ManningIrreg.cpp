@@ -41,7 +41,7 @@ double SearchLevel(const Ground& ground, Known known, Ask ask) {
   const double low = ground.low;
   // Above all points: not below there is not below anywhere higher.
   const double crest = std::nextafter(ground.high, std::numeric_limits<double>::infinity());
-  const bool reachedAtCrest = known(crest) == false;
+  const bool reachedAtCrest = !known(crest).value_or(true);
   return Bisect(low, low + Constants::SearchDepth,
                 [&](double W) {
                   if (reachedAtCrest && W >= crest) return false;

@@ -188,7 +188,8 @@ TEST_F(Boxes, AHugePasteIsTakenWholeOrRefused) {
   for (const int length : {TextBox::LongestText + 1, 4'000'001}) {
     paste(length);
     EXPECT_EQ(main_.tbFlow.Text.Get(), "400");
-    EXPECT_EQ(main_.lblStatus.Caption.Get(), "The text on the clipboard is too long for a box. Depth solved: subcritical");
+    EXPECT_EQ(main_.lblStatus.Caption.Get(),
+              "The text on the clipboard is too long for a box. Depth solved: subcritical");
   }
   paste(TextBox::LongestText);
   EXPECT_EQ(main_.tbFlow.Text.Get().size(), 100'000U);
