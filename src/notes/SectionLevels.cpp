@@ -108,8 +108,7 @@ SectionGround::SectionGround(const PointTable& points, int count) {
   }
   elevations_.assign(e_.begin() + 1, e_.end());
   std::ranges::sort(elevations_);
-  const auto repeated = std::ranges::unique(elevations_);
-  elevations_.erase(repeated.begin(), repeated.end());
+  elevations_.erase(std::unique(elevations_.begin(), elevations_.end()), elevations_.end());
 }
 
 void SectionGround::Fill(WaterInterval& interval, double bottom, double top) const {
