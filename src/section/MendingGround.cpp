@@ -54,6 +54,7 @@ bool StationsFall(const std::vector<Point>& points) {
 /// subsection keeps its n and its ends.
 std::vector<Point> Reversed(const std::vector<Point>& points) {
   std::vector<std::optional<Number>> holding;  // behind each point
+  holding.reserve(points.size());
   for (const Point& point : points) holding.push_back(point.N || holding.empty() ? point.N : holding.back());
   std::vector<Point> reversed(points.rbegin(), points.rend());
   const std::size_t last = points.size() - 1;
