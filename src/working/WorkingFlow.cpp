@@ -271,7 +271,8 @@ void WorkingWriter::CriticalFlow() {
   critical["Z"] = {shown(factor(yc))};
   Add({SectionFactor}, critical, "c");
   Residual("Zc", yc, shown(factor(yc)), critical["Q / √g"].Value,
-           shown(factor(yc - Constants::SearchTolerance)), UnitKind::SectionFactor);
+           shown(factor(yc - std::min(Constants::SearchTolerance, (yc - low_) / 2))),
+           UnitKind::SectionFactor);
   if (!record_.CriticalSlope.IsDouble()) return;
   critical["S"] = {record_.CriticalSlope.Number()};
   Add({Radius,

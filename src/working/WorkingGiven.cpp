@@ -4,6 +4,7 @@
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "engine/Constants.h"
+#include "engine/EngineFault.h"
 #include "engine/ManningIrreg.h"
 #include "engine/NumberText.h"
 #include "print/ReportLines.h"
@@ -67,14 +68,18 @@ WorkingLines WorkingWriter::Write() {
     Say(main_.WhyNone() + ".");
     return std::move(lines_);
   }
-  if (IsSection()) low_ = ManningIrreg::IrregLowPoint(record_.IrregEnginePoints, record_.IrregPointCount);
-  Constants();
-  DepthSearch();
-  UniformFlow();
-  CriticalFlow();
-  MoreResults();
-  OtherDepths();
-  WhatIf();
+  // Beside the solution a step can leave the range of numbers where the solution itself does not.
+  try {
+    if (IsSection()) low_ = ManningIrreg::IrregLowPoint(record_.IrregEnginePoints, record_.IrregPointCount);
+    for (const auto theme :
+         {&WorkingWriter::Constants, &WorkingWriter::DepthSearch, &WorkingWriter::UniformFlow,
+          &WorkingWriter::CriticalFlow, &WorkingWriter::MoreResults, &WorkingWriter::OtherDepths,
+          &WorkingWriter::WhatIf}) {
+      (this->*theme)();
+    }
+  } catch (const EngineFault& fault) {
+    Say(std::string("The working ends here: ") + fault.what() + ".");
+  }
   Notes();
   return std::move(lines_);
 }

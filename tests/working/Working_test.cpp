@@ -261,6 +261,21 @@ TEST_P(WorkingTest, WithoutAResultItSaysWhatIsGivenAndWhyNothingFollows) {
   EXPECT_THAT(WorkingText(FormWorking(Main)), StartsWith("Given\nChannel type = Rectangular Channel\n"));
 }
 
+TEST_P(WorkingTest, NumbersFarFromAnyChannelLeaveNoLineWithoutANumber) {
+  TypeRectangle();
+  for (const char* const flow : {"1e-9", "1e-300", "1e-6", "1e9"}) {
+    for (const char* const width : {"1e-9", "10", "1e100"}) {
+      for (const char* const slope : {"1e-300", "0.9"}) {
+        Main.mnuSolveForDepth_Click();
+        Type(Main.tbFlow, flow);
+        Type(Main.tbBaseWidth, width);
+        Type(Main.tbSlope, slope);
+        EXPECT_THAT(WorkingText(FormWorking(Main)), Not(ContainsRegex("nan|inf|= *\n"))) << flow << width;
+      }
+    }
+  }
+}
+
 TEST_P(WorkingTest, TheWindowFollowsEveryKeystrokeWhileItIsOpen) {
   TypeRectangle();
   Main.mnuSolveWorking.Click();
