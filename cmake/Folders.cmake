@@ -8,10 +8,11 @@ function(flumewise_library name)
   target_link_libraries(flumewise_${name} PUBLIC flumewise_flags ${arg_DEPENDS})
 endfunction()
 
-# flumewise_tests(engine DEPENDS ...): the GoogleTest program of tests/<name>, each test known to ctest.
+# flumewise_tests(engine DEPENDS ...): the GoogleTest program of tests/<name>, the rooms inside it included, each test
+# known to ctest.
 function(flumewise_tests name)
   cmake_parse_arguments(arg "" "" "DEPENDS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   add_executable(${name}_tests ${sources})
   target_link_libraries(${name}_tests PRIVATE flumewise_flags ${arg_DEPENDS} GTest::gmock GTest::gtest_main)
   target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)

@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "../../fuzz/ProjectRoundTrip.h"
+#include "../../../fuzz/ProjectRoundTrip.h"
 #include "support/TestFolder.h"
 
 namespace {
