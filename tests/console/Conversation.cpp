@@ -4,8 +4,12 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <map>
+#include <utility>
 
 #include "app/Version.h"
+#include "console/Words.h"
 #include "support/LocaleTest.h"
 #include "support/TestFolder.h"
 
@@ -32,6 +36,76 @@ std::string WithVersion(std::string text) {
   return text.replace(at, placeholder.size(), std::string("v") + VersionName);
 }
 
+/// The text before the first separator and the one behind it.
+std::pair<std::string, std::string> Parted(const std::string& text, std::string_view separator) {
+  const std::size_t at = std::min(text.find(separator), text.size());
+  return {text.substr(0, at), text.substr(std::min(at + separator.size(), text.size()))};
+}
+
+/// "13 shift" of "Shift+Enter".
+std::string CodeOf(const std::string& key) {
+  static const std::map<std::string, std::string> codes = {
+      {"Enter", "13"}, {"KeypadEnter", "108"}, {"Escape", "27"}, {"PageUp", "33"}, {"PageDown", "34"},
+      {"Left", "37"},  {"Up", "38"},           {"Right", "39"},  {"Down", "40"},   {"Delete", "46"}};
+  const auto [modifier, name] = Parted(key, "+");
+  if (modifier == "Shift") return CodeOf(name) + " shift";
+  if (modifier == "Ctrl") return CodeOf(name) + " ctrl";
+  return codes.at(key);
+}
+
+std::vector<Exchange> Paste(const std::string& block, const std::string& text) {
+  return {{"select MSFlexGrid1 " + block}, {"clipboard " + text}, {"click cmdPaste"}};
+}
+
+/// Makes the channel a section of points such as "0 10 0.03".
+std::vector<Exchange> Section(const std::vector<std::string>& points) {
+  std::string text;
+  for (const std::string& point : points) {
+    std::vector<std::string> cells = Split(point, " ");
+    cells.resize(3);
+    text += (text.empty() ? "" : "\\r") + cells[0] + "\\t" + cells[1] + "\\t" + cells[2];
+  }
+  std::vector<Exchange> section = Paste("1 1 " + std::to_string(points.size()) + " 3", text);
+  section.insert(section.begin(), {"click cmdIrreg"});
+  section.push_back({"click cmdOK"});
+  return section;
+}
+
+/// The exchanges that a line of the file stands for.
+std::vector<Exchange> Meant(const std::string& line) {
+  const auto [word, rest] = Parted(line, " ");
+  if (word == "points") return Section(Split(rest, ", "));
+  if (word == "paste") return Paste(Parted(rest, ": ").first, Parted(rest, ": ").second);
+  std::vector<Exchange> meant;
+  if (word == "click" && line.find(" =") == std::string::npos) {
+    for (const std::string& control : Split(rest, ", ")) meant.push_back({"click " + control});
+  } else if (word == "enter") {
+    for (const std::string& item : Split(rest, ", ")) meant.push_back({"type " + item});
+  } else if (word == "expect") {
+    for (const std::string& item : Split(rest, ", ")) {
+      const auto [name, value] = Parted(item, " ");
+      const bool shared = name.starts_with("RatingRange.");
+      const char* const property = name.find('.') == std::string::npos ? ".Text" : "";
+      meant.push_back({(shared ? "shared " : "get ") + name + property, value});
+    }
+  } else if (word == "cells") {
+    for (const std::string& item : Split(rest, ", ")) {
+      const auto [row, cell] = Parted(item, " ");
+      const auto [col, text] = Parted(cell, " ");
+      meant.push_back({"cell MSFlexGrid1 " + row + " " + col, text});
+    }
+  } else if (word == "press") {
+    const auto [control, keys] = Parted(rest, " ");
+    for (const std::string& key : Split(keys, " ")) meant.push_back({"key " + control + " " + CodeOf(key)});
+  } else if (line.find(" =") == std::string::npos) {
+    meant.push_back({line});
+  } else {
+    const auto [asked, reply] = Parted(line, " =");
+    meant.push_back({asked, reply.substr(std::min<std::size_t>(1, reply.size()))});
+  }
+  return meant;
+}
+
 }  // namespace
 
 std::vector<Exchange> ReadConversation(const std::string& path) {
@@ -39,12 +113,7 @@ std::vector<Exchange> ReadConversation(const std::string& path) {
   std::ifstream file(path);
   for (std::string line; std::getline(file, line);) {
     if (line.empty() || line.starts_with('#')) continue;
-    const std::size_t equals = line.find(" =");
-    if (equals == std::string::npos) {
-      conversation.push_back({line, "ok"});
-    } else {
-      conversation.push_back({line.substr(0, equals), line.substr(std::min(equals + 3, line.size()))});
-    }
+    std::ranges::copy(Meant(line), std::back_inserter(conversation));
   }
   return conversation;
 }

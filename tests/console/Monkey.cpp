@@ -6,28 +6,21 @@
 #include <deque>
 #include <fstream>
 #include <random>
-#include <sstream>
 #include <string_view>
 #include <utility>
 
-namespace {
+#include "console/Words.h"
 
-/// The parts of the text between the separators.
-std::vector<std::string> Split(const std::string& text, char separator) {
-  std::vector<std::string> parts;
-  std::istringstream rest(text);
-  for (std::string part; std::getline(rest, part, separator);) parts.push_back(part);
-  return parts;
-}
+namespace {
 
 const std::vector<std::string> Boxes = Split(
     "tbFlow tbDepth tbSlope tbMann tbBaseWidth tbSSL tbSSR tbDiameter tbProjName tbSel tbMin tbMax "
     "tbIncrement",
-    ' ');
+    " ");
 const std::vector<std::string> Texts = Split(
     "|0|1|.5|400|1e308|1e999|-1|0.013|0.0016|1,234|1,5|"
     "20 ft|1e12|12|1e-300|abc|2|999|0.9|1e-7|\\t3\\t|+7|998",
-    '|');
+    "|");
 const std::vector<std::string> Presses = Split(
     "mnuFileNew mnuEditCut mnuEditCopy mnuEditPaste mnuEditDelete mnuOptionsRect mnuOptionsTrap "
     "mnuOptionsTriangular mnuOptionsCircular mnuOptionsIrreg mnuSolveForFlow mnuSolveForDepth "
@@ -36,20 +29,20 @@ const std::vector<std::string> Presses = Split(
     "mnuEditSettings mnuPrint mnuPrintPreview mnuFilePrint mnuFilePrintPreview mnuFileExport mnuFileOpen "
     "mnuFileSave mnuHelpContents mnuHelpAbout cmdOK cmdCancel optSigDigs_5 optEngDigs_1 Toolbar1.New "
     "mnuFileExit",
-    ' ');
+    " ");
 const std::vector<std::string> Others = Split(
     "answer Yes|answer No|answer Cancel|close|locale , .|locale . ,|printer ok|printed|date 2026-7-4|"
     "page 12240 15840|pick cbxVary 1|pick cbxY 3|clipboard 3.5|pick lstMannParam 7|start|messages|"
     "dblclick lstMannParam|nonsense \\q",
-    '|');
+    "|");
 const std::vector<std::string> Results =
-    Split("tbFlow tbDepth tbVelocity tbVelHead tbArea tbWP tbHRad tbTopW tbFroude tbCritD tbCritS", ' ');
+    Split("tbFlow tbDepth tbVelocity tbVelHead tbArea tbWP tbHRad tbTopW tbFroude tbCritD tbCritS", " ");
 const std::vector<std::string> OnGrid = Split(
     "dblclick MSFlexGrid1|char MSFlexGrid1 7|char tbSel 5|key tbSel 13|key tbSel 27|key tbSel 34|"
     "key MSFlexGrid1 46|key tbSel 39|key tbSel 13 shift|key tbSel 108 ctrl|key tbSel 34 ctrl|chart "
     "MSChart1|cell MSFlexGrid1 3 2|record points 4 1|focus MSFlexGrid1|"
     "key tbSel 38|get tbSel.Visible|clipboard 0\\t9\\t.03\\r5\\t2\\r9\\t10|record enginepoints 2 3",
-    '|');
+    "|");
 
 // What a person does who knows the program; from there the monkey goes on.
 const std::vector<std::vector<std::string>> Problems = {
