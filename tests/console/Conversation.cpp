@@ -9,8 +9,8 @@
 #include <utility>
 
 #include "app/Version.h"
-#include "console/Words.h"
 #include "support/LocaleTest.h"
+#include "support/Split.h"
 #include "support/TestFolder.h"
 
 namespace {

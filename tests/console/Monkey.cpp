@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "console/Words.h"
+#include "support/Split.h"
 
 namespace {
 

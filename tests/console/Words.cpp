@@ -32,16 +32,6 @@ std::string Escaped(std::string_view text) {
   return escaped;
 }
 
-std::vector<std::string> Split(std::string_view text, std::string_view separator) {
-  std::vector<std::string> parts;
-  for (std::size_t end = 0; end != std::string_view::npos; text.remove_prefix(std::min(end, text.size()))) {
-    end = text.find(separator);
-    parts.emplace_back(text.substr(0, end));
-    if (end != std::string_view::npos) end += separator.size();
-  }
-  return parts;
-}
-
 int Whole(const std::string& word) {
   int number = 0;
   const auto read = std::from_chars(word.data(), word.data() + word.size(), number);

@@ -18,8 +18,5 @@ using Words = std::vector<std::string>;
 std::string Unescaped(std::string_view text);
 std::string Escaped(std::string_view text);
 
-/// The parts of the text between the separators.
-std::vector<std::string> Split(std::string_view text, std::string_view separator);
-
 /// Refuses a word that is no whole number.
 int Whole(const std::string& word);

@@ -42,15 +42,7 @@ MAY_INCLUDE = {
 }
 WITH_QT = ["src/desktop/", "tests/desktop/", "bench/desktop/"]
 QT = re.compile(r"Q[A-Z]|Qt|q[a-z]+\.h$|qcustomplot")
-STANDARD = set("""
-    algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes climits
-    clocale cmath codecvt compare complex concepts condition_variable coroutine csetjmp csignal cstdarg cstddef cstdint
-    cstdio cstdlib cstring ctime cuchar cwchar cwctype deque exception execution filesystem forward_list fstream
-    functional future initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map memory
-    memory_resource mutex new numbers numeric optional ostream queue random ranges ratio regex scoped_allocator
-    semaphore set shared_mutex source_location span sstream stack stdexcept stop_token streambuf string string_view
-    strstream syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility
-    valarray variant vector version""".split())
+STANDARD = re.compile(r"[a-z_]+")  # headers of the standard library have no suffix
 # The one room that may ask the system itself: the standard library cannot flush a file to the disk or keep its rights.
 WITH_POSIX = "files"
 POSIX = {"fcntl.h", "sys/file.h", "sys/stat.h", "sys/xattr.h", "unistd.h"}
@@ -81,7 +73,7 @@ def fault_of_include(place, system, own):
     if folder.startswith("desktop") and (system is not None or own.endswith(".moc")):
         return None
     if system is not None:
-        if system in STANDARD or (folder == WITH_POSIX and system in POSIX):
+        if STANDARD.fullmatch(system) or (folder == WITH_POSIX and system in POSIX):
             return None
         return f"{folder} stands on the standard library alone, not <{system}>"
     target = room(own)

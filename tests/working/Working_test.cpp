@@ -9,6 +9,7 @@
 #include "app/Declarations.h"
 #include "engine/NumberText.h"
 #include "support/ProgramStage.h"
+#include "support/Split.h"
 #include "support/TestFolder.h"
 #include "working/frmWorking.h"
 
@@ -44,10 +45,13 @@ class WorkingTest : public ProgramStage {
     return cells;
   }
 
-  void ExpectEquations(const Values& hand) const {
+  /// `hand` is a list such as "A = 20.000 sf; P = 14.000 ft".
+  void ExpectEquations(const char* hand) const {
     const Values values = Equations();
-    for (const auto& [symbol, value] : hand) {
-      SCOPED_TRACE(symbol);
+    for (const std::string& equation : Split(hand, "; ")) {
+      SCOPED_TRACE(equation);
+      const std::size_t equals = equation.find(" = ");
+      const std::string symbol = equation.substr(0, equals), value = equation.substr(equals + 3);
       ASSERT_TRUE(values.contains(symbol));
       // What a search found to 1e-6 ft may differ in its last decimal.
       if (symbol == "y" || symbol == "yc" || symbol == "Wc" || symbol.starts_with("Alternate")) {
@@ -81,30 +85,15 @@ class WorkingTest : public ProgramStage {
 // The values of all problems: a separate computation with the formulas of the manual.
 TEST_P(WorkingTest, RectangleForFlow) {
   TypeRectangle();
-  ExpectEquations({{"A", "20.000 sf"},
-                   {"P", "14.000 ft"},
-                   {"T", "10.000 ft"},
-                   {"R", "1.4286 ft"},
-                   {"Q", "91.696 cfs"},
-                   {"V", "4.5848 fps"},
-                   {"V² / 2g", "0.32667 ft"},
-                   {"Fr", "0.57155"},
-                   {"Q / √g", "16.166 ft^2.5"},
-                   {"yc", "1.377414 ft"},
-                   {"Ac", "13.774 sf"},
-                   {"Pc", "12.755 ft"},
-                   {"Tc", "10.000 ft"},
-                   {"Zc", "16.166 ft^2.5"},
-                   {"Rc", "1.0799 ft"},
-                   {"Sc", "0.0030616 ft/ft"},
-                   {"Hydraulic depth", "2.0000 ft"},
-                   {"Specific energy E", "2.3267 ft"},
-                   {"Alternate depth, of the same E beyond critical depth", "0.987960 ft"},
-                   {"Section factor Z", "28.284 ft^2.5"},
-                   {"Conveyance K", "2,899.7 cfs"},
-                   {"Mean boundary shear τ", "0.089143 lb/ft^2"},
-                   {"Greatest boundary shear", "0.12480 lb/ft^2"},
-                   {"Reynolds number Re", "538,180"}});
+  ExpectEquations(
+      "A = 20.000 sf; P = 14.000 ft; T = 10.000 ft; R = 1.4286 ft; Q = 91.696 cfs; V = 4.5848 fps; "
+      "V² / 2g = 0.32667 ft; Fr = 0.57155; Q / √g = 16.166 ft^2.5; yc = 1.377414 ft; Ac = 13.774 sf; "
+      "Pc = 12.755 ft; Tc = 10.000 ft; Zc = 16.166 ft^2.5; Rc = 1.0799 ft; Sc = 0.0030616 ft/ft; "
+      "Hydraulic depth = 2.0000 ft; Specific energy E = 2.3267 ft; "
+      "Alternate depth, of the same E beyond critical depth = 0.987960 ft; "
+      "Section factor Z = 28.284 ft^2.5; Conveyance K = 2,899.7 cfs; "
+      "Mean boundary shear τ = 0.089143 lb/ft^2; Greatest boundary shear = 0.12480 lb/ft^2; "
+      "Reynolds number Re = 538,180");
   // With n and S by Q ~ √S / n.
   EXPECT_EQ(LastCells("Input")[0], Spelled("101.88 cfs"));
   EXPECT_EQ(LastCells("Input")[3], Spelled("96.171 cfs"));
@@ -115,31 +104,14 @@ TEST_P(WorkingTest, MetricTriangleForDepth) {
   TypePrism(Main.mnuOptionsTriangular,
             {{"tbSSL", "2"}, {"tbSSR", "3"}, {"tbMann", "0.025"}, {"tbSlope", "0.005"}});
   SolveDepth("2");
-  ExpectEquations({{"k", "1.000000 m^(1/3)/s (Manning's equation)"},
-                   {"y", "0.7549349 m"},
-                   {"A", "1.4248 m^2"},
-                   {"P", "4.0754 m"},
-                   {"T", "3.7747 m"},
-                   {"R", "0.34961 m"},
-                   {"Q", "2.0000 m^3/s"},
-                   {"V", "1.4037 m/s"},
-                   {"V² / 2g", "0.10046 m"},
-                   {"Fr", "0.72958"},
-                   {"Q / √g", "0.63866 m^2.5"},
-                   {"yc", "0.6654844 m"},
-                   {"Ac", "1.1072 m^2"},
-                   {"Pc", "3.5925 m"},
-                   {"Tc", "3.3274 m"},
-                   {"Rc", "0.30819 m"},
-                   {"Sc", "0.0097968 m/m"},
-                   {"Hydraulic depth", "0.37747 m"},
-                   {"Specific energy E", "0.85539 m"},
-                   {"Alternate depth, of the same E beyond critical depth", "0.5949439 m"},
-                   {"Conveyance K", "28.284 m^3/s"},
-                   {"Mean boundary shear τ", "17.135 N/m^2"},
-                   {"Greatest boundary shear", "36.999 N/m^2"},
-                   {"Section factor Z", "0.87538 m^2.5"},
-                   {"Reynolds number Re", "433,910"}});
+  ExpectEquations(
+      "k = 1.000000 m^(1/3)/s (Manning's equation); y = 0.7549349 m; A = 1.4248 m^2; P = 4.0754 m; "
+      "T = 3.7747 m; R = 0.34961 m; Q = 2.0000 m^3/s; V = 1.4037 m/s; V² / 2g = 0.10046 m; Fr = 0.72958; "
+      "Q / √g = 0.63866 m^2.5; yc = 0.6654844 m; Ac = 1.1072 m^2; Pc = 3.5925 m; Tc = 3.3274 m; "
+      "Rc = 0.30819 m; Sc = 0.0097968 m/m; Hydraulic depth = 0.37747 m; Specific energy E = 0.85539 m; "
+      "Alternate depth, of the same E beyond critical depth = 0.5949439 m; Conveyance K = 28.284 m^3/s; "
+      "Mean boundary shear τ = 17.135 N/m^2; Greatest boundary shear = 36.999 N/m^2; "
+      "Section factor Z = 0.87538 m^2.5; Reynolds number Re = 433,910");
   // 0.0097968 / 3.28084, as the box shows it.
   EXPECT_THAT(WorkingText(FormWorking(Main)), HasSubstr(": " + Spelled("0.0029861") + " m."));
 }
@@ -149,45 +121,22 @@ TEST_P(WorkingTest, TrapezoidForDepth) {
       Main.mnuOptionsTrap,
       {{"tbBaseWidth", "20"}, {"tbSSL", "2"}, {"tbSSR", "3"}, {"tbMann", "0.025"}, {"tbSlope", "0.0016"}});
   SolveDepth("400");
-  ExpectEquations({{"y", "3.280074 ft"},
-                   {"Steps", "30"},
-                   {"A", "92.499 sf"},
-                   {"P", "37.707 ft"},
-                   {"T", "36.400 ft"},
-                   {"R", "2.4531 ft"},
-                   {"Q", "400.00 cfs"},
-                   {"V", "4.3244 fps"},
-                   {"V² / 2g", "0.29061 ft"},
-                   {"Fr", "0.47825"},
-                   {"yc", "2.111044 ft"},
-                   {"Ac", "53.362 sf"},
-                   {"Tc", "30.555 ft"},
-                   {"Sc", "0.0078415 ft/ft"},
-                   {"Alternate depth, of the same E beyond critical depth", "1.449236 ft"},
-                   {"Conveyance K", "10,000 cfs"},
-                   {"Mean boundary shear τ", "0.24492 lb/ft^2"},
-                   {"Reynolds number Re", "871,660"}});
+  ExpectEquations(
+      "y = 3.280074 ft; Steps = 30; A = 92.499 sf; P = 37.707 ft; T = 36.400 ft; R = 2.4531 ft; "
+      "Q = 400.00 cfs; V = 4.3244 fps; V² / 2g = 0.29061 ft; Fr = 0.47825; yc = 2.111044 ft; "
+      "Ac = 53.362 sf; Tc = 30.555 ft; Sc = 0.0078415 ft/ft; "
+      "Alternate depth, of the same E beyond critical depth = 1.449236 ft; Conveyance K = 10,000 cfs; "
+      "Mean boundary shear τ = 0.24492 lb/ft^2; Reynolds number Re = 871,660");
 }
 
 TEST_P(WorkingTest, PipeWithTwoDepths) {
   TypePipe("72", "3");
   SolveDepth("200");
-  ExpectEquations({{"D", "6.0000 ft"},
-                   {"y", "5.296704 ft"},
-                   {"A", "26.417 sf"},
-                   {"P", "14.656 ft"},
-                   {"T", "3.8601 ft"},
-                   {"R", "1.8024 ft"},
-                   {"V", "7.5708 fps"},
-                   {"Fr", "0.51021"},
-                   {"yc", "3.865628 ft"},
-                   {"Ac", "19.258 sf"},
-                   {"Sc", "0.0039985 ft/ft"},
-                   {"Alternate depth, of the same E beyond critical depth", "2.955074 ft"},
-                   {"Qfull", "189.39 cfs"},
-                   {"Qmax", "203.73 cfs"},
-                   {"y / D", "0.88278"},
-                   {"Q / Qmax", "0.98171"}});
+  ExpectEquations(
+      "D = 6.0000 ft; y = 5.296704 ft; A = 26.417 sf; P = 14.656 ft; T = 3.8601 ft; R = 1.8024 ft; "
+      "V = 7.5708 fps; Fr = 0.51021; yc = 3.865628 ft; Ac = 19.258 sf; Sc = 0.0039985 ft/ft; "
+      "Alternate depth, of the same E beyond critical depth = 2.955074 ft; Qfull = 189.39 cfs; "
+      "Qmax = 203.73 cfs; y / D = 0.88278; Q / Qmax = 0.98171");
   EXPECT_NEAR(LeadingNumber(Equations()["y2"]), 5.883473, 2e-6);
   ExpectCells("Input", {"4.6703 ft", "Overflow", "Overflow", "4.9562 ft", "4.6703 ft", "Overflow"});
 }
@@ -195,15 +144,10 @@ TEST_P(WorkingTest, PipeWithTwoDepths) {
 TEST_P(WorkingTest, FullMetricPipe) {
   Main.mnuOptionsUnitsMetric_Click();
   TypePipe("1000", "1");
-  ExpectEquations({{"A", "0.78540 m^2"},
-                   {"P", "3.1416 m"},
-                   {"R", "0.25000 m"},
-                   {"Q", "1.0722 m^3/s"},
-                   {"V", "1.3652 m/s"},
-                   {"yc", "0.5943398 m"},
-                   {"Specific energy E", "1.0950 m"},
-                   {"Mean boundary shear τ", "4.9010 N/m^2"},
-                   {"Greatest boundary shear", "19.604 N/m^2"}});
+  ExpectEquations(
+      "A = 0.78540 m^2; P = 3.1416 m; R = 0.25000 m; Q = 1.0722 m^3/s; V = 1.3652 m/s; yc = 0.5943398 m; "
+      "Specific energy E = 1.0950 m; Mean boundary shear τ = 4.9010 N/m^2; "
+      "Greatest boundary shear = 19.604 N/m^2");
   const Values values = Equations();
   for (const char* const ofSurface : {"T", "Fr", "Hydraulic depth", "Section factor Z"}) {
     EXPECT_FALSE(values.contains(ofSurface)) << ofSurface;
@@ -220,27 +164,13 @@ TEST_P(WorkingTest, SectionOfTwoN) {
                {"49", "2", ""},
                {"50", "4", ""}},
               "3");
-  ExpectEquations({{"A", "68.500 sf"},
-                   {"P", "51.893 ft"},
-                   {"T", "49.000 ft"},
-                   {"R", "1.3200 ft"},
-                   {"K", "3,672.5 cfs"},
-                   {"Q", "116.13 cfs"},
-                   {"V", "1.6954 fps"},
-                   {"V² / 2g", "0.044669 ft"},
-                   {"Fr", "0.25280"},
-                   {"Q / √g", "20.474 ft^2.5"},
-                   {"Wc", "1.733854 ft"},
-                   {"Ac", "16.877 sf"},
-                   {"Tc", "11.468 ft"},
-                   {"y", "3.0000 ft"},
-                   {"Specific energy E", "3.0447 ft"},
-                   {"Alternate level, of the same E beyond critical depth", "1.149379 ft"},
-                   {"Mean boundary shear τ", "0.082370 lb/ft^2"},
-                   {"Greatest boundary shear", "0.18720 lb/ft^2"},
-                   {"Section factor Z", "80.991 ft^2.5"},
-                   {"Reynolds number Re", "183,890"},
-                   {"Hydraulic depth", "1.3980 ft"}});
+  ExpectEquations(
+      "A = 68.500 sf; P = 51.893 ft; T = 49.000 ft; R = 1.3200 ft; K = 3,672.5 cfs; Q = 116.13 cfs; "
+      "V = 1.6954 fps; V² / 2g = 0.044669 ft; Fr = 0.25280; Q / √g = 20.474 ft^2.5; Wc = 1.733854 ft; "
+      "Ac = 16.877 sf; Tc = 11.468 ft; y = 3.0000 ft; Specific energy E = 3.0447 ft; "
+      "Alternate level, of the same E beyond critical depth = 1.149379 ft; "
+      "Mean boundary shear τ = 0.082370 lb/ft^2; Greatest boundary shear = 0.18720 lb/ft^2; "
+      "Section factor Z = 80.991 ft^2.5; Reynolds number Re = 183,890; Hydraulic depth = 1.3980 ft");
   ExpectCells("Points", {"12.605 %", "76.137 %", "11.258 %"});
   ExpectCells("Input", {"129.04 cfs", "105.58 cfs", "110.17 cfs", "121.80 cfs", "87.842 cfs", "148.32 cfs"});
 }
