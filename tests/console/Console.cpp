@@ -22,49 +22,197 @@ void CancelForm(Form& form) {
   form.Unload();
 }
 
-}  // namespace
-
 /// A command takes one word, the rest of the line as its last argument, between so many words.
-struct Console::Command {
+template <class Reply>
+struct Command {
   std::string_view Name;
   std::size_t LeastArguments;
   std::size_t MostArguments;
-  std::string (Console::*Perform)(const Words&);
+  Reply (*Perform)(Console&, const Words&);
+
+  Words Arguments(std::optional<std::string> rest) const {
+    Words words;
+    while (rest) {
+      const std::size_t end = words.size() + 1 < MostArguments ? rest->find(' ') : std::string::npos;
+      words.push_back(Unescaped(rest->substr(0, end)));
+      if (end == std::string::npos) break;
+      rest = rest->substr(end + 1);
+    }
+    if (words.size() < LeastArguments || (MostArguments == 0 && !words.empty()))
+      throw Refusal("wrong number of arguments");
+    return words;
+  }
 };
 
-const std::vector<Console::Command>& Console::Commands() {
-  static const std::vector<Command> commands = {
-      {"form", 0, 0, &Console::FormName},
-      {"type", 2, 2, &Console::Type},
-      {"focus", 1, 1, &Console::Focus},
-      {"key", 2, 3, &Console::Key},
-      {"char", 2, 2, &Console::Char},
-      {"click", 1, 1, &Console::Click},
-      {"dblclick", 1, 1, &Console::DoubleClick},
-      {"pick", 2, 2, &Console::Pick},
-      {"caret", 2, 2, &Console::Caret},
-      {"mark", 3, 3, &Console::Mark},
-      {"select", 5, 5, &Console::SelectBlock},
-      {"get", 1, 1, &Console::Get},
-      {"cell", 3, 3, &Console::Cell},
-      {"size", 1, 1, &Console::Size},
-      {"chart", 1, 1, &Console::Chart},
-      {"record", 1, 3, &Console::Record},
-      {"shared", 1, 1, &Console::Shared},
-      {"clipboard", 0, 1, &Console::ClipboardText},
-      {"answer", 1, 1, &Console::Answer},
-      {"choose", 1, 1, &Console::Choose},
-      {"messages", 0, 0, &Console::Messages},
-      {"close", 0, 0, &Console::Close},
-      {"locale", 2, 2, &Console::Locale},
-      {"date", 1, 1, &Console::Date},
-      {"today", 0, 0, &Console::Today},
-      {"page", 2, 2, &Console::Page},
-      {"printer", 1, 1, &Console::PrinterAnswer},
-      {"printed", 0, 0, &Console::Printed},
+}  // namespace
+
+/// By name: an act is answered by "ok", a question by what was asked.
+struct Console::Commands {
+  static inline const std::vector<Command<void>> Acts = {
+      {"type", 2, 2,
+       [](Console& c, const Words& words) {
+         if (c.Usable<TextBox>(words[0]).Locked) throw Refusal(words[0] + " is locked");
+         c.stage_.Person->Type(c.Focused<TextBox>(words[0]), words[1]);
+       }},
+      {"focus", 1, 1, [](Console& c, const Words& words) { c.Focused<FocusControl>(words[0]); }},
+      {"key", 2, 3,
+       [](Console& c, const Words& words) {
+         static const std::map<std::string, Keys::Modifier> modifiers = {
+             {"", Keys::Modifier::None}, {"shift", Keys::Modifier::Shift}, {"ctrl", Keys::Modifier::Ctrl}};
+         const auto with = modifiers.find(words.size() > 2 ? words[2] : "");
+         if (with == modifiers.end()) throw Refusal("no modifier: " + words[2]);
+         c.stage_.Person->Key(c.Focused<FocusControl>(words[0]), Whole(words[1]), with->second);
+       }},
+      {"char", 2, 2,
+       [](Console& c, const Words& words) {
+         if (words[1].empty()) throw Refusal("no character");
+         c.stage_.Person->Char(c.Focused<FocusControl>(words[0]), words[1]);
+       }},
+      {"click", 1, 1,
+       [](Console& c, const Words& words) {
+         auto& control = c.Usable<Control>(words[0]);
+         if (dynamic_cast<HasClick*>(&control) == nullptr) throw Refusal("not possible with " + words[0]);
+         if (auto* const focusable = dynamic_cast<FocusControl*>(&control))
+           c.stage_.Person->Focus(*focusable);
+         c.stage_.Person->Click(control);
+       }},
+      {"dblclick", 1, 1,
+       [](Console& c, const Words& words) {
+         if (dynamic_cast<FlexGrid*>(&c.Find(words[0])) != nullptr) {
+           c.stage_.Person->DoubleClick(c.Usable<FlexGrid>(words[0]));
+         } else {
+           c.stage_.Person->DoubleClick(c.Focused<ListBox>(words[0]));
+         }
+       }},
+      {"pick", 2, 2,
+       [](Console& c, const Words& words) {
+         const int index = Whole(words[1]);
+         ListBox& list = c.Usable<ListBox>(words[0]);
+         if (index < 0 || index >= static_cast<int>(list.Items.Get().size())) throw Refusal("no such line");
+         c.stage_.Person->Pick(c.Focused<ListBox>(words[0]), index);
+       }},
+      {"caret", 2, 2,
+       [](Console& c, const Words& words) {
+         c.stage_.Person->Select(c.Usable<TextBox>(words[0]), {Whole(words[1]), 0});
+       }},
+      {"mark", 3, 3,
+       [](Console& c, const Words& words) {
+         c.stage_.Person->Select(c.Usable<TextBox>(words[0]), {Whole(words[1]), Whole(words[2])});
+       }},
+      {"select", 5, 5,
+       [](Console& c, const Words& words) {
+         const GridBlock block{Whole(words[1]), Whole(words[2]), Whole(words[3]), Whole(words[4])};
+         const FlexGrid& grid = c.Grid(words[0]);
+         if (block.Top() < 1 || block.Left() < 1 || block.Bottom() >= grid.Rows() ||
+             block.Right() >= grid.Cols())
+           throw Refusal("no such cells");
+         c.stage_.Person->SelectBlock(c.Usable<FlexGrid>(words[0]), block);
+       }},
+      {"answer", 1, 1,
+       [](Console& c, const Words& words) {
+         static const std::map<std::string, BoxAnswer> answers = {{"Yes", BoxAnswer::Yes},
+                                                                  {"No", BoxAnswer::No},
+                                                                  {"Cancel", BoxAnswer::Cancel},
+                                                                  {"Ok", BoxAnswer::Ok}};
+         const auto answer = answers.find(words[0]);
+         if (answer == answers.end()) throw Refusal("no answer: " + words[0]);
+         c.services_.messageBox.Answers.push_back(answer->second);
+       }},
+      {"choose", 1, 1,
+       [](Console& c, const Words& words) {
+         c.services_.fileDialog.Choices.push_back(words[0] == "-" ? std::nullopt : std::optional(words[0]));
+       }},
+      {"close", 0, 0, [](Console& c, const Words&) { c.stage_.Person->Close(c.Top()); }},
+      {"locale", 2, 2,
+       [](Console& c, const Words& words) {
+         c.locale_ = {words[0], words[1]};
+       }},
+      {"date", 1, 1, [](Console& c, const Words& words) { c.services_.clock.Today = words[0]; }},
+      {"page", 2, 2,
+       [](Console& c, const Words& words) {
+         const int width = Whole(words[0]);
+         const int height = Whole(words[1]);
+         if (width <= 0 || height <= 0) throw Refusal("no paper");
+         c.services_.printerDialog.Paper.Width = width;
+         c.services_.printerDialog.Paper.Height = height;
+       }},
+      {"printer", 1, 1,
+       [](Console& c, const Words& words) {
+         if (words[0] != "ok" && words[0] != "cancel") throw Refusal("no answer: " + words[0]);
+         c.services_.printerDialog.Answers.push_back(words[0] == "ok");
+       }},
   };
-  return commands;
-}
+  static inline const std::vector<Command<std::string>> Questions = {
+      {"form", 0, 0, [](Console& c, const Words&) -> std::string { return c.Top().Name(); }},
+      {"get", 1, 1,
+       [](Console& c, const Words& words) -> std::string {
+         const std::size_t dot = words[0].rfind('.');
+         if (dot == std::string::npos) throw Refusal("no property named");
+         std::string_view path = std::string_view(words[0]).substr(0, dot);
+         const std::string property = words[0].substr(dot + 1);
+         const Form& form = c.FormOf(path);
+         if (path.empty())
+           return Known(property == "Caption" ? std::optional(form.Caption.Get()) : std::nullopt, words[0]);
+         return Known(Inspect::ControlProperty(c.Find(words[0].substr(0, dot)), property), words[0]);
+       }},
+      {"cell", 3, 3,
+       [](Console& c, const Words& words) -> std::string {
+         const FlexGrid& grid = c.Grid(words[0]);
+         const int row = Whole(words[1]);
+         const int col = Whole(words[2]);
+         if (row < 0 || row >= grid.Rows() || col < 0 || col >= grid.Cols()) throw Refusal("no such cell");
+         return Escaped(grid.Text(row, col));
+       }},
+      {"size", 1, 1,
+       [](Console& c, const Words& words) -> std::string {
+         const FlexGrid& grid = c.Grid(words[0]);
+         return std::to_string(grid.Rows()) + " " + std::to_string(grid.Cols());
+       }},
+      {"chart", 1, 1,
+       [](Console& c, const Words& words) -> std::string {
+         const auto* const chart = dynamic_cast<const XYChart*>(&c.Find(words[0]));
+         if (chart == nullptr) throw Refusal("not possible with " + words[0]);
+         std::string reply = std::to_string(chart->Rows().size()) + " " + std::to_string(chart->Cols());
+         for (const std::string& value : Inspect::ChartValues(*chart)) reply += "\t" + Escaped(value);
+         return reply;
+       }},
+      {"record", 1, 3,
+       [](Console&, const Words& words) -> std::string {
+         return Known(Inspect::RecordField(words), words[0]);
+       }},
+      {"shared", 1, 1,
+       [](Console&, const Words& words) -> std::string {
+         return Known(Inspect::SharedVariable(words[0]), words[0]);
+       }},
+      {"clipboard", 0, 1,
+       [](Console& c, const Words& words) -> std::string {
+         if (words.empty()) return Escaped(c.services_.clipboard.Text());
+         c.services_.clipboard.SetText(words[0]);
+         return "ok";
+       }},
+      {"messages", 0, 0,
+       [](Console& c, const Words&) -> std::string {
+         std::string reply;
+         for (const FakeMessageBox::Shown& box : std::exchange(c.services_.messageBox.Boxes, {})) {
+           if (!reply.empty()) reply += '\t';
+           const char* const icon = box.Icon == BoxIcon::Exclamation ? "exclamation" : "information";
+           reply += Escaped(box.Title + "|" + icon + "|" + box.Text);
+         }
+         return reply;
+       }},
+      {"today", 0, 0,
+       [](Console& c, const Words&) -> std::string { return Escaped(c.services_.clock.ShortDate()); }},
+      {"printed", 0, 0,
+       [](Console& c, const Words&) -> std::string {
+         std::string reply;
+         for (const std::string& call : c.services_.printerDialog.Paper.TakeCalls()) {
+           if (!reply.empty()) reply += '\t';
+           reply += Escaped(call);
+         }
+         return reply;
+       }},
+  };
+};
 
 Console::Console(MakeStage makeStage, ReadLine read, WriteReply write)
     : makeStage_(std::move(makeStage)), read_(std::move(read)), write_(std::move(write)) {}
@@ -125,19 +273,13 @@ std::string Console::Perform(const std::string& line) {
   const bool ended = program_ && !program_->Main.IsLoaded();
   if (ended || (!program_ && name != "locale" && name != "date" && name != "page"))
     throw Refusal("not running");
-  for (const Command& command : Commands()) {
-    if (command.Name != name) continue;
-    Words words;
-    while (rest) {
-      const std::size_t end = words.size() + 1 < command.MostArguments ? rest->find(' ') : std::string::npos;
-      words.push_back(Unescaped(rest->substr(0, end)));
-      if (end == std::string::npos) break;
-      rest = rest->substr(end + 1);
-    }
-    if (words.size() < command.LeastArguments || (command.MostArguments == 0 && !words.empty())) {
-      throw Refusal("wrong number of arguments");
-    }
-    return (this->*command.Perform)(words);
+  for (const auto& act : Commands::Acts) {
+    if (act.Name != name) continue;
+    act.Perform(*this, act.Arguments(rest));
+    return "ok";
+  }
+  for (const auto& question : Commands::Questions) {
+    if (question.Name == name) return question.Perform(*this, question.Arguments(rest));
   }
   throw Refusal("unknown command: " + name);
 }
@@ -200,195 +342,8 @@ Kind& Console::Focused(const std::string& name) {
   return control;
 }
 
-std::string Console::Type(const Words& words) {
-  if (Usable<TextBox>(words[0]).Locked) throw Refusal(words[0] + " is locked");
-  stage_.Person->Type(Focused<TextBox>(words[0]), words[1]);
-  return "ok";
-}
-
-std::string Console::Focus(const Words& words) {
-  Focused<FocusControl>(words[0]);
-  return "ok";
-}
-
-std::string Console::Click(const Words& words) {
-  auto& control = Usable<Control>(words[0]);
-  if (dynamic_cast<HasClick*>(&control) == nullptr) throw Refusal("not possible with " + words[0]);
-  if (auto* const focusable = dynamic_cast<FocusControl*>(&control)) stage_.Person->Focus(*focusable);
-  stage_.Person->Click(control);
-  return "ok";
-}
-
-std::string Console::Key(const Words& words) {
-  static const std::map<std::string, Keys::Modifier> modifiers = {
-      {"", Keys::Modifier::None}, {"shift", Keys::Modifier::Shift}, {"ctrl", Keys::Modifier::Ctrl}};
-  const auto with = modifiers.find(words.size() > 2 ? words[2] : "");
-  if (with == modifiers.end()) throw Refusal("no modifier: " + words[2]);
-  stage_.Person->Key(Focused<FocusControl>(words[0]), Whole(words[1]), with->second);
-  return "ok";
-}
-
-std::string Console::Char(const Words& words) {
-  if (words[1].empty()) throw Refusal("no character");
-  stage_.Person->Char(Focused<FocusControl>(words[0]), words[1]);
-  return "ok";
-}
-
-std::string Console::DoubleClick(const Words& words) {
-  if (dynamic_cast<FlexGrid*>(&Find(words[0])) != nullptr) {
-    stage_.Person->DoubleClick(Usable<FlexGrid>(words[0]));
-  } else {
-    stage_.Person->DoubleClick(Focused<ListBox>(words[0]));
-  }
-  return "ok";
-}
-
-std::string Console::Pick(const Words& words) {
-  const int index = Whole(words[1]);
-  ListBox& list = Usable<ListBox>(words[0]);
-  if (index < 0 || index >= static_cast<int>(list.Items.Get().size())) throw Refusal("no such line");
-  stage_.Person->Pick(Focused<ListBox>(words[0]), index);
-  return "ok";
-}
-
-std::string Console::Caret(const Words& words) {
-  stage_.Person->Select(Usable<TextBox>(words[0]), {Whole(words[1]), 0});
-  return "ok";
-}
-
-std::string Console::Mark(const Words& words) {
-  stage_.Person->Select(Usable<TextBox>(words[0]), {Whole(words[1]), Whole(words[2])});
-  return "ok";
-}
-
 const FlexGrid& Console::Grid(const std::string& name) const {
   const auto* const grid = dynamic_cast<const FlexGrid*>(&Find(name));
   if (grid == nullptr) throw Refusal("not possible with " + name);
   return *grid;
-}
-
-std::string Console::SelectBlock(const Words& words) {
-  const GridBlock block{Whole(words[1]), Whole(words[2]), Whole(words[3]), Whole(words[4])};
-  const FlexGrid& grid = Grid(words[0]);
-  if (block.Top() < 1 || block.Left() < 1 || block.Bottom() >= grid.Rows() || block.Right() >= grid.Cols())
-    throw Refusal("no such cells");
-  stage_.Person->SelectBlock(Usable<FlexGrid>(words[0]), block);
-  return "ok";
-}
-
-std::string Console::Cell(const Words& words) {
-  const FlexGrid& grid = Grid(words[0]);
-  const int row = Whole(words[1]);
-  const int col = Whole(words[2]);
-  if (row < 0 || row >= grid.Rows() || col < 0 || col >= grid.Cols()) throw Refusal("no such cell");
-  return Escaped(grid.Text(row, col));
-}
-
-std::string Console::Size(const Words& words) {
-  const FlexGrid& grid = Grid(words[0]);
-  return std::to_string(grid.Rows()) + " " + std::to_string(grid.Cols());
-}
-
-std::string Console::Chart(const Words& words) {
-  const auto* const chart = dynamic_cast<const XYChart*>(&Find(words[0]));
-  if (chart == nullptr) throw Refusal("not possible with " + words[0]);
-  std::string reply = std::to_string(chart->Rows().size()) + " " + std::to_string(chart->Cols());
-  for (const std::string& value : Inspect::ChartValues(*chart)) reply += "\t" + Escaped(value);
-  return reply;
-}
-
-std::string Console::Get(const Words& words) {
-  const std::size_t dot = words[0].rfind('.');
-  if (dot == std::string::npos) throw Refusal("no property named");
-  std::string_view path = std::string_view(words[0]).substr(0, dot);
-  const std::string property = words[0].substr(dot + 1);
-  const Form& form = FormOf(path);
-  if (path.empty())
-    return Known(property == "Caption" ? std::optional(form.Caption.Get()) : std::nullopt, words[0]);
-  return Known(Inspect::ControlProperty(Find(words[0].substr(0, dot)), property), words[0]);
-}
-
-std::string Console::Record(const Words& words) {
-  return Known(Inspect::RecordField(words), words[0]);
-}
-
-std::string Console::Shared(const Words& words) {
-  return Known(Inspect::SharedVariable(words[0]), words[0]);
-}
-
-std::string Console::ClipboardText(const Words& words) {
-  if (words.empty()) return Escaped(services_.clipboard.Text());
-  services_.clipboard.SetText(words[0]);
-  return "ok";
-}
-
-std::string Console::Answer(const Words& words) {
-  static const std::map<std::string, BoxAnswer> answers = {
-      {"Yes", BoxAnswer::Yes}, {"No", BoxAnswer::No}, {"Cancel", BoxAnswer::Cancel}, {"Ok", BoxAnswer::Ok}};
-  const auto answer = answers.find(words[0]);
-  if (answer == answers.end()) throw Refusal("no answer: " + words[0]);
-  services_.messageBox.Answers.push_back(answer->second);
-  return "ok";
-}
-
-std::string Console::Choose(const Words& words) {
-  services_.fileDialog.Choices.push_back(words[0] == "-" ? std::nullopt : std::optional(words[0]));
-  return "ok";
-}
-
-std::string Console::Messages(const Words&) {
-  std::string reply;
-  for (const FakeMessageBox::Shown& box : std::exchange(services_.messageBox.Boxes, {})) {
-    if (!reply.empty()) reply += '\t';
-    const char* const icon = box.Icon == BoxIcon::Exclamation ? "exclamation" : "information";
-    reply += Escaped(box.Title + "|" + icon + "|" + box.Text);
-  }
-  return reply;
-}
-
-std::string Console::FormName(const Words&) {
-  return Top().Name();
-}
-
-std::string Console::Close(const Words&) {
-  stage_.Person->Close(Top());
-  return "ok";
-}
-
-std::string Console::Locale(const Words& words) {
-  locale_ = {words[0], words[1]};
-  return "ok";
-}
-
-std::string Console::Date(const Words& words) {
-  services_.clock.Today = words[0];
-  return "ok";
-}
-
-std::string Console::Today(const Words&) {
-  return Escaped(services_.clock.ShortDate());
-}
-
-std::string Console::Page(const Words& words) {
-  const int width = Whole(words[0]);
-  const int height = Whole(words[1]);
-  if (width <= 0 || height <= 0) throw Refusal("no paper");
-  services_.printerDialog.Paper.Width = width;
-  services_.printerDialog.Paper.Height = height;
-  return "ok";
-}
-
-std::string Console::PrinterAnswer(const Words& words) {
-  if (words[0] != "ok" && words[0] != "cancel") throw Refusal("no answer: " + words[0]);
-  services_.printerDialog.Answers.push_back(words[0] == "ok");
-  return "ok";
-}
-
-std::string Console::Printed(const Words&) {
-  std::string reply;
-  for (const std::string& call : services_.printerDialog.Paper.TakeCalls()) {
-    if (!reply.empty()) reply += '\t';
-    reply += Escaped(call);
-  }
-  return reply;
 }

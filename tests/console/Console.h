@@ -35,8 +35,7 @@ class Console {
   void Run();
 
  private:
-  struct Command;
-  static const std::vector<Command>& Commands();
+  struct Commands;
 
   void Obey(const std::function<bool()>& done);
   void Wait(Form& form);
@@ -54,35 +53,6 @@ class Console {
   template <class Kind>
   Kind& Focused(const std::string& name);
   const FlexGrid& Grid(const std::string& name) const;
-
-  std::string Type(const std::vector<std::string>& words);
-  std::string Focus(const std::vector<std::string>& words);
-  std::string Click(const std::vector<std::string>& words);
-  std::string Key(const std::vector<std::string>& words);
-  std::string Char(const std::vector<std::string>& words);
-  std::string DoubleClick(const std::vector<std::string>& words);
-  std::string Pick(const std::vector<std::string>& words);
-  std::string Caret(const std::vector<std::string>& words);
-  std::string Mark(const std::vector<std::string>& words);
-  std::string SelectBlock(const std::vector<std::string>& words);
-  std::string Cell(const std::vector<std::string>& words);
-  std::string Size(const std::vector<std::string>& words);
-  std::string Chart(const std::vector<std::string>& words);
-  std::string Get(const std::vector<std::string>& words);
-  std::string Record(const std::vector<std::string>& words);
-  std::string Shared(const std::vector<std::string>& words);
-  std::string ClipboardText(const std::vector<std::string>& words);
-  std::string Answer(const std::vector<std::string>& words);
-  std::string Choose(const std::vector<std::string>& words);
-  std::string Messages(const std::vector<std::string>& words);
-  std::string FormName(const std::vector<std::string>& words);
-  std::string Close(const std::vector<std::string>& words);
-  std::string Locale(const std::vector<std::string>& words);
-  std::string Date(const std::vector<std::string>& words);
-  std::string Today(const std::vector<std::string>& words);
-  std::string Page(const std::vector<std::string>& words);
-  std::string PrinterAnswer(const std::vector<std::string>& words);
-  std::string Printed(const std::vector<std::string>& words);
 
   MakeStage makeStage_;
   ReadLine read_;
