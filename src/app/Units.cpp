@@ -2,6 +2,7 @@
 #include "app/Units.h"
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -49,4 +50,12 @@ double UnitFactor(int units, int row) {
 
 std::optional<int> TypedDecimals(int units, int row) {
   return At(units, row).Decimals;
+}
+
+std::string WithRaisedExponents(std::string text) {
+  for (const auto& [plain, raised] : {std::pair{"m^2", "m\u00B2"}, std::pair{"m^3", "m\u00B3"}}) {
+    for (std::size_t at = text.find(plain); at != std::string::npos; at = text.find(plain, at))
+      text.replace(at, 3, raised);
+  }
+  return text;
 }

@@ -21,6 +21,9 @@ enum Quantity { Length = 1, Flow, Slope, Diameter, Area, Velocity, BaseWidth, Di
 /// std::out_of_range outside systems 0 to 2 (2 holds nothing) and rows 0 to 8 (0 holds nothing).
 std::string UnitLabel(int units, int row);
 
+/// A text with the exponents of its units raised: "m³/s" for "m^3/s".
+std::string WithRaisedExponents(std::string text);
+
 /// Engine units (feet, seconds) in one displayed unit: engine value = displayed value x factor.
 /// std::out_of_range as above.
 double UnitFactor(int units, int row);

@@ -11,6 +11,7 @@
 #include "rating/OpenRating.h"
 #include "section/frmIrreg.h"
 #include "section/frmSection.h"
+#include "working/ResultsTable.h"
 #include "working/Working.h"
 #include "working/WorkingPages.h"
 
@@ -61,6 +62,9 @@ void Program::OpenWorking() {
 }
 void Program::FollowAnswer() {
   working_.Follow();
+}
+void Program::CopyResults() {
+  CopyResultsTable(Main);
 }
 void Program::PrintReport() {
   Print::ToPrinter(Print::Report(Main, {"With the working", [this](PageWriter& page) {

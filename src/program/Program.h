@@ -29,6 +29,7 @@ class Program : private SubWindows {
   void OpenTable() override;
   void OpenWorking() override;
   void FollowAnswer() override;
+  void CopyResults() override;
   void PrintReport() override;
   void PreviewReport() override;
   void OpenHelpContents() override;

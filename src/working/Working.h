@@ -8,3 +8,9 @@
 /// The lines for the problem in work, in the units in force. With blank results: what is given, and why
 /// nothing follows.
 WorkingLines FormWorking(const frmMain& main);
+
+/// Appends the points of the section in work, a row each.
+void AddPoints(WorkingLines& lines);
+
+/// The symbol of a quantity as formulas write it: "zL" for "z_L".
+std::string SymbolInText(const Field& field);

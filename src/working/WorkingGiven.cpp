@@ -21,13 +21,6 @@ std::string Typed(const std::string& text) {
   return NumericValue(text) ? text : NotANumber(text);
 }
 
-/// As formulas write it: "zL" for "z_L".
-std::string Symbol(const Field& field) {
-  std::string symbol = field.Symbol.Current();
-  std::erase(symbol, '_');
-  return symbol;
-}
-
 /// Manning's k between quantities in metres, converted by the factors of the unit table.
 double MetricK() {
   return Constants::ManningK * UnitFactor(Units::Metric, Units::Area) *
@@ -53,6 +46,22 @@ const Constant ConstantsInUse[] = {
 };
 
 }  // namespace
+
+std::string SymbolInText(const Field& field) {
+  std::string symbol = field.Symbol.Current();
+  std::erase(symbol, '_');
+  return symbol;
+}
+
+void AddPoints(WorkingLines& lines) {
+  lines.push_back({WorkingLine::Kind::Head, {"Point", "Station", "Elevation", "n"}});
+  for (int row = 1; row <= ChannelState.IrregPointCount; ++row) {
+    const auto& point = ChannelState.IrregPoints[static_cast<std::size_t>(row)];
+    lines.push_back({WorkingLine::Kind::Row,
+                     {std::to_string(row), Typed(point[1].Text()), Typed(point[2].Text()),
+                      point[3].IsEmptyText() ? "as above" : Typed(point[3].Text())}});
+  }
+}
 
 WorkingLines FormWorking(const frmMain& main) {
   return WorkingWriter(main).Write();
@@ -92,7 +101,7 @@ void WorkingWriter::Given() {
     if (field->IsResult()) continue;
     const std::string& text = (main_.*field->Box).Text;
     const bool isNumber = NumericValue(text).has_value();
-    const std::string symbol = Symbol(*field);
+    const std::string symbol = SymbolInText(*field);
     std::string name = (main_.*field->Name).Caption;
     if (!name.ends_with(" " + symbol)) name += " " + symbol;
     Equal({name, isNumber ? ReportValue(main_, *field) : NotANumber(text)});
@@ -101,16 +110,7 @@ void WorkingWriter::Given() {
     numbers_[symbol] = {InUnits((record_.*field->Cell).Number(), otherUnit ? Units::Length : field->Quantity),
                         otherUnit ? "" : text};
   }
-  if (IsSection()) GivenPoints();
-}
-
-void WorkingWriter::GivenPoints() {
-  Heads({"Point", "Station", "Elevation", "n"});
-  for (int row = 1; row <= record_.IrregPointCount; ++row) {
-    const auto& point = record_.IrregPoints[static_cast<std::size_t>(row)];
-    Row({std::to_string(row), Typed(point[1].Text()), Typed(point[2].Text()),
-         point[3].IsEmptyText() ? "as above" : Typed(point[3].Text())});
-  }
+  if (IsSection()) AddPoints(lines_);
 }
 
 void WorkingWriter::Constants() {

@@ -35,7 +35,6 @@ class WorkingWriter {
  private:
   // WorkingGiven.cpp
   void Given();
-  void GivenPoints();
   void Constants();
 
   // WorkingFlow.cpp

@@ -23,6 +23,7 @@
 #include "engine/NumberText.h"
 #include "help/frmAbout.h"
 #include "section/frmIrreg.h"
+#include "support/TestFolder.h"
 
 namespace {
 
@@ -290,6 +291,70 @@ TEST_F(Windows, NothingIsCutOffWhateverTheSizeOfTextAndWindow) {
       });
     }
   }
+}
+
+TEST_F(Windows, ResultsStayInSightWhileTyping) {
+  QWidget& window = hands_.Window(main_);
+  for (const auto& [larger, size] : {std::pair{1.0, QSize(1024, 640)}, std::pair{2.0, QSize(1280, 900)}}) {
+    const LargerText text(larger);
+    window.resize(size);
+    InEveryType([&, larger = larger] {
+      hands_.Focus(main_.tbSlope);
+      QTest::qWait(1);
+      for (const TextBox* const box : {&main_.tbVelocity, &main_.tbCritS})
+        EXPECT_EQ(Edit(*box).visibleRegion().boundingRect(), Edit(*box).rect()) << larger << box->Name();
+    });
+  }
+}
+
+TEST_F(Windows, ResultsAreInLineAtTheirDecimalSign) {
+  EnterTrapezoid();
+  std::set<int> places;
+  int signs = 0;
+  for (const TextBox* const box : {&main_.tbVelocity, &main_.tbVelHead, &main_.tbArea, &main_.tbCritS}) {
+    BoxEdit& edit = Edit(*box);
+    const auto sign = static_cast<int>(edit.text().indexOf(u'.'));
+    if (sign < 0) continue;
+    edit.setCursorPosition(sign);
+    edit.grab();  // places the caret
+    const QRect caret = edit.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    places.insert(edit.mapTo(edit.window(), caret.topLeft()).x());
+    ++signs;
+  }
+  EXPECT_GE(signs, 3);
+  EXPECT_LE(*places.rbegin() - *places.begin(), 1) << testing::PrintToString(places);
+}
+
+TEST_F(Windows, ASwitchShowsTheModeAndKeysChooseModeTypeAndUnits) {
+  hands_.Focus(main_.tbSlope);
+  for (const auto& [key, item] : {std::pair{"Ctrl+1", &main_.mnuOptionsRect},
+                                  {"Ctrl+2", &main_.mnuOptionsTriangular},
+                                  {"Ctrl+3", &main_.mnuOptionsTrap},
+                                  {"Ctrl+5", &main_.mnuOptionsIrreg},
+                                  {"Ctrl+4", &main_.mnuOptionsCircular},
+                                  {"Ctrl+U", &main_.mnuOptionsUnitsMetric},
+                                  {"Ctrl+U", &main_.mnuOptionsUnitsEnglish},
+                                  {"Ctrl+F", &main_.mnuSolveForFlow},
+                                  {"Ctrl+D", &main_.mnuSolveForDepth}}) {
+    Press(key);
+    EXPECT_TRUE(item->Checked) << key;
+    EXPECT_EQ(hands_.Of<QAbstractButton>(main_.optFlow).isChecked(), main_.mnuSolveForFlow.Checked.Get());
+    EXPECT_EQ(hands_.Of<QAbstractButton>(main_.optDepth).isChecked(), main_.mnuSolveForDepth.Checked.Get());
+  }
+  EXPECT_EQ(Focused(), "tbSlope");
+}
+
+TEST_F(Windows, ARecentFileThatIsGoneIsGreyed) {
+  const TestFolder folder;
+  const auto path = folder.Path() / "gone.fwd";
+  services_.fileDialog.Choices = {path.string()};
+  hands_.Click(main_.mnuFileSaveAs);
+  EXPECT_TRUE(main_.mnuFileRecent[1].Visible && main_.mnuFileRecent[1].Enabled);
+  std::filesystem::remove(path);
+  auto* const menu = qobject_cast<QMenu*>(hands_.Of<QAction>(main_.mnuFileNew).parent());
+  menu->popup({});
+  EXPECT_FALSE(hands_.Of<QAction>(main_.mnuFileRecent[1]).isEnabled());
+  menu->close();
 }
 
 TEST_F(Windows, NoDialogIsLargerThanTheScreenAndNothingInItIsCutOff) {

@@ -38,6 +38,21 @@ expect "alt+r Tab" 4.45 "velocity"
 expect "alt+r Tab Tab Tab Tab Tab Tab Tab Tab" 2.148 "critical depth"
 expect alt+p 0.0016 "the tidied slope"
 
+# These keys are commands, though a line edit under X11 knows them too: in an input, and in a result.
+for box in alt+w alt+d; do
+  keys $box ctrl+u
+  expect alt+b "$([ $box = alt+w ] && echo 6.096 || echo 20.00)" "the base width after a switch of units"
+  keys $box ctrl+e
+  timeout 10 xdotool search --sync --onlyvisible --name "^Flumewise - Trap" >/dev/null
+  keys Escape
+  until [ -z "$(xdotool search --onlyvisible --name "^Flumewise - Trap")" ]; do sleep 0.1; done
+  timeout 10 xdotool windowactivate --sync "$window"
+done
+keys alt+b ctrl+f ctrl+d
+expect alt+b 20.00 "the base width after both modes"
+expect alt+d 3.361 "normal depth after both modes"
+keys alt+w && typed 400
+
 put() { printf %s "$1" | timeout 5 xclip -selection clipboard >/dev/null; }
 # copied TEXT WHAT: what a command has put on the clipboard
 copied() {

@@ -286,6 +286,18 @@ TEST_P(WorkingTest, TheReportIsFollowedByTheWorkingForThoseWhoWantIt) {
   EXPECT_NE(std::find(page, both.end(), "text 1152 2008 Given"), both.end());
 }
 
+TEST_P(WorkingTest, ResultsAreCopiedForALetterWithTheSlopeItselfAndThePoints) {
+  TypeRectangle();
+  Main.mnuOptionsUnitsMetric_Click();
+  Main.mnuEditCopyResults_Click();
+  EXPECT_THAT(Fakes.clipboard.Text(), HasSubstr(Spelled("Critical Slope\tSc\t0.00306\tm/m\t")));
+  EXPECT_THAT(Fakes.clipboard.Text(), HasSubstr("\tm\u00B3/s\tFlow solved: subcritical\n"));
+  EXPECT_THAT(Fakes.clipboard.Html, HasSubstr("<td>m<sup>2</sup></td>"));
+  TypeSection({{"0", "4", "0.03"}, {"4", "0", ""}, {"8", "4", ""}}, "2");
+  Main.mnuEditCopyResults_Click();
+  EXPECT_THAT(Fakes.clipboard.Text(), HasSubstr("\nPoint\tStation\tElevation\tn\n1\t0\t4\t"));
+}
+
 INSTANTIATE_LOCALES(WorkingTest);
 
 }  // namespace

@@ -29,6 +29,12 @@ struct Picker {
   const char* Mnemonic = "";
 };
 
+/// A switch beside a box that makes it the result.
+struct SolveSwitch {
+  ToolButton frmMain::*Press = nullptr;
+  MenuItem frmMain::*Command = nullptr;  ///< that it runs
+};
+
 struct Field {
   Label frmMain::*Name = nullptr;
   TextBox frmMain::*Box = nullptr;
@@ -38,6 +44,7 @@ struct Field {
   const char* Mnemonic = "";  ///< candidates, unique in the window; a result has none
   const char* Suffix = "";    ///< follows the number without a blank, on screen and paper
   Picker Choose = {};
+  SolveSwitch Solve = {};
 
   EngineValue ChannelRecord::*Cell = nullptr;
   int Quantity = Units::Dimensionless;  ///< row of the unit table for the box

@@ -13,6 +13,7 @@ class SubWindows {
   virtual void OpenWorking() = 0;
   /// The inputs were judged anew: what shows the answer beside the main window follows.
   virtual void FollowAnswer() = 0;
+  virtual void CopyResults() = 0;
   virtual void PrintReport() = 0;
   virtual void PreviewReport() = 0;
   virtual void OpenHelpContents() = 0;

@@ -28,10 +28,15 @@ void frmMain::CaptionControls() {
                                                       {mnuFilePrint, "Print..."},
                                                       {mnuFilePrintPreview, "Print Preview..."},
                                                       {mnuFileExit, "Exit"},
+                                                      {mnuFileClearRecent, "Clear the List"},
                                                       {mnuEditCut, "Cut"},
                                                       {mnuEditCopy, "Copy"},
                                                       {mnuEditPaste, "Paste"},
                                                       {mnuEditDelete, "Delete"},
+                                                      {mnuEditSelectAll, "Select All"},
+                                                      {mnuEditCopyWithUnit, "Copy with Unit"},
+                                                      {mnuEditCopyFull, "Copy in Full Precision"},
+                                                      {mnuEditCopyResults, "Copy Results"},
                                                       {mnuSolveForFlow, "For Flow"},
                                                       {mnuSolveForDepth, "For Depth"},
                                                       {mnuSolveGraph, "Rating Graph..."},
@@ -44,6 +49,12 @@ void frmMain::CaptionControls() {
                                                       {mnuHelpAbout, "About Flumewise"}}) {
     each.Of.Caption = each.Caption;
   }
+  // Filled when the menu opens: to ask for files that lie far away takes its time.
+  for (int i = 1; i <= RecentFiles::Most; ++i) {
+    mnuFileRecent[i].Caption = std::to_string(i);
+    mnuFileRecent[i].Visible = false;
+  }
+  mnuFileClearRecent.Visible = false;
   for (const Field& field : Fields()) (this->*field.Name).Caption = field.Caption.Usual;
   for (const ChannelType& type : AllChannelTypes()) (this->*type.Item).Caption = std::string(type.Name);
   for (const UnitSystem& system : AllUnitSystems()) (this->*system.Item).Caption = system.Caption;
@@ -95,10 +106,15 @@ void frmMain::JoinCommands() {
                                       {Toolbar1.Print, &frmMain::mnuFilePrint_Click},
                                       {mnuFilePrintPreview, &frmMain::mnuFilePrintPreview_Click},
                                       {mnuFileExit, &frmMain::mnuFileExit_Click},
+                                      {mnuFileClearRecent, &frmMain::mnuFileClearRecent_Click},
                                       {mnuEditCut, &frmMain::mnuEditCut_Click},
                                       {mnuEditCopy, &frmMain::mnuEditCopy_Click},
                                       {mnuEditPaste, &frmMain::mnuEditPaste_Click},
                                       {mnuEditDelete, &frmMain::mnuEditDelete_Click},
+                                      {mnuEditSelectAll, &frmMain::mnuEditSelectAll_Click},
+                                      {mnuEditCopyWithUnit, &frmMain::mnuEditCopyWithUnit_Click},
+                                      {mnuEditCopyFull, &frmMain::mnuEditCopyFull_Click},
+                                      {mnuEditCopyResults, &frmMain::mnuEditCopyResults_Click},
                                       {mnuSolveForFlow, &frmMain::mnuSolveForFlow_Click},
                                       {mnuSolveForDepth, &frmMain::mnuSolveForDepth_Click},
                                       {mnuSolveSection, &frmMain::mnuSolveSection_Click},
@@ -116,6 +132,12 @@ void frmMain::JoinCommands() {
                                       {cmdIrreg, &frmMain::cmdIrreg_Click},
                                       {cmdMannParams, &frmMain::cmdMannParams_Click}}) {
     each.Of.Click = [this, run = each.Run] { (this->*run)(); };
+  }
+  for (const Field& field : Fields()) {
+    if (field.Solve.Press != nullptr) (this->*field.Solve.Press).Click = (this->*field.Solve.Command).Click;
+  }
+  for (int i = 1; i <= RecentFiles::Most; ++i) {
+    mnuFileRecent[i].Click = [this, i] { OpenInstead(recentShown_.at(static_cast<std::size_t>(i - 1))); };
   }
   for (const ChannelType& type : AllChannelTypes()) {
     (this->*type.Item).Click = [this, &type] { SelectChannelType(type); };

@@ -13,6 +13,7 @@
 #include "app/main/StatusLine.h"
 #include "app/main/SubWindows.h"
 #include "app/project/ProjectFile.h"
+#include "app/settings/RecentFiles.h"
 #include "engine/ChannelState.h"
 #include "notes/Notes.h"
 #include "platform/Controls.h"
@@ -39,6 +40,8 @@ class frmMain : public Form {
       lblSlopeUnits{this, "lblSlopeUnits"}, lblBaseWidthUnits{this, "lblBaseWidthUnits"},
       lblDiameterUnits{this, "lblDiameterUnits"};
   Button cmdMannParams{this, "cmdMannParams"}, cmdIrreg{this, "cmdIrreg"};
+  /// Beside flow and depth: each makes its box the result, as the command in the menu does.
+  ToolButton optFlow{this, "optFlow"}, optDepth{this, "optDepth"};
 
   // Results.
   Label lblVelocity{this, "lblVelocity"}, lblVelHead{this, "lblVelHead"}, lblArea{this, "lblArea"},
@@ -70,8 +73,12 @@ class frmMain : public Form {
   MenuItem mnuFileNew{this, "mnuFileNew"}, mnuFileOpen{this, "mnuFileOpen"}, mnuFileSave{this, "mnuFileSave"},
       mnuFileSaveAs{this, "mnuFileSaveAs"}, mnuFilePrint{this, "mnuFilePrint"},
       mnuFilePrintPreview{this, "mnuFilePrintPreview"}, mnuFileExit{this, "mnuFileExit"};
+  ControlArray<MenuItem, 1, RecentFiles::Most> mnuFileRecent{this, "mnuFileRecent"};
+  MenuItem mnuFileClearRecent{this, "mnuFileClearRecent"};
   MenuItem mnuEditCut{this, "mnuEditCut"}, mnuEditCopy{this, "mnuEditCopy"},
-      mnuEditPaste{this, "mnuEditPaste"}, mnuEditDelete{this, "mnuEditDelete"};
+      mnuEditPaste{this, "mnuEditPaste"}, mnuEditDelete{this, "mnuEditDelete"},
+      mnuEditSelectAll{this, "mnuEditSelectAll"}, mnuEditCopyWithUnit{this, "mnuEditCopyWithUnit"},
+      mnuEditCopyFull{this, "mnuEditCopyFull"}, mnuEditCopyResults{this, "mnuEditCopyResults"};
   MenuItem mnuSolveForFlow{this, "mnuSolveForFlow"}, mnuSolveForDepth{this, "mnuSolveForDepth"},
       mnuSolveGraph{this, "mnuSolveGraph"}, mnuSolveTable{this, "mnuSolveTable"},
       mnuSolveSection{this, "mnuSolveSection"}, mnuSolveWorking{this, "mnuSolveWorking"};
@@ -134,6 +141,8 @@ class frmMain : public Form {
   /// Takes up unsaved work that was kept. Its first save offers the file `origin` (empty: none) that it came
   /// from.
   void RecoverProject(const ProjectFile::Project& project, const std::string& origin);
+  /// Puts the projects used last into the File menu, those that are gone greyed.
+  void ShowRecentFiles();
   ProjectFile::Project CurrentProject() const;
   /// The file that the project was opened from, saved in or recovered for; empty without one.
   std::string FileOfWork() const;
@@ -151,10 +160,17 @@ class frmMain : public Form {
   void mnuFilePrint_Click();
   void mnuFilePrintPreview_Click();
   void mnuFileExit_Click();
+  void mnuFileClearRecent_Click();
   void mnuEditCut_Click();
   void mnuEditCopy_Click();
   void mnuEditPaste_Click();
   void mnuEditDelete_Click();
+  void mnuEditSelectAll_Click();
+  void mnuEditCopyWithUnit_Click();
+  /// The number behind the box, with the fewest digits that read back the same.
+  void mnuEditCopyFull_Click();
+  /// The problem and its answer as a table, for a spreadsheet or a letter.
+  void mnuEditCopyResults_Click();
   void mnuOptionsRect_Click() { mnuOptionsRect.Click(); }
   void mnuOptionsTriangular_Click() { mnuOptionsTriangular.Click(); }
   void mnuOptionsTrap_Click() { mnuOptionsTrap.Click(); }
@@ -192,6 +208,8 @@ class frmMain : public Form {
   void Fill(ProjectFile::Project project);
   void ShowProject();
   void ShowTitle();
+  /// The project's file is the one used last.
+  void RememberFile();
   void SelectChannelType(const ChannelType& type);
   void SelectSolveForFlow(bool solveForFlow);
   void SelectUnits(int units);
@@ -229,13 +247,17 @@ class frmMain : public Form {
   void ExplainResults(const std::string& whyNone);
   void ShowNotesOnBoxes();
   static std::string NoteOn(const Field& result);
+  /// The row of the box with the keyboard; null when there is none, or it is empty.
+  const Field* FieldInHand() const;
 
   SubWindows& windows_;
   StatusLine status_;
   std::map<const TextBox*, std::string> typed_;  // in boxes that became results; none once an input changes
   PointTable typedWith_;                         // the points at that time
   std::string recoveredFrom_;                    // the file of recovered work until it is saved
-  std::string fileBytes_;                        // of the project's file when it was opened or last saved
+  RecentFiles recentFiles_;
+  std::array<std::string, RecentFiles::Most> recentShown_;  // their paths, in the order of the menu
+  std::string fileBytes_;  // of the project's file when it was opened or last saved
   Findings found_;
   std::vector<Note> notes_;
   bool solved_ = false;

@@ -1,5 +1,7 @@
 // The project in work: new, opened, saved or let go. See frmMain.h.
+#include <algorithm>
 #include <exception>
+#include <filesystem>
 
 #include "app/Declarations.h"
 #include "app/main/Fields.h"
@@ -73,6 +75,7 @@ bool frmMain::WriteProject() {
   }
   recoveredFrom_.clear();
   Declarations::DataChanged = false;
+  RememberFile();
   Declarations::Done = "Saved " + Declarations::FileTitle;
   TellFailure("");
   return true;
@@ -171,6 +174,7 @@ void frmMain::Fill(ProjectFile::Project project) {
 void frmMain::OpenProject(const std::string& path) {
   if (!FileOpen(path)) return;
   TakePath(path);
+  RememberFile();
   ShowProject();
 }
 
@@ -226,4 +230,44 @@ void frmMain::mnuFilePrintPreview_Click() {
 }
 void frmMain::mnuFileExit_Click() {
   Unload();
+}
+
+namespace {
+
+/// A path as a menu shows it: the name first, then the folder, of a long one its end.
+std::string NameAndFolder(const std::string& path) {
+  constexpr std::size_t longest = 60;  // bytes
+  const std::size_t end = path.rfind('/');
+  std::string folder = path.substr(0, std::max<std::size_t>(end, 1));
+  if (folder.size() > longest) {
+    const std::size_t cut = folder.find('/', folder.size() - longest);
+    if (cut != std::string::npos) folder = "…" + folder.substr(cut);
+  }
+  return path.substr(end + 1) + " - " + folder;
+}
+
+}  // namespace
+
+void frmMain::RememberFile() {
+  recentFiles_.Add(Declarations::FilePath);
+  ShowRecentFiles();
+}
+
+void frmMain::ShowRecentFiles() {
+  const std::vector<std::string> paths = recentFiles_.Paths();
+  for (std::size_t i = 0; i < RecentFiles::Most; ++i) {
+    const int number = static_cast<int>(i) + 1;
+    MenuItem& item = mnuFileRecent[number];
+    recentShown_[i] = i < paths.size() ? paths[i] : "";
+    item.Caption = std::to_string(number) + " " + (i < paths.size() ? NameAndFolder(paths[i]) : "");
+    item.Visible = i < paths.size();
+    std::error_code error;
+    item.Enabled = i < paths.size() && std::filesystem::exists(paths[i], error);
+  }
+  mnuFileClearRecent.Visible = !paths.empty();
+}
+
+void frmMain::mnuFileClearRecent_Click() {
+  recentFiles_.Clear();
+  ShowRecentFiles();
 }

@@ -3,9 +3,11 @@
 
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
+#include "app/Units.h"
 #include "app/main/ChannelTypes.h"
 #include "app/main/Loading.h"
 #include "app/main/frmMain.h"
+#include "engine/NumberText.h"
 #include "platform/Services.h"
 
 void frmMain::Input_Change() {
@@ -97,4 +99,40 @@ void frmMain::mnuEditPaste_Click() {
 void frmMain::mnuEditDelete_Click() {
   auto* const box = dynamic_cast<TextBox*>(ActiveControl());
   if (box != nullptr && !box->Locked) box->ReplaceSelection("");
+}
+
+void frmMain::mnuEditSelectAll_Click() {
+  if (auto* const box = dynamic_cast<TextBox*>(ActiveControl())) box->SelectAll();
+}
+
+const Field* frmMain::FieldInHand() const {
+  const auto fields = Fields();
+  const auto at = std::ranges::find_if(
+      fields, [this](const Field& field) { return &(this->*field.Box) == ActiveControl(); });
+  return at == fields.end() || (this->*at->Box).Text.Get().empty() ? nullptr : &*at;
+}
+
+void frmMain::mnuEditCopyWithUnit_Click() {
+  const Field* const field = FieldInHand();
+  if (field == nullptr) return;
+  const std::string unit = UnitLabel(ChannelState.UnitsEorM, field->Quantity);
+  TheServices().clipboard.SetText((this->*field->Box).Text.Get() +
+                                  (unit.empty() ? field->Suffix : " " + WithRaisedExponents(unit)));
+}
+
+void frmMain::mnuEditCopyFull_Click() {
+  const Field* const field = FieldInHand();
+  if (field == nullptr) return;
+  const EngineValue& value = ChannelState.*field->Cell;
+  // An input is copied as it was typed, and so is a result that is a word.
+  TheServices().clipboard.SetText(
+      field->IsResult() && value.IsDouble()
+          ? PlainNumberInLocale(value.Number() / UnitFactor(ChannelState.UnitsEorM, field->Quantity))
+          : (this->*field->Box).Text.Get());
+}
+
+void frmMain::mnuEditCopyResults_Click() {
+  windows_.CopyResults();
+  Declarations::Done = "Copied the results";
+  ShowStatus();
 }

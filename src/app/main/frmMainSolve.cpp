@@ -41,7 +41,7 @@ void frmMain::CheckInputs() {
   notes_ = NotesOn(found_, NoteSpelling());
   for (Control* const command :
        std::initializer_list<Control*>{&mnuSolveGraph, &mnuSolveTable, &mnuSolveSection, &Toolbar1.Graph,
-                                       &Toolbar1.Table, &Toolbar1.Section}) {
+                                       &Toolbar1.Table, &Toolbar1.Section, &mnuEditCopyResults}) {
     command->Enabled = solved_;
   }
   std::string verdict;

@@ -80,6 +80,10 @@ void Use(std::string path) {
   path_ = std::move(path);
 }
 
+std::string Beside(std::string_view name) {
+  return path_.empty() ? "" : fs::path(path_).replace_filename(name).string();
+}
+
 std::string Get(std::string_view section, std::string_view key) {
   Lines lines = ReadLines();
   const auto range = FindSection(lines, section);

@@ -15,6 +15,9 @@ std::string DefaultPath();
 /// The file that the functions below read and write; empty: none.
 void Use(std::string path);
 
+/// A file of that name beside it, for what is no preference; empty without a settings file.
+std::string Beside(std::string_view name);
+
 std::string Get(std::string_view section, std::string_view key);
 
 /// Replaces the keys given and keeps every other line of the file.

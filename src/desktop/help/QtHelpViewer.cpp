@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include "desktop/kit/Text.h"
+#include "desktop/kit/WindowPlace.h"
 #include "help/HTMLHelp.h"
 
 QStringList QtHelpViewer::Paths() {
@@ -15,7 +16,11 @@ QStringList QtHelpViewer::Paths() {
 bool QtHelpViewer::HasWindow() {
   for (const QString& path : paths_) {
     if (window_) break;
-    if (auto file = HelpFile::Open(path)) window_ = std::make_unique<HelpWindow>(std::move(file));
+    if (auto file = HelpFile::Open(path)) {
+      window_ = std::make_unique<HelpWindow>(std::move(file));
+      window_->setObjectName(QStringLiteral("help"));
+      KeepPlace(*window_);
+    }
   }
   return window_ != nullptr;
 }

@@ -149,6 +149,7 @@ void BoxEdit::dropEvent(QDropEvent* event) {
 }
 
 void BoxEdit::contextMenuEvent(QContextMenuEvent* event) {
+  if (isReadOnly() && !hasSelectedText()) selectAll();  // an answer is copied whole
   QMenu* const menu = createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
   for (QAction* const action : menu->actions()) {
@@ -156,13 +157,26 @@ void BoxEdit::contextMenuEvent(QContextMenuEvent* event) {
     action->disconnect(this);
     connect(action, &QAction::triggered, this, [this] { box_.Paste(Copied(QClipboard::Clipboard)); });
   }
+  if (isReadOnly()) {
+    menu->addSeparator();
+    menu->addActions(actions());
+  }
   menu->popup(event->globalPos());
 }
 
 bool BoxEdit::event(QEvent* event) {
-  // A read-only line edit leaves Cut to the menu, which empties the clipboard when nothing is selected.
-  if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cut))
-    event->accept();
+  if (event->type() == QEvent::ShortcutOverride) {
+    auto& key = static_cast<QKeyEvent&>(*event);
+    // A read-only line edit leaves Cut to the menu, which empties the clipboard when nothing is selected.
+    if (key.matches(QKeySequence::Cut)) event->accept();
+    // Under X11 a line edit takes these before any command: they would empty the line, go to its end and
+    // delete a character.
+    for (const Qt::Key command : {Qt::Key_U, Qt::Key_E, Qt::Key_D}) {
+      if (key.keyCombination() != (Qt::CTRL | command)) continue;
+      event->ignore();
+      return true;
+    }
+  }
   return QLineEdit::event(event);
 }
 

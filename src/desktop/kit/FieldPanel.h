@@ -7,11 +7,10 @@
 
 class BoxEdit;
 class QGridLayout;
-class QLabel;
 
 class FieldPanel : public QWidget {
  public:
-  FieldPanel(QLabel* heading, QWidget* parent);
+  FieldPanel(QWidget* heading, QWidget* parent);
 
   struct Field {
     Label& Caption;
@@ -20,10 +19,15 @@ class FieldPanel : public QWidget {
     const char* FixedUnit;     ///< in the place of a unit, for example ":1"
     Wording Symbol;            ///< as in Symbol.h
     std::string_view Letters;  ///< candidates for the mnemonic
+    Wording Captions;          ///< that it may have
+    QWidget* Switch;           ///< behind the caption; null: none
   };
   BoxEdit* AddField(const Field& field);
   /// A row of its own under the boxes.
   void AddUnderBox(QWidget* widget);
+
+  /// Keeps the numbers in line at their decimal sign.
+  void AlignDecimals();
 
   /// Gives the captions, hidden ones too, and the widest unit their room, so that the columns stay as they
   /// are when others are shown.
@@ -35,4 +39,5 @@ class FieldPanel : public QWidget {
  private:
   int Row() const;
   QGridLayout* grid_;
+  int captionRoom_ = 0;  // that the widest caption needs
 };

@@ -37,6 +37,7 @@ void FormDialog::AddButtons(QPushButton* ok, QPushButton* cancel) {
 void FormDialog::showEvent(QShowEvent* event) {
   QSize size = sizeHint() + QSize(1, 1);  // a screen of broken scale may round it down
   if (size.height() > Room().height()) size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  if (testAttribute(Qt::WA_Resized)) size = size.expandedTo(this->size());  // as it was left
   resize(size.boundedTo(Room()));
   QDialog::showEvent(event);
 }

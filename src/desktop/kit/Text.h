@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "app/Units.h"
+
 inline QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -34,7 +36,5 @@ inline int UnitsIn(const QString& text, int characters) {
 
 /// A text with its units as they are printed: "m^3/s" with its exponent raised.
 inline QString Printed(std::string_view text) {
-  return ToQt(text)
-      .replace(QLatin1String("m^2"), QStringLiteral("m\u00B2"))
-      .replace(QLatin1String("m^3"), QStringLiteral("m\u00B3"));
+  return ToQt(WithRaisedExponents(std::string(text)));
 }

@@ -1,11 +1,14 @@
 // See MainView.h; its menus and tools are in MainViewCommands.cpp.
 #include "desktop/main/MainView.h"
 
+#include <QAction>
 #include <QDragEnterEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QTimer>
 #include <QToolBar>
@@ -14,26 +17,18 @@
 
 #include "app/Declarations.h"
 #include "app/Units.h"
+#include "app/main/ChannelTypes.h"
 #include "app/main/Fields.h"
 #include "desktop/kit/Appearance.h"
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/FieldPanel.h"
 #include "desktop/kit/LineIcon.h"
+#include "desktop/kit/ListButton.h"
 #include "desktop/kit/Text.h"
 #include "desktop/main/ReflowArea.h"
 #include "desktop/main/ShapeWidget.h"
 
 namespace {
-
-/// One row of a field, and the button that picks its number below it.
-void AddRow(FieldPanel& panel, frmMain& form, const Field& field) {
-  panel.AddField({form.*field.Name, form.*field.Box, field.Unit == nullptr ? nullptr : &(form.*field.Unit),
-                  field.Suffix, field.Symbol, field.Mnemonic});
-  const Picker& picker = field.Choose;
-  if (picker.Press != nullptr) {
-    panel.AddUnderBox(Bind::Push(form.*picker.Press, &panel, picker.Mnemonic));
-  }
-}
 
 /// The room that the widest unit takes.
 int UnitWidth(const QFontMetrics& letters) {
@@ -121,10 +116,51 @@ QWidget* MainView::ProjectRow(QWidget* parent) {
   return row;
 }
 
+QAction* MainView::ActionOf(const MenuItem& item) const {
+  return findChild<QAction*>(ToQt(item.Name()));
+}
+
+QWidget* MainView::TypeHeading(QWidget* parent) {
+  auto* const heading = Bind::Named(form_.lblChanType, new ListButton(parent));
+  Bind::Join(form_.lblChanType.Caption, heading,
+             [](ListButton& w, const std::string& type) { w.setText(ToQt(type)); });
+  auto* const types = new QMenu(heading);
+  for (const ChannelType& type : AllChannelTypes()) types->addAction(ActionOf(form_.*type.Item));
+  heading->setMenu(types);
+  heading->setToolTip(tr("Channel type (Ctrl+1 to Ctrl+%1)").arg(AllChannelTypes().size()));
+  return heading;
+}
+
+QWidget* MainView::SolveSwitch(const Field& field, QWidget* parent) {
+  if (field.Solve.Press == nullptr) return nullptr;
+  auto* const shown = Bind::Named(form_.*field.Solve.Press, new QRadioButton(tr("solve"), parent));
+  shown->setFocusPolicy(Qt::NoFocus);  // the box that is typed into keeps the keyboard
+  const QString name = tr("Solve for %1").arg(QString::fromLatin1(field.Caption.Usual).toLower());
+  const QString key = ActionOf(form_.*field.Solve.Command)->shortcut().toString(QKeySequence::NativeText);
+  shown->setAccessibleName(name);
+  shown->setToolTip(QStringLiteral("%1 (%2)").arg(name, key));
+  Bind::Follow((form_.*field.Solve.Command).Checked, shown, [this, shown, &field] {
+    if ((form_.*field.Solve.Command).Checked) shown->setChecked(true);  // which frees the other
+  });
+  connect(shown, &QRadioButton::clicked, this, [this, &field] { (form_.*field.Solve.Press).Click(); });
+  return shown;
+}
+
+void MainView::AddRow(FieldPanel& panel, const Field& field) {
+  BoxEdit* const box = panel.AddField(
+      {form_.*field.Name, form_.*field.Box, field.Unit == nullptr ? nullptr : &(form_.*field.Unit),
+       field.Suffix, field.Symbol, field.Mnemonic, field.Caption, SolveSwitch(field, &panel)});
+  box->addActions({ActionOf(form_.mnuEditCopyWithUnit), ActionOf(form_.mnuEditCopyFull)});
+  const Picker& picker = field.Choose;
+  if (picker.Press != nullptr) {
+    panel.AddUnderBox(Bind::Push(form_.*picker.Press, &panel, picker.Mnemonic));
+  }
+}
+
 FieldPanel* MainView::Inputs(QWidget* parent) {
-  auto* const panel = new FieldPanel(Bind::Caption(form_.lblChanType, parent), parent);
+  auto* const panel = new FieldPanel(TypeHeading(parent), parent);
   for (const Field& field : Fields()) {
-    if (field.Result != ResultWhen::Always) AddRow(*panel, form_, field);
+    if (field.Result != ResultWhen::Always) AddRow(*panel, field);
   }
   panel->AddUnderBox(Bind::Push(form_.cmdIrreg, panel, "i"));
   return panel;
@@ -133,8 +169,9 @@ FieldPanel* MainView::Inputs(QWidget* parent) {
 FieldPanel* MainView::Results(QWidget* parent) {
   auto* const panel = new FieldPanel(new QLabel(QStringLiteral("Results"), parent), parent);
   for (const Field& field : Fields()) {
-    if (field.Result == ResultWhen::Always) AddRow(*panel, form_, field);
+    if (field.Result == ResultWhen::Always) AddRow(*panel, field);
   }
+  panel->AlignDecimals();
   return panel;
 }
 

@@ -21,6 +21,11 @@ class MainView : public QMainWindow {
   void AddMenus();
   void AddTools();
   QWidget* ProjectRow(QWidget* parent);
+  QWidget* TypeHeading(QWidget* parent);
+  QWidget* SolveSwitch(const Field& field, QWidget* parent);
+  void AddRow(FieldPanel& panel, const Field& field);
+  /// The command of an item; the menus are there first.
+  QAction* ActionOf(const MenuItem& item) const;
   FieldPanel* Inputs(QWidget* parent);
   FieldPanel* Results(QWidget* parent);
   QWidget* StatusLine();

@@ -62,12 +62,14 @@ void ReflowArea::Arrange() {
   const QSize room = maximumViewportSize() - QSize(2 * margin, 3 * margin + parts_.Top->sizeHint().height());
   const Flow flow = Best(room);
   Place(flow);
-  if (flow != Flow::Three) return;
-  // Rows grow with the window as far as they still read as one block.
+  if (flow == Flow::One) return;
+  // Rows grow with the window as far as they still read as one block, and move together before one of them
+  // would be out of sight.
   const int spare =
       room.height() - std::max(parts_.Inputs->sizeHint().height(), parts_.Results->sizeHint().height());
+  const int widest = flow == Flow::Three ? em * 5 / 4 : rowGap;
   for (FieldPanel* const panel : {parts_.Inputs, parts_.Results}) {
-    panel->SetAiriness(std::clamp(rowGap + spare / 10, rowGap, em * 5 / 4));
+    panel->SetAiriness(std::clamp(rowGap + spare / 10, em / 8, widest));
   }
 }
 
@@ -80,7 +82,7 @@ void ReflowArea::Place(Flow flow) {
     Cell Inputs, Drawing, Results;
     int Stretches[3];
   };
-  static constexpr Placing Placings[] = {{3, 1, {1, 0, 1}, {1, 1, 1}, {1, 2, 1}, {2, 5, 2}},
+  static constexpr Placing Placings[] = {{3, 1, {1, 0, 1}, {1, 2, 1}, {1, 1, 1}, {0, 0, 1}},
                                          {2, 2, {1, 0, 1}, {2, 0, 2}, {1, 1, 1}, {1, 1, 0}},
                                          {1, 3, {1, 0, 1}, {3, 0, 1}, {2, 0, 1}, {1, 0, 0}}};
   const Placing& placing = Placings[static_cast<int>(flow)];

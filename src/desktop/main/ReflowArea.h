@@ -1,5 +1,6 @@
-// The middle of the main window: inputs, drawing and results beside each other while there is room, below
-// each other when the window is small or the text large, and scrolled when even that is too much.
+// The middle of the main window: inputs, results and drawing beside each other while there is room. In a
+// small window, or with large text, the drawing goes below the numbers first, then the results below the
+// inputs; what is too much even then is scrolled.
 #pragma once
 
 #include "desktop/kit/ScrollPage.h"

@@ -25,6 +25,7 @@
 #include "desktop/chart/ChartWidget.h"
 #include "desktop/kit/FrontWindow.h"
 #include "desktop/kit/Text.h"
+#include "desktop/kit/WindowPlace.h"
 #include "desktop/kit/ToolBar.h"
 
 namespace {
@@ -211,6 +212,8 @@ void QtPrinterDialog::Preview(const PrintRequest& request, const std::function<v
   QPrintPreviewDialog dialog(&Device(request), FrontWindow());
   dialog.setWindowModality(Qt::WindowModal);
   dialog.resize(dialog.screen()->availableSize() * 4 / 5);
+  dialog.setObjectName(QStringLiteral("preview"));
+  KeepPlace(dialog);
   MakePreviewReachable(dialog);
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&write](QPrinter* device) {
     QtPrinter printer(*device, {});

@@ -10,6 +10,7 @@
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/FrontWindow.h"
 #include "desktop/kit/Text.h"
+#include "desktop/kit/WindowPlace.h"
 #include "desktop/main/DigitsView.h"
 #include "desktop/main/MainView.h"
 #include "desktop/main/MannParamView.h"
@@ -89,6 +90,7 @@ void QtWindowHost::Open(Form& form) {
     const QString mark = QStringLiteral("[*]");
     w.setWindowTitle(ToQt(caption).replace(mark, mark + mark) + mark);
   });
+  KeepPlace(*window);
   window->installEventFilter(new CloseAsksForm(form, window));
   auto* const help = new QShortcut(QKeySequence::HelpContents, window);
   QObject::connect(help, &QShortcut::activated, window, [&form] { HTMLHelp::ShowFor(form); });

@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "app/Declarations.h"
+#include "app/settings/RecentFiles.h"
 #include "app/settings/SettingsFile.h"
 #include "engine/ChannelState.h"
 #include "support/TestFolder.h"
@@ -79,6 +80,17 @@ TEST_F(Preferences, SavedInOrderBesideTheLinesOfOthers) {
   EXPECT_TRUE(saved.starts_with("[Window]\nWidth=5\n[Startup]\nChanType=Trapezoidal Channel\n"));
   EXPECT_NE(saved.find("\nSigDigs=1\nEngDigs=3\n"), std::string::npos);
   EXPECT_TRUE(saved.ends_with("[Last]\nSigDigs=2\n"));
+}
+
+TEST_F(Preferences, TheLatestEightFilesAreRememberedInAFileOfTheirOwn) {
+  Write("[Startup]\n");
+  for (const char name : std::string("abcdefghiab")) RecentFiles().Add(std::string("/canals/") + name);
+  std::string names;
+  for (const std::string& path : RecentFiles().Paths()) names += path.back();
+  EXPECT_EQ(names, "baihgfed");
+  EXPECT_EQ(BytesOf(path_), "[Startup]\n");
+  RecentFiles().Clear();
+  EXPECT_TRUE(RecentFiles().Paths().empty());
 }
 
 TEST(SettingsPath, FollowsTheDesktopsFolders) {

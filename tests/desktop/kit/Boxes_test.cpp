@@ -7,6 +7,7 @@
 #include "desktop/Desk.h"
 #include "desktop/kit/Appearance.h"
 #include "desktop/kit/Text.h"
+#include "engine/NumberText.h"
 
 namespace {
 
@@ -156,6 +157,22 @@ TEST_F(Boxes, AnAnswerCanBeCopiedButNotEdited) {
   EXPECT_EQ(services_.clipboard.Text(), "kept");
   Press("Del 9");
   EXPECT_EQ(Edit(main_.tbVelocity).text(), QStringLiteral("4.45"));
+}
+
+TEST_F(Boxes, AnAnswersOwnMenuCopiesIt) {
+  EnterTrapezoid();
+  hands_.Focus(main_.tbVelocity);
+  const auto choose = [this](Qt::Key letter) {
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, {}, {});
+    QApplication::sendEvent(&Edit(main_.tbVelocity), &asked);
+    QTest::keyClick(QApplication::activePopupWidget(), letter);
+  };
+  choose(Qt::Key_C);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("4.45"));
+  choose(Qt::Key_W);
+  EXPECT_EQ(services_.clipboard.Text(), "4.45 fps");
+  choose(Qt::Key_F);
+  EXPECT_EQ(LeadingNumber(services_.clipboard.Text()), ChannelState.Velocity.Number());
 }
 
 TEST_F(Boxes, ClickingIntoABoxSelectsItsNumber) {
