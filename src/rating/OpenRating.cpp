@@ -12,15 +12,6 @@
 
 namespace {
 
-/// From nothing up to the depth or flow typed in.
-void SetDefaultRange(int steps) {
-  const Field& given = FieldOf(ChannelState.SolveForFlow ? &frmMain::tbDepth : &frmMain::tbFlow);
-  RatingRange.VaryCode = given.PageQuantity;
-  RatingRange.RangeMin = LowestVaried(given);
-  RatingRange.RangeMax = ChannelState.*given.Cell;
-  RatingRange.RangeStep = (RatingRange.RangeMax.Number() - RatingRange.RangeMin.Number()) / steps;
-}
-
 template <class Settings, class Window>
 void Open(const frmMain& main) {
   Settings settings;
@@ -33,13 +24,13 @@ void Open(const frmMain& main) {
 }  // namespace
 
 void OpenRatingGraph(const frmMain& main) {
-  SetDefaultRange(100);
+  ProposeRange(100);
   const auto solved = ChannelState.SolveForFlow ? &frmMain::tbFlow : &frmMain::tbDepth;
   RatingRange.GraphYColumn = FieldOf(solved).RatingColumn;
   Open<frmGraphSettings, frmGraph>(main);
 }
 
 void OpenRatingTable(const frmMain& main) {
-  SetDefaultRange(20);
+  ProposeRange(ProposedTableSteps);
   Open<frmTableSettings, frmTable>(main);
 }

@@ -121,11 +121,17 @@ std::string RatingGaps::Text(int points) const {
 RatingOutcome RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastValue lastValue,
                               const std::function<void(int row)>& store) {
   const RestoredInputs restored(main);
+  SeriesProgress progress((range.RangeMax.Number() - range.RangeMin.Number()) / range.RangeStep.Number() + 1);
+  return StepRatingSeries(range, lastValue, store, [&](int points) { return progress.GoesOn(points); });
+}
+
+RatingOutcome StepRatingSeries(const RatingRangeRecord& range, LastValue lastValue,
+                               const std::function<void(int row)>& store,
+                               const std::function<bool(int points)>& goesOn) {
   const Field* const input = FindVariedInput(range.VaryCode);
   const double first = range.RangeMin.Number();
   const double last = range.RangeMax.Number();
   const double step = range.RangeStep.Number();
-  SeriesProgress progress((last - first) / step + 1);
   bool maySnap = lastValue == LastValue::Snapped;
   RatingOutcome outcome;
   std::optional<Reason> atTheBeginning;
@@ -142,7 +148,7 @@ RatingOutcome RunRatingSeries(const frmMain& main, const RatingRangeRecord& rang
     } else if (gap) {
       outcome.Gaps.Add(*gap);
     }
-    if (!progress.GoesOn(outcome.Points)) {
+    if (!goesOn(outcome.Points)) {
       outcome.Cancelled = true;
       break;
     }
@@ -159,6 +165,14 @@ RatingOutcome RunRatingSeries(const frmMain& main, const RatingRangeRecord& rang
     outcome.Gaps.Add(*atTheBeginning);
   }
   return outcome;
+}
+
+void ProposeRange(int steps) {
+  const Field& given = FieldOf(ChannelState.SolveForFlow ? &frmMain::tbDepth : &frmMain::tbFlow);
+  RatingRange.VaryCode = given.PageQuantity;
+  RatingRange.RangeMin = LowestVaried(given);
+  RatingRange.RangeMax = ChannelState.*given.Cell;
+  RatingRange.RangeStep = (RatingRange.RangeMax.Number() - RatingRange.RangeMin.Number()) / steps;
 }
 
 bool IsRatingPointValid(int varyCode) {

@@ -57,6 +57,19 @@ struct RatingOutcome {
 RatingOutcome RunRatingSeries(const frmMain& main, const RatingRangeRecord& range, LastValue lastValue,
                               const std::function<void(int row)>& store);
 
+/// The same without a main window: `goesOn` is asked after each point, with the number of points tried,
+/// whether the series goes on, and the inputs stay those of the last point.
+RatingOutcome StepRatingSeries(const RatingRangeRecord& range, LastValue lastValue,
+                               const std::function<void(int row)>& store,
+                               const std::function<bool(int points)>& goesOn);
+
+/// Sets the range in force to the one that is proposed for the solved problem in the record: so many steps
+/// from nothing up to the depth or the flow that is given. EngineFault as LowestVaried.
+void ProposeRange(int steps);
+
+/// How many steps are proposed for a table.
+inline constexpr int ProposedTableSteps = 20;
+
 /// True when the problem record can be solved at the present value of the varied input. EngineFault for an
 /// irregular section without points.
 bool IsRatingPointValid(int varyCode);

@@ -1,14 +1,15 @@
 // See Inspect.h.
 #include "console/Inspect.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdio>
-#include <map>
 
 #include "app/Declarations.h"
 #include "engine/ChannelState.h"
 #include "engine/NumberText.h"
+#include "engine/RecordCells.h"
 #include "platform/FlexGrid.h"
 
 namespace Inspect {
@@ -48,26 +49,6 @@ std::optional<std::string> TextBoxProperty(const TextBox& box, std::string_view 
   if (property == "SelText") return box.SelectedText();
   return std::nullopt;
 }
-
-const std::map<std::string, EngineValue ChannelRecord::*, std::less<>> Cells = {
-    {"Flow", &ChannelRecord::Flow},
-    {"Depth", &ChannelRecord::Depth},
-    {"ManningN", &ChannelRecord::ManningN},
-    {"Slope", &ChannelRecord::Slope},
-    {"Diameter", &ChannelRecord::Diameter},
-    {"BaseWidth", &ChannelRecord::BaseWidth},
-    {"SideSlopeRight", &ChannelRecord::SideSlopeRight},
-    {"SideSlopeLeft", &ChannelRecord::SideSlopeLeft},
-    {"Area", &ChannelRecord::Area},
-    {"Velocity", &ChannelRecord::Velocity},
-    {"VelocityHead", &ChannelRecord::VelocityHead},
-    {"WettedPerimeter", &ChannelRecord::WettedPerimeter},
-    {"HydraulicRadius", &ChannelRecord::HydraulicRadius},
-    {"TopWidth", &ChannelRecord::TopWidth},
-    {"Froude", &ChannelRecord::Froude},
-    {"CriticalDepth", &ChannelRecord::CriticalDepth},
-    {"CriticalSlope", &ChannelRecord::CriticalSlope},
-};
 
 std::optional<std::string> PointCell(const PointTable& points, const std::vector<std::string>& words) {
   if (words.size() != 3) return std::nullopt;
@@ -136,7 +117,8 @@ std::optional<std::string> RecordField(const std::vector<std::string>& words) {
   const ChannelRecord& record = ChannelState;
   if (name == "points") return PointCell(record.IrregPoints, words);
   if (name == "enginepoints") return PointCell(record.IrregEnginePoints, words);
-  if (const auto cell = Cells.find(name); cell != Cells.end()) return Told(record.*cell->second);
+  const auto* const cell = std::ranges::find(RecordCells, name, &RecordCell::Name);
+  if (cell != RecordCells.end()) return Told(record.*cell->Cell);
   if (name == "ChannelType") return record.ChannelType;
   if (name == "SolveForFlow") return Told(record.SolveForFlow);
   if (name == "UnitsEorM") return Told(record.UnitsEorM);

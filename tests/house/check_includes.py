@@ -29,6 +29,7 @@ MAY_INCLUDE = {
     "rating": ["print", *CALCULATOR],
     "working": ["print", *CALCULATOR],
     "program": WINDOWS,
+    "batch": ["rating", "print", *CALCULATOR],
     "desktop/kit": FRONT,
     "desktop/main": ["desktop/kit", *FRONT],
     "desktop/chart": ["desktop/kit", *FRONT],
@@ -43,9 +44,10 @@ MAY_INCLUDE = {
 WITH_QT = ["src/desktop/", "tests/desktop/", "bench/desktop/"]
 QT = re.compile(r"Q[A-Z]|Qt|q[a-z]+\.h$|qcustomplot")
 STANDARD = re.compile(r"[a-z_]+")  # headers of the standard library have no suffix
-# The one room that may ask the system itself: the standard library cannot flush a file to the disk or keep its rights.
+# The one room that may ask the system itself: the standard library cannot flush a file to the disk, keep its rights or
+# start a program.
 WITH_POSIX = "files"
-POSIX = {"fcntl.h", "sys/file.h", "sys/stat.h", "sys/xattr.h", "unistd.h"}
+POSIX = {"fcntl.h", "spawn.h", "sys/file.h", "sys/stat.h", "sys/wait.h", "sys/xattr.h", "unistd.h"}
 DIRECTIVE = re.compile(r'^\s*#\s*include\s*(?:<([^>]*)>|"([^"]*)"|(.*))')
 
 

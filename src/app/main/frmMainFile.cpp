@@ -6,6 +6,7 @@
 #include "app/Declarations.h"
 #include "app/main/Fields.h"
 #include "app/main/Loading.h"
+#include "app/main/Problem.h"
 #include "app/main/frmMain.h"
 #include "app/project/ProjectFile.h"
 #include "engine/ChannelState.h"
@@ -15,11 +16,6 @@
 namespace {
 
 constexpr const char* Filter = "Flumewise Data (*.fwd)|*.fwd|All Files (*.*)|*.*";
-
-/// The text of a project that belongs in the box of a field; null for a result.
-std::string* ItemOf(ProjectFile::Project& project, const Field& field) {
-  return field.FileItem < 0 ? nullptr : &project.Inputs.at(static_cast<std::size_t>(field.FileItem));
-}
 
 std::string NameOf(const std::string& path) {
   return path.substr(path.rfind('/') + 1);
@@ -109,7 +105,7 @@ ProjectFile::Project frmMain::CurrentProject() const {
   ProjectFile::Project project;
   project.ProjName = tbProjName.Text;
   for (const Field& field : Fields()) {
-    if (std::string* const item = ItemOf(project, field)) *item = (this->*field.Box).Text;
+    if (std::string* const item = Problem::ItemOf(project, field)) *item = (this->*field.Box).Text;
   }
   project.ChannelType = record.ChannelType;
   project.SolveForFlow = record.SolveForFlow;
@@ -151,22 +147,10 @@ void frmMain::Fill(ProjectFile::Project project) {
   ForgetNews();
   const Loading loading(loading_);
   typed_.clear();
-  ChannelRecord& record = ChannelState;
-  record.ChannelType = project.ChannelType;
-  record.SolveForFlow = project.SolveForFlow;
-  record.UnitsEorM = project.UnitsEorM;
-  Declarations::SigDigs = project.SigDigs;
-  Declarations::EngDigs = project.EngDigs;
+  Problem::TakeSetting(project);
   tbProjName.Text = project.ProjName;
   for (const Field& field : Fields()) {
-    if (const std::string* const item = ItemOf(project, field)) (this->*field.Box).Text = *item;
-  }
-  EmptySection();
-  for (const auto& [station, elevation, roughness] : project.Points) {
-    auto& point = record.IrregPoints[static_cast<std::size_t>(++record.IrregPointCount)];
-    point[1] = station;
-    point[2] = elevation;
-    point[3] = roughness;
+    if (const std::string* const item = Problem::ItemOf(project, field)) (this->*field.Box).Text = *item;
   }
   Declarations::DataChanged = false;
 }

@@ -9,10 +9,10 @@
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
+#include "app/main/Problem.h"
 #include "app/main/Reasons.h"
 #include "app/main/frmMain.h"
 #include "engine/EngineFault.h"
-#include "engine/NumberText.h"
 #include "engine/SolveChannel.h"
 
 namespace {
@@ -131,14 +131,7 @@ frmMain::Progress frmMain::CurrentProgress() const {
 }
 
 std::string frmMain::MarkOffences() {
-  const ChannelType& type = CurrentChannelType();
-  std::string first;
-  if (type.Name.empty()) first = "Choose a channel type";
-  if (type.IsSurveyed()) {
-    const bool empty = ChannelState.IrregPoints[1][1] == EngineValue("");
-    first = empty ? "Enter the points of the section"
-                  : WhyRefused(ChannelState.IrregPoints, ChannelState.IrregPointCount);
-  }
+  std::string first = Problem::OffenceOfSection();
   for (const Field& field : Fields()) {
     if (field.Result == ResultWhen::Always) continue;
     TextBox& box = this->*field.Box;
@@ -152,35 +145,11 @@ std::string frmMain::MarkOffences() {
 }
 
 std::string frmMain::OffenceOf(const Field& field) const {
-  const ChannelType& type = CurrentChannelType();
-  if (field.IsResult() || !type.Has(field)) return "";
-  const std::string& typed = (this->*field.Box).Text;
-  const std::string& name = (this->*field.Name).Caption;
-  if (!typed.empty() && !IsNumeric(typed)) return FormStuff::MustBeNumber(name, typed);
-  if (field.IsElevation()) return field.SurveyedOffence(typed);
-  const FormStuff::Range& allowed = field.Bounds;
-  const bool within = FormStuff::CheckRange(typed, allowed.Min, allowed.MinInclusive, allowed.Max,
-                                            allowed.MaxInclusive, false);
-  return within ? "" : name + " must be" + FormStuff::RangeText(allowed);
+  return Problem::OffenceOf(field, (this->*field.Box).Text);
 }
 
 void frmMain::InputToGlobal() {
-  ChannelRecord& record = ChannelState;
-  for (const Field& field : Fields()) {
-    if (field.IsResult()) continue;
-    const std::string& typed = (this->*field.Box).Text;
-    const bool converted = TypedDecimals(record.UnitsEorM, field.Quantity).has_value();
-    record.*field.Cell =
-        converted ? EngineValue(LeadingNumber(typed) * FactorOf(field.Quantity)) : EngineValue(typed);
-  }
-  FillPipe();
-  for (std::size_t row = 1; row <= static_cast<std::size_t>(record.IrregPointCount); ++row) {
-    const auto& typed = record.IrregPoints[row];
-    auto& point = record.IrregEnginePoints[row];
-    point[1] = typed[1].Number() * FactorOf(Units::Length);
-    point[2] = typed[2].Number() * FactorOf(Units::Length);
-    if (typed[3] != EngineValue("")) point[3] = typed[3].Number();
-  }
+  Problem::TakeInputs([this](const Field& field) -> const std::string& { return (this->*field.Box).Text; });
 }
 
 void frmMain::FillPipe() {
