@@ -7,6 +7,7 @@
 
 #include "engine/NumberText.h"
 #include "section/IrregTable.h"
+#include "section/Spelling.h"
 
 namespace {
 
@@ -35,13 +36,6 @@ std::optional<NumberLocale> OtherSign() {
   return NumberLocale{here.GroupSeparator, here.DecimalSign};
 }
 
-/// True for "12.500" where "." is the sign.
-bool HasThreeDigitsBehind(std::string_view cell, std::string_view sign) {
-  const std::size_t at = cell.find(sign);
-  return at != std::string_view::npos && at == cell.rfind(sign) &&
-         cell.find_last_of("0123456789") == at + sign.size() + 2;
-}
-
 /// The first station or elevation whose sign only a person can tell; empty where there is none.
 std::string Doubtful(std::string_view rows, const GridBlock& block, const NumberLocale& other) {
   std::string first;
@@ -49,8 +43,7 @@ std::string Doubtful(std::string_view rows, const GridBlock& block, const Number
   ForEachCell(rows, [&](int row, int col, std::string_view cell, char) {
     const bool judged = block.Left() + col <= std::min(block.Right(), IrregTable::Elevation);
     told = told || (judged && cell.find(other.GroupSeparator) != std::string_view::npos);
-    if (judged && first.empty() && NumericValue(cell, other) && HasThreeDigitsBehind(cell, other.DecimalSign))
-      first = cell;
+    if (judged && first.empty() && Survey::MayBeThousands(cell, other)) first = cell;
     return !told && block.Top() + row <= block.Bottom();
   });
   return told ? "" : first;

@@ -33,7 +33,7 @@ bool IsSpecialFree(std::string_view field) {
 /// What the numbers of a sheet allow, taken together.
 struct Evidence {
   bool Point = true, Comma = true;
-  std::string TwoWays[2];  ///< the first number of two readings that has a point, and that has a comma
+  std::string TwoWays[2];  ///< the first that may be thousands and has a point, and that has a comma
 };
 
 Evidence EvidenceOf(const Sheet& sheet, const Columns& columns) {
@@ -49,8 +49,10 @@ Evidence EvidenceOf(const Sheet& sheet, const Columns& columns) {
     evidence.Point = evidence.Point && withPoint;
     evidence.Comma = evidence.Comma && withComma;
     std::string& first = evidence.TwoWays[comma ? 1 : 0];
-    if (withPoint != withComma && withPoint && withComma && first.empty() && role != Role::ManningN)
+    if (role != Role::ManningN && first.empty() &&
+        MayBeThousands(field, comma ? DecimalComma : DecimalPoint)) {
       first = field;
+    }
     return evidence.Point && evidence.Comma;
   });
   // Where commas separate the fields, only one in quotes can be part of a number.
@@ -68,6 +70,12 @@ std::optional<double> ValueOf(std::string_view field, const NumberLocale& spelli
   }
   const std::optional<double> value = NumericValue(field, spelling);
   return value ? value : NumericValue(field, {spelling.DecimalSign, GroupSpace});
+}
+
+bool MayBeThousands(std::string_view field, const NumberLocale& spelling) {
+  const std::size_t at = field.find(spelling.DecimalSign);
+  return at != std::string_view::npos && at == field.rfind(spelling.DecimalSign) &&
+         field.find_last_of("0123456789") == at + spelling.DecimalSign.size() + 2 && ValueOf(field, spelling);
 }
 
 bool IsNumberOfSomeSign(std::string_view field) {

@@ -40,6 +40,10 @@ bool IsNumberOfSomeSign(std::string_view field);
 /// The value of a field under a decimal sign.
 std::optional<double> ValueOf(std::string_view field, const NumberLocale& spelling);
 
+/// True for "12.500" where the point is the decimal sign: a number whose one sign has three digits behind it,
+/// as a sign between thousands has.
+bool MayBeThousands(std::string_view field, const NumberLocale& spelling);
+
 /// The decimal sign of a sheet as its stations, elevations and n show it together. Where each number has one
 /// sign that may also separate thousands ("12.500"), the user's own decimal sign decides, and `Doubtful`
 /// holds the first of them if that makes it a thousand: only a person can tell.
