@@ -71,6 +71,8 @@ class frmIrreg : public Form {
   using Points = std::vector<std::array<EngineValue, 3>>;  ///< station, elevation, n
   /// The points as they stand here, acceptable or not; nothing while they are those of the problem.
   std::optional<Points> ChangedPoints() const;
+  /// Asks whether they may be lost.
+  static bool GiveUpPoints();
 
  protected:
   void Form_Load() override;

@@ -110,8 +110,12 @@ void frmIrreg::cmdCancel_Click() {
   Unload();
 }
 
+bool frmIrreg::GiveUpPoints() {
+  return Confirms("Discard the changed points?");
+}
+
 bool frmIrreg::Form_QueryUnload() {
-  return settled_ || CellsInWork() == opened_ || Confirms("Discard the changed points?");
+  return settled_ || CellsInWork() == opened_ || GiveUpPoints();
 }
 
 std::optional<frmIrreg::Points> frmIrreg::ChangedPoints() const {

@@ -59,9 +59,9 @@ void SetAside(KeptCopy& copy, const std::exception& failure) {
 
 }  // namespace
 
-Recovery::Recovery(frmMain& main) : main_(main) {
+Recovery::Recovery(frmMain& main, int milliseconds) : main_(main) {
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
-  timer_.start(Milliseconds);
+  timer_.start(milliseconds);
 }
 
 Recovery::~Recovery() {

@@ -16,7 +16,7 @@ class Recovery {
   /// No unsaved work is older than twice this in the copy.
   static constexpr int Milliseconds = 4000;
 
-  explicit Recovery(frmMain& main);
+  explicit Recovery(frmMain& main, int milliseconds = Milliseconds);
   /// The program ends as it should: the copy goes.
   ~Recovery();
   Recovery(const Recovery&) = delete;

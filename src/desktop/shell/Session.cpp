@@ -5,8 +5,8 @@
 #include <QEvent>
 #include <QSessionManager>
 
-#include "app/Declarations.h"
 #include "app/settings/InitialFile.h"
+#include "section/frmIrreg.h"
 
 Session::Session(frmMain& main, Recovery& recovery) : main_(main), recovery_(recovery) {
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
@@ -18,9 +18,11 @@ Session::Session(frmMain& main, Recovery& recovery) : main_(main), recovery_(rec
 }
 
 bool Session::MayEnd() {
-  if (!main_.ChecknSave()) return false;
   givenUp_.reset();
-  if (Declarations::DataChanged) givenUp_ = main_.UnsavedProject();
+  // No file takes the points that are still in the editor.
+  if (main_.ChangedPoints && main_.ChangedPoints() && !frmIrreg::GiveUpPoints()) return false;
+  if (!main_.ChecknSave()) return false;
+  givenUp_ = main_.UnsavedProject();
   return true;
 }
 

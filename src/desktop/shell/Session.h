@@ -8,8 +8,9 @@
 #include "app/project/ProjectFile.h"
 #include "desktop/shell/Recovery.h"
 
-/// Asks once about unsaved changes when the session is about to end, and ends the program without another
-/// question when it does. Work that the user has neither saved nor given up then stays as a recovery copy.
+/// Asks once about unsaved changes when the session is about to end, first about those in an open editor, and
+/// ends the program without another question when it does. Work that the user has neither saved nor given up
+/// then stays as a recovery copy.
 class Session : public QObject {
  public:
   Session(frmMain& main, Recovery& recovery);

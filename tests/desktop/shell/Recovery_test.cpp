@@ -57,8 +57,16 @@ class RecoveryTest : public Desk {
 };
 
 TEST_F(RecoveryTest, KeepsWhatIsTypedWithoutAPause) {
-  Recovery recovery(main_);
   hands_.Focus(main_.tbProjName);
+  {
+    const Recovery often(main_, 20);
+    for (int keys = 0; keys < 500 && KeptCopy::All().empty(); ++keys) {
+      Keys("N");
+      QTest::qWait(5);
+    }
+    EXPECT_EQ(KeptName().front(), 'N');
+  }
+  Recovery recovery(main_);
   for (const char* const typed : {"N", "No", "Nor", "North"}) {
     Keys(&typed[std::string(typed).size() - 1]);
     main_.tbProjName.Text = typed;
@@ -191,11 +199,20 @@ TEST_F(RecoveryTest, ASessionEndsAfterOneQuestion) {
   main_.tbProjName.Text = "Canal";
   recovery->Look();
   EXPECT_FALSE(session.MayEnd()) << "Cancel keeps the session";
-  services_.messageBox.Answers = {BoxAnswer::No};
-  EXPECT_TRUE(session.MayEnd());
-  services_.messageBox.Boxes.clear();
-  EndSession();
-  EXPECT_TRUE(services_.messageBox.Boxes.empty());
+  hands_.Click(main_.mnuOptionsIrreg);
+  InModal(main_.cmdIrreg, [&](Form& editor) {
+    hands_.Focus(dynamic_cast<frmIrreg&>(editor).MSFlexGrid1);
+    Keys("7");
+    services_.messageBox.Answers = {BoxAnswer::No};
+    EXPECT_FALSE(session.MayEnd());
+    EXPECT_EQ(services_.messageBox.Boxes.back().Text, "Discard the changed points?");
+    services_.messageBox.Answers = {BoxAnswer::Yes, BoxAnswer::No};
+    EXPECT_TRUE(session.MayEnd());
+    EXPECT_EQ(services_.messageBox.Boxes.back().Text, "Save changes to Untitled?");
+    services_.messageBox.Boxes.clear();
+    EndSession();
+    EXPECT_TRUE(services_.messageBox.Boxes.empty());
+  });
   EXPECT_NE(BytesOf(settings), "");
   recovery.reset();
   EXPECT_EQ(KeptName(), "0") << "given up";
