@@ -29,7 +29,8 @@ std::string RangeText(const Range& range) {
   return text;
 }
 
-std::string MustBeNumber(const std::string& name, std::string_view text) {
+std::string WhyNoNumber(const std::string& name, std::string_view text) {
+  if (IsTooLarge(text)) return name + " is too large a number";
   const std::string must = name + " must be a number";
   return text.empty() ? must
                       : must + "; the decimal sign here is '" + CurrentNumberLocale().DecimalSign + "'";

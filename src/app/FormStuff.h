@@ -23,8 +23,10 @@ bool Within(double x, const Range& range);
 /// " greater than 0 and less than 1": what a number of this range must be, with a blank in front.
 std::string RangeText(const Range& range);
 
-/// "Depth must be a number; the decimal sign here is ','", for a text that is none.
-std::string MustBeNumber(const std::string& name, std::string_view text);
+inline constexpr const char* TooLongForBox = "The text on the clipboard is too long for a box";
+
+/// "Depth must be a number; the decimal sign here is ','", for a text that is none or too large for one.
+std::string WhyNoNumber(const std::string& name, std::string_view text);
 
 /// True when the text is a number within the bounds. With `showMessage` a "Warning" box says what the number
 /// must be; an empty text fails without it.

@@ -97,6 +97,13 @@ ScannedNumber Scan(std::string_view text, const NumberLocale& locale) {
   return number;
 }
 
+// The number that the whole text is, blanks around it aside.
+ScannedNumber ScanWhole(std::string_view text, const NumberLocale& locale) {
+  text = WithoutLeadingBlanks(text);
+  ScannedNumber number = Scan(text, locale);
+  return WithoutLeadingBlanks(text.substr(number.end)).empty() ? number : ScannedNumber{};
+}
+
 // from_chars reports "out of range" for both ends. The power of ten of the first digit that counts tells
 // them apart; an exponent that no integer holds decides alone.
 bool TooLarge(std::string_view spelling) {
@@ -165,10 +172,12 @@ std::optional<double> NumericValue(std::string_view text) {
 }
 
 std::optional<double> NumericValue(std::string_view text, const NumberLocale& locale) {
-  text = WithoutLeadingBlanks(text);
-  const ScannedNumber number = Scan(text, locale);
-  if (!WithoutLeadingBlanks(text.substr(number.end)).empty()) return std::nullopt;
-  return Value(number);
+  return Value(ScanWhole(text, locale));
+}
+
+bool IsTooLarge(std::string_view text) {
+  const ScannedNumber number = ScanWhole(text, Locale());
+  return !number.spelling.empty() && !Value(number);
 }
 
 bool IsNumeric(std::string_view text) {

@@ -31,6 +31,9 @@ bool IsNumeric(std::string_view text);
 std::optional<double> NumericValue(std::string_view text);
 std::optional<double> NumericValue(std::string_view text, const NumberLocale& locale);
 
+// True when the whole text is one number but for its value, which no double holds.
+bool IsTooLarge(std::string_view text);
+
 // The value of the longest leading part of the text that is a number; 0 where there is none or where the
 // value is too large for a double.
 double LeadingNumber(std::string_view text);

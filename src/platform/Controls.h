@@ -123,7 +123,7 @@ class TextBox : public FocusControl {
   std::function<void()> TooLong;
   static constexpr int LongestText = 100'000;  ///< characters
 
-  /// What was typed before cannot be undone any more: it belongs to another problem.
+  /// What was typed before cannot be undone any more.
   void ForgetEdits() {
     if (ForgetEditsView) ForgetEditsView();
   }

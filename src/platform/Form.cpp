@@ -22,6 +22,12 @@ void Form::Unload() {
   if (UnloadView) UnloadView();
 }
 
+void Form::ForgetEdits() const {
+  for (Control* const control : controls_) {
+    if (auto* const box = dynamic_cast<TextBox*>(control)) box->ForgetEdits();
+  }
+}
+
 void Form::MoveFocus(FocusControl& next) {
   if (active_ == &next) return;
   FocusControl* const left = active_;

@@ -36,6 +36,8 @@ class Form {
   FocusControl* ActiveControl() const { return active_; }
   /// Leaves the active control (Validate, LostFocus) and enters `next` (GotFocus).
   void MoveFocus(FocusControl& next);
+  /// What was typed into its boxes cannot be undone any more: it belongs to another problem.
+  void ForgetEdits() const;
 
  protected:
   virtual void Form_Load() {}

@@ -38,7 +38,9 @@ RangeSettings::RangeSettings(std::string name) : Form(std::move(name)) {
   Label2.Caption = "Last";
   cmdOK.Caption = "OK";
   cmdCancel.Caption = "Cancel";
-  cbxVary.Click = [this] { cbxVary_Click(); };
+  cbxVary.Click = [this] { ProposeRange(); };
+  RefuseLongTexts(tbMin);
+  RefuseLongTexts(tbMax);
   tbMin.Change = tbMax.Change = [this] { EnableOK(); };
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { cmdCancel_Click(); };
@@ -60,6 +62,11 @@ void RangeSettings::Form_Load() {
   EnableOK();
 }
 
+void RangeSettings::ProposeRange() {
+  cbxVary_Click();
+  ForgetEdits();
+}
+
 void RangeSettings::cbxVary_Click() {
   const Field& input = *inputs_[static_cast<std::size_t>(cbxVary.ListIndex)];
   RatingRange.VaryCode = input.PageQuantity;
@@ -78,14 +85,18 @@ bool RangeSettings::Mark(TextBox& box, const std::string& offence) {
   return offence.empty();
 }
 
+void RangeSettings::RefuseLongTexts(TextBox& box) {
+  box.TooLong = [&box] { box.ToolTip = FormStuff::TooLongForBox; };
+}
+
 std::string RangeSettings::LastOffence() const {
-  if (!IsNumber(tbMax)) return FormStuff::MustBeNumber("Last", tbMax.Text.Get());
+  if (!IsNumber(tbMax)) return FormStuff::WhyNoNumber("Last", tbMax.Text.Get());
   const bool greater = !IsNumber(tbMin) || LeadingNumber(tbMax.Text.Get()) > LeadingNumber(tbMin.Text.Get());
   return greater ? "" : "Last must be greater than first";
 }
 
 void RangeSettings::EnableOK() {
-  const bool first = Mark(tbMin, IsNumber(tbMin) ? "" : FormStuff::MustBeNumber("First", tbMin.Text.Get()));
+  const bool first = Mark(tbMin, IsNumber(tbMin) ? "" : FormStuff::WhyNoNumber("First", tbMin.Text.Get()));
   const bool last = Mark(tbMax, LastOffence());
   const bool step = MarkStep();
   cmdOK.Enabled = first && last && step;

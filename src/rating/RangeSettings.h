@@ -38,6 +38,9 @@ class RangeSettings : public Form {
   /// Puts the offence on the box, as its tool tip and tint; true when it is empty.
   static bool Mark(TextBox& box, const std::string& offence);
 
+  /// Tells a paste that is too long in the same place.
+  static void RefuseLongTexts(TextBox& box);
+
   /// The number in a box in feet and seconds.
   static double Internal(const TextBox& box);
   /// A value of the varied input as the boxes show it, from feet and seconds.
@@ -46,6 +49,8 @@ class RangeSettings : public Form {
   static bool HasFixedDecimals();
 
  private:
+  /// The range of another input: no undo brings back what was typed for the one before.
+  void ProposeRange();
   std::string LastOffence() const;
 
   std::vector<const Field*> inputs_;  // each line of cbxVary

@@ -22,6 +22,7 @@ frmTableSettings::frmTableSettings() : RangeSettings("frmTableSettings") {
   Caption = "Rating Table Settings";
   Label3.Caption = "Step";
   Label4.Caption = "Vary";
+  RefuseLongTexts(tbIncrement);
   tbIncrement.Change = [this] { EnableOK(); };
 }
 
@@ -41,7 +42,7 @@ bool frmTableSettings::MarkStep() {
 }
 
 std::string frmTableSettings::StepOffence() const {
-  if (!IsNumeric(tbIncrement.Text.Get())) return FormStuff::MustBeNumber("Step", tbIncrement.Text.Get());
+  if (!IsNumeric(tbIncrement.Text.Get())) return FormStuff::WhyNoNumber("Step", tbIncrement.Text.Get());
   const double step = NumberIn(tbIncrement);
   if (step <= 0) return "Step must be greater than 0";
   // Also when the range is too wide for a number of steps.

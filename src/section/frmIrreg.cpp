@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "app/Declarations.h"
+#include "app/FormStuff.h"
 #include "app/Units.h"
 #include "engine/ChannelState.h"
 #include "engine/NumberText.h"
@@ -107,6 +109,7 @@ frmIrreg::frmIrreg() : Form("frmIrreg") {
   MSFlexGrid1.KeyPress = [this](char character) { MSFlexGrid1_KeyPress(character); };
   MSFlexGrid1.KeyDown = [this](int keyCode, Keys::Modifier with) { MSFlexGrid1_KeyDown(keyCode, with); };
   tbSel.KeyDown = [this](int keyCode, Keys::Modifier with) { return tbSel_KeyDown(keyCode, with); };
+  tbSel.TooLong = [] { Warn(FormStuff::TooLongForBox + std::string(".")); };
   tbSel.Validate = [this] { tbSel_Validate(); };
   tbSel.LostFocus = [this] { tbSel_LostFocus(); };
   cmdCopy.Click = [this] { cmdCopy_Click(); };
@@ -302,6 +305,7 @@ void frmIrreg::Recorded(Edit edit) {
     }
   }
   if (change.empty()) return;
+  Declarations::Done.clear();
   ShowOffence();
   done_.push_back(std::move(change));
   undone_.clear();
@@ -316,6 +320,7 @@ void frmIrreg::Travel(std::vector<GridChange>& from, std::vector<GridChange>& to
   from.pop_back();
   for (const CellChange& each : to.back()) MSFlexGrid1.SetText(each.Row, each.Column, each.*text);
   MSFlexGrid1.SelectCell(to.back().front().Row, to.back().front().Column);
+  Declarations::Done.clear();
   ShowOffence();
   EnableTravel();
   LoadChart();

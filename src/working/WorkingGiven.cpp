@@ -72,7 +72,7 @@ WorkingWriter::WorkingWriter(const frmMain& main)
 
 WorkingLines WorkingWriter::Write() {
   Given();
-  if (main_.CurrentProgress() != frmMain::Progress::Solved) {
+  if (main_.CurrentProgress.Get() != frmMain::Progress::Solved) {
     Heading("Results");
     Say(main_.WhyNone() + ".");
     return std::move(lines_);

@@ -44,7 +44,7 @@ std::string OffenceOfSection() {
 std::string OffenceOf(const Field& field, const std::string& typed) {
   if (field.IsResult() || !CurrentChannelType().Has(field)) return "";
   const auto number = NumericValue(typed);
-  if (!typed.empty() && !number) return FormStuff::MustBeNumber(field.Caption.Current(), typed);
+  if (!typed.empty() && !number) return FormStuff::WhyNoNumber(field.Caption.Current(), typed);
   if (field.IsElevation()) return field.SurveyedOffence(typed);
   const bool within = number && FormStuff::Within(*number, field.Bounds);
   return within ? "" : field.Caption.Current() + (" must be" + FormStuff::RangeText(field.Bounds));

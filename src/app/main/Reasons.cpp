@@ -129,7 +129,15 @@ struct PointRow {
   const char* Rule;
 };
 
+template <std::size_t Column>
+bool IsBeyondNumbers(const Point& point, const Point*) {
+  return IsTooLarge(point[Column].Text());
+}
+
 constexpr PointRow PointRules[] = {
+    {IsBeyondNumbers<1>, "Station is too large a number"},
+    {IsBeyondNumbers<2>, "Elevation is too large a number"},
+    {IsBeyondNumbers<3>, "Manning's n is too large a number"},
     {[](const Point& point, const Point*) { return !point[1].IsNumeric(); }, "Station must be a number"},
     {[](const Point& point, const Point* before) {
        return before != nullptr && !(point[1].Number() > (*before)[1].Number());

@@ -84,8 +84,7 @@ void frmMain::JoinInputs() {
   };
   for (Control* const control : Controls()) {
     auto* const box = dynamic_cast<TextBox*>(control);
-    if (box != nullptr)
-      box->TooLong = [this] { TellFailure("The text on the clipboard is too long for a box"); };
+    if (box != nullptr) box->TooLong = [this] { TellFailure(FormStuff::TooLongForBox); };
   }
 }
 

@@ -58,7 +58,7 @@ class frmMain : public Form {
   /// How far the problem in the boxes has come: an input is still empty, or cannot be used, or all results
   /// are there.
   enum class Progress { Missing, Wrong, Solved };
-  Progress CurrentProgress() const;
+  Property<Progress> CurrentProgress;
   /// Why there is no result; empty when there is one.
   const std::string& WhyNone() const { return status_.Told(StatusLine::NoResult); }
   /// What was found beside the results, and what there is to say of it; nothing without results.
@@ -67,6 +67,8 @@ class frmMain : public Form {
 
   /// What went wrong with a file, why there is no result, what was written, what was solved.
   Label lblStatus{this, "lblStatus"};
+  /// True while it begins with what went wrong.
+  bool TellsFailure() const { return !status_.Told(StatusLine::FileError).empty(); }
   /// The notes that the verdict only counts; opens the working at them.
   Button cmdNotes{this, "cmdNotes"};
 
@@ -218,8 +220,6 @@ class frmMain : public Form {
   /// Moves the keyboard from a control that is gone, or a box that has become a result, to the next input
   /// that can be typed in; from nowhere to the first.
   void FocusInput(const FocusControl* from);
-  /// Another problem is in the boxes: what was typed for the one before can no longer be undone.
-  void ForgetEdits();
   /// Before the mode changes: the text of the input is kept, and that of the result, the next input, comes
   /// back if it was typed and nothing has changed since.
   void TurnIntoResult(const TextBox& input, TextBox& result);
@@ -236,6 +236,7 @@ class frmMain : public Form {
   /// Says in a box that something failed, and in the status line with which file and why.
   void FileFailed(const char* text, const std::string& what, const std::exception& failure);
 
+  Progress FindProgress() const;
   /// Marks the boxes that cannot be used and returns the reason of the first; empty when all can.
   std::string MarkOffences();
   /// What is wrong with an input; empty when nothing is or nobody asks for it.

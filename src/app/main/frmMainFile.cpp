@@ -181,6 +181,7 @@ void frmMain::ShowProject() {
   CheckInputs();
   FormatInputs();
   ForgetEdits();
+  if (const FocusControl* const from = ActiveControl()) FocusInput(from);
   Declarations::DataChanged = false;  // tidied texts are no edit
 }
 

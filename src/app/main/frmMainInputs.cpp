@@ -46,12 +46,6 @@ void frmMain::FocusInput(const FocusControl* from) {
   if (next != fields.end()) MoveFocus(this->*next->Box);
 }
 
-void frmMain::ForgetEdits() {
-  for (Control* const control : Controls()) {
-    if (auto* const box = dynamic_cast<TextBox*>(control)) box->ForgetEdits();
-  }
-}
-
 void frmMain::WriteHiddenZeros() {
   const Loading loading(loading_);
   for (const Field& field : Fields()) {

@@ -36,6 +36,7 @@ void frmMain::CheckInputs() {
   } else {
     ClearResults();
   }
+  CurrentProgress = FindProgress();
   ExplainResults(whyNone);
   found_ = solved_ ? Examine(ChannelState) : Findings{};
   notes_ = NotesOn(found_, NoteSpelling());
@@ -118,7 +119,7 @@ std::string frmMain::NoteOn(const Field& result) {
          UnitLabel(ChannelState.UnitsEorM, result.PageQuantity);
 }
 
-frmMain::Progress frmMain::CurrentProgress() const {
+frmMain::Progress frmMain::FindProgress() const {
   if (solved_) return Progress::Solved;
   bool missing = false;
   bool wrong = false;

@@ -103,7 +103,11 @@ void frmMain::mnuSolveWorking_Click() {
   windows_.OpenWorking();
 }
 void frmMain::cmdIrreg_Click() {
+  const PointTable before = ChannelState.IrregPoints;
   windows_.OpenIrreg();
+  if (before == ChannelState.IrregPoints) return;
+  status_.Edited();
+  ShowStatus();
 }
 void frmMain::cmdMannParams_Click() {
   windows_.OpenMannParam();

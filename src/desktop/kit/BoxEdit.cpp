@@ -71,6 +71,7 @@ BoxEdit::BoxEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
   box.ForgetEditsView = [guarded = QPointer<BoxEdit>(this)] {
     if (guarded) guarded->ForgetEdits();
   };
+  ForgetEdits();  // the text that it opens with is none
   connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { box_.Text = FromQt(text); });
   connect(this, &QLineEdit::selectionChanged, this, [this] { TellSelection(); });
   connect(this, &QLineEdit::cursorPositionChanged, this, [this] { TellSelection(); });

@@ -52,9 +52,11 @@ struct Sign {
 constexpr Sign Solved{"solved", "Solved", Appearance::Good};
 constexpr Sign Missing{"missing", "To be filled in", Appearance::Neutral};
 constexpr Sign Wrong{"wrong", "Cannot be used", Appearance::Bad};
+constexpr Sign Failed{"wrong", "Failed", Appearance::Bad};
 
 const Sign& StatusOf(const frmMain& form) {
-  const frmMain::Progress progress = form.CurrentProgress();
+  if (form.TellsFailure()) return Failed;
+  const frmMain::Progress progress = form.CurrentProgress;
   if (progress == frmMain::Progress::Solved) return Solved;
   return progress == frmMain::Progress::Missing ? Missing : Wrong;
 }
@@ -192,11 +194,14 @@ QWidget* MainView::StatusLine() {
   notes->setAccessibleName(tr("Notes"));
   notes->setToolTip(tr("Open the working at the notes (F8)"));
   layout->addWidget(notes);
-  Bind::Follow(form_.lblStatus.Caption, sign, [this, sign, em] {
+  const auto show = [this, sign, em] {
     const Sign& status = StatusOf(form_);
     sign->setPixmap(LineIcon(status.Icon, status.Colour(palette())).pixmap(em * 5 / 4));
     sign->setAccessibleName(QLatin1String(status.Words));
-  });
+  };
+  // The same reason is told of a box that is empty and of one that holds a wrong number.
+  Bind::Follow(form_.CurrentProgress, sign, show);
+  Bind::Follow(form_.lblStatus.Caption, sign, show);
   return line;
 }
 

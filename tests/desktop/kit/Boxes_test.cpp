@@ -1,6 +1,7 @@
 // Text boxes: editing stays what a person knows, and colours tell inputs, answers and what cannot be used.
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 
@@ -11,7 +12,13 @@
 
 namespace {
 
-using Boxes = Desk;
+class Boxes : public Desk {
+ protected:
+  /// What the sign in the status line says to a screen reader.
+  std::string Sign() const {
+    return FromQt(hands_.Of<QWidget>(main_.lblStatus).parentWidget()->findChild<QLabel*>()->accessibleName());
+  }
+};
 
 TEST_F(Boxes, LeavingABoxTidiesItsNumber) {
   hands_.Focus(main_.tbSlope);
@@ -131,6 +138,10 @@ TEST_F(Boxes, ASwitchLeavesTheKeyboardWhereItCanType) {
     EXPECT_EQ(Focused(), each.Then) << each.Switch.Caption.Get();
     EXPECT_EQ(main_.ActiveControl()->Name(), each.Then);
   }
+  ProjectFile::Project project = main_.CurrentProject();
+  project.SolveForFlow = false;
+  main_.RecoverProject(project, "");
+  EXPECT_EQ(Focused(), "tbSlope") << "the depth is an answer now";
 }
 
 TEST_F(Boxes, ADoubleClickSelectsTheWholeNumber) {
@@ -207,12 +218,26 @@ TEST_F(Boxes, AHugePasteIsTakenWholeOrRefused) {
     EXPECT_EQ(main_.tbFlow.Text.Get(), "400");
     EXPECT_EQ(main_.lblStatus.Caption.Get(),
               "The text on the clipboard is too long for a box. Depth solved: subcritical");
+    EXPECT_EQ(Sign(), "Failed");
   }
   paste(TextBox::LongestText);
   EXPECT_EQ(main_.tbFlow.Text.Get().size(), 100'000U);
   EXPECT_EQ(main_.tbDepth.Text.Get(), "");
   Press("Ctrl+Z");
   EXPECT_EQ(main_.tbDepth.Text.Get(), "3.361");
+}
+
+TEST_F(Boxes, TheSignFollowsTheProblemThoughTheReasonStays) {
+  hands_.Focus(main_.tbFlow);
+  for (const auto& [key, sign] :
+       {std::pair("0", "Cannot be used"), {"Del", "To be filled in"}, {"0", "Cannot be used"}}) {
+    Press(key);
+    EXPECT_EQ(Sign(), sign);
+    EXPECT_EQ(main_.lblStatus.Caption.Get(), "Flow must be greater than 0");
+    main_.tbFlow.SelectAll();
+  }
+  EnterTrapezoid();
+  EXPECT_EQ(Sign(), "Solved");
 }
 
 TEST_F(Boxes, ColoursTellInputsResultsAndOffencesAndFollowThePalette) {

@@ -118,6 +118,10 @@ TEST_F(Rating, WhatCannotBeUsedIsToldAndEnterDoesNotTakeIt) {
   RatingRange.RatingCancelled = false;
   InModal(main_.mnuSolveTable, [this](Form& settings) {
     auto& form = dynamic_cast<frmTableSettings&>(settings);
+    const auto canUndo = [&] {
+      return Edit(form.tbMin).isUndoAvailable() || Edit(form.tbIncrement).isUndoAvailable();
+    };
+    EXPECT_FALSE(canUndo());
     hands_.Focus(form.tbIncrement);
     hands_.Type(form.tbIncrement, "0.0001");
     const QString reason = QStringLiteral("Step must be greater: the range has more than 10000 steps");
@@ -128,6 +132,9 @@ TEST_F(Rating, WhatCannotBeUsedIsToldAndEnterDoesNotTakeIt) {
     EXPECT_TRUE(form.IsLoaded());
     hands_.Type(form.tbIncrement, "50");
     EXPECT_EQ(Edit(form.tbIncrement).accessibleDescription(), QStringLiteral("cfs"));
+    EXPECT_TRUE(canUndo());
+    hands_.Pick(form.cbxVary, 1);
+    EXPECT_FALSE(canUndo()) << "to the numbers of another input";
     Press("Esc");
     EXPECT_FALSE(form.IsLoaded());
   });
