@@ -78,12 +78,9 @@ void SetApart(std::vector<Point>& points, std::size_t from, std::size_t to, doub
   double room = 0;  // 0: no neighbour on that side
   if (falls && from > 0) room = station - points[from - 1].X.Value;
   if (!falls && to + 1 < points.size()) room = points[to + 1].X.Value - station;
-  int decimals = 9;
-  for (double finer = 1; finer <= 1e6; finer *= 10) {
-    if (room > 0 && step / finer * count >= room) continue;
-    step /= finer;
-    break;
-  }
+  constexpr int finest = 6;  // times a tenth of the step
+  for (int finer = 0; finer < finest && room > 0 && step * count >= room; ++finer) step /= 10;
+  constexpr int decimals = 9;
   for (std::size_t i = from; i <= to; ++i) {
     const double away = falls ? -static_cast<double>(to - i) : static_cast<double>(i - from);
     if (away != 0) points[i].X = {RoundedTo(station + away * step, decimals), {}};
