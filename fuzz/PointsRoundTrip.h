@@ -48,9 +48,27 @@ inline bool ComesBack(Table table) {
     table[static_cast<std::size_t>(row)] = {};
   const std::string exported = PointsCsv::Format(table, "ft", "points");
   Survey::Import again(exported, 0, [](double) {});
-  for (const Survey::Kind kind : {Survey::Kind::RepeatedN, Survey::Kind::StrangeN}) again.Switch(kind, false);
+  for (const Survey::Kind kind : {Survey::Kind::StrangeN, Survey::Kind::RepeatedN}) {
+    if (std::ranges::count(again.Result().Changes, kind, &Survey::Change::What) > 0)
+      again.Switch(kind, false);
+  }
   return SameNumbers(table, again.Result().Table) &&
          PointsCsv::Format(again.Result().Table, "ft", "points") == exported;
+}
+
+/// One choice that the person can make, by its number.
+inline void Choose(Survey::Import& import, unsigned char choice) {
+  const std::size_t sections = import.Sections().size();
+  if (choice < 2 * Survey::KindCount)
+    return import.Switch(static_cast<Survey::Kind>(choice / 2), choice % 2 == 0);
+  if (choice % 2 == 0) return import.ChooseFrontN(Survey::Number{0.03, {}});
+  if (choice % 3 == 0) return import.ChooseUnit(choice < 128 ? Survey::Feet() : Survey::Metres());
+  if (sections > 0) return import.ChooseSection(choice % sections);
+  if (choice % 5 == 0) return import.ChooseSeparator(";,\t "[choice % 4]);
+  if (choice % 7 == 0) return import.ChooseSign(Survey::DecimalComma);
+  Survey::Columns columns = import.TheColumns();
+  std::rotate(columns.Roles.begin(), columns.Roles.begin() + choice % 2, columns.Roles.end());
+  import.ChooseColumns(columns);
 }
 
 /// A table without a reason against it is accepted, and any other has one, whatever the person chooses: the
@@ -58,23 +76,12 @@ inline bool ComesBack(Table table) {
 inline bool ImportHolds(const std::string& bytes) {
   auto import = ImportedOrNothing(bytes);
   if (!import) return true;
-  bool holds = true;
-  const auto look = [&] {
-    const Survey::Mended& result = import->Result();
-    holds = holds && (!result.Reason.empty() || !IrregTable::CheckTable(result.Table));
-    if (result.Reason.empty()) holds = holds && ComesBack(result.Table);
-  };
-  look();
-  if (!import->Sections().empty()) import->ChooseSection(bytes.size() % import->Sections().size());
-  import->ChooseUnit(bytes.size() % 3 == 0 ? Survey::Feet() : Survey::Metres());
-  import->ChooseFrontN(Survey::Number{0.03, {}});
-  look();
-  for (std::size_t i = 0; i < std::min<std::size_t>(bytes.size(), 6); ++i) {
-    const auto choice = static_cast<unsigned char>(bytes[bytes.size() - 1 - i]);
-    import->Switch(static_cast<Survey::Kind>(choice % 12), choice % 5 == 0);
-    look();
-  }
-  return holds;
+  const std::size_t choices = std::min<std::size_t>(bytes.size(), bytes.size() % 4);
+  for (std::size_t i = 0; i < choices; ++i)
+    Choose(*import, static_cast<unsigned char>(bytes[bytes.size() - 1 - i]));
+  const Survey::Mended& result = import->Result();
+  if (!result.Reason.empty()) return true;
+  return !IrregTable::CheckTable(result.Table) && ComesBack(result.Table);
 }
 
 /// Pastes the text into a grid of dots, from its second row on; only the block may change, and what is copied
@@ -100,11 +107,15 @@ inline bool PasteHolds(const std::string& text, Table& pasted) {
   return holds;
 }
 
-/// Whatever the text, as a file and as a clipboard.
-inline bool Holds(const std::string& bytes, const NumberLocale& locale) {
-  SetNumberLocale(locale);
+inline bool PasteComesBack(const std::string& text) {
   Table pasted;
-  const bool holds = ImportHolds(bytes) && PasteHolds(bytes, pasted) && ComesBack(pasted);
+  return PasteHolds(text, pasted) && ComesBack(pasted);
+}
+
+/// Whatever the text, as a file or as a clipboard: ImportHolds or PasteComesBack.
+inline bool Holds(bool (*as)(const std::string&), const std::string& bytes, const NumberLocale& locale) {
+  SetNumberLocale(locale);
+  const bool holds = as(bytes);
   SetNumberLocale({});
   return holds;
 }

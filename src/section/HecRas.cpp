@@ -88,9 +88,10 @@ void ReadPoints(Lines& lines, std::size_t count, Section& section) {
 }
 
 void ReadBreaks(Lines& lines, std::size_t count, Section& section) {
+  const std::size_t head = lines.Number();
   const std::vector<Number> numbers = ReadFields(lines, 3 * count, 9);
   for (std::size_t i = 0; i < count; ++i)
-    section.Breaks.push_back({numbers[3 * i].Value, numbers[3 * i + 1]});
+    section.Breaks.push_back({numbers[3 * i].Value, numbers[3 * i + 1], head + 1 + i / 3});
 }
 
 }  // namespace

@@ -17,18 +17,19 @@ Import::Import(std::string_view bytes, int unitSystem, const Watch& watch)
 }
 
 std::vector<std::string> Import::Notes() const {
-  if (!sections_.empty()) return sections_[chosen_].Notes;
   std::vector<std::string> notes = sheet_.Notes;
+  notes.insert(notes.end(), notes_.begin(), notes_.end());
   for (std::size_t i = 0; i < columns_.Roles.size(); ++i) {
     if (columns_.Roles[i] != Role::Ignored) continue;
-    const std::string name = i < sheet_.Head.size() ? " " + InQuotes(sheet_.Head[i]) : "";
+    const bool named = i < sheet_.Head.size() && !sheet_.Head[i].empty();
+    const std::string name = named ? " " + InQuotes(sheet_.Head[i]) : "";
     notes.push_back("Column " + std::to_string(i + 1) + name + " left out.");
   }
   return notes;
 }
 
 void Import::ReadColumns(std::optional<char> separator) {
-  sheet_ = ReadSheet(text_, separator, watch_);
+  sheet_ = ReadSheet(text_, separator, PartOf(watch_, 0, 0.5));
   byPlace_ = ColumnsByPlace(sheet_);
   columns_ = byHead_ = ColumnsByHead(sheet_);
   sign_ = SignOf(sheet_, columns_);
@@ -82,17 +83,18 @@ void Import::Switch(Kind kind, bool on) {
   }
 }
 
-Section Import::Chosen() const {
-  return sections_.empty() ? SectionOf(sheet_, columns_, sign_.Spelling, watch_) : sections_[chosen_];
+Section Import::Chosen(const Watch& watch) const {
+  return sections_.empty() ? SectionOf(sheet_, columns_, sign_.Spelling, watch) : sections_[chosen_];
 }
 
-std::optional<Change> Import::ColumnsChange(const Curve& after) {
+std::optional<Change> Import::ColumnsChange() {
   const bool twoOrders = byPlace_.Find(Role::Elevation) && byHead_.Find(Role::Station) &&
                          byHead_.Find(Role::Elevation) && byHead_ != byPlace_;
   if (!sections_.empty() || !twoOrders) return std::nullopt;
+  const Curve after = CurveOf(before_);
   Curve byPlace;
   try {
-    before_ = SectionOf(sheet_, byPlace_, sign_.Spelling, watch_).Points;
+    before_ = SectionOf(sheet_, byPlace_, sign_.Spelling, PartOf(watch_, 0.7, 0.8)).Points;
     byPlace = CurveOf(before_);
   } catch (const std::runtime_error&) {
     before_.clear();  // by place there is no section to be drawn
@@ -109,11 +111,12 @@ std::optional<Change> Import::ColumnsChange(const Curve& after) {
 
 void Import::Update() {
   try {
-    Section section = Chosen();
+    Section section = Chosen(PartOf(watch_, 0.5, 0.7));
     before_ = section.Points;
+    notes_ = section.Notes;
     unit_ = {section.XUnit, section.ZUnit, terms_.Unit, section.AsksUnit};
-    const auto columns = ColumnsChange(CurveOf(section.Points));
-    result_ = Mend(std::move(section), terms_);
+    const auto columns = ColumnsChange();
+    result_ = Mend(std::move(section), terms_, PartOf(watch_, 0.8, 1));
     if (columns) result_.Changes.insert(result_.Changes.begin(), *columns);
   } catch (const std::runtime_error& refusal) {
     Give(refusal.what());
@@ -122,6 +125,7 @@ void Import::Update() {
 
 void Import::Give(const std::string& reason) {
   before_.clear();
+  notes_.clear();
   result_ = {};
   result_.Reason = reason;
 }

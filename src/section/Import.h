@@ -51,9 +51,9 @@ class Import {
   void Update();
   /// No section, for this reason.
   void Give(const std::string& reason);
-  Section Chosen() const;
+  Section Chosen(const Watch& watch) const;
   /// The columns in another order than by place, as a change that can be left out.
-  std::optional<Change> ColumnsChange(const Curve& after);
+  std::optional<Change> ColumnsChange();
 
   Watch watch_;
   std::shared_ptr<const std::string> text_;
@@ -65,6 +65,7 @@ class Import {
   FileUnit unit_;
   Terms terms_;
   std::vector<Point> before_;
+  std::vector<std::string> notes_;  // of the section chosen
   Mended result_;
 };
 

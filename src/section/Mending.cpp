@@ -35,20 +35,23 @@ constexpr Step Steps[] = {
     {Kind::Thinning, FindThinning},
 };
 
-void RunSteps(Section& section, const Terms& terms, std::vector<Change>& changes) {
-  Curve before = CurveOf(section.Points);
+void RunSteps(Section& section, const Terms& terms, std::vector<Change>& changes, const Watch& watch) {
+  std::optional<Curve> before;  // worked out once it is needed
+  double done = 0;
   for (const Step& step : Steps) {
+    watch(done++ / std::size(Steps));
     std::optional<Found> found = step.Find(section, terms);
     if (!found) continue;
+    if (!before) before = CurveOf(section.Points);
     const bool on = !terms.Off.contains(step.What);
     const Curve after = CurveOf(found->After.Points);
-    changes.push_back({step.What, found->Text, EffectOf(before, after), on});
+    changes.push_back({step.What, found->Text, EffectOf(*before, after), on});
     if (on) {
       section = std::move(found->After);
       before = after;
     } else if (step.Leave != nullptr) {
       step.Leave(section);
-      before = CurveOf(section.Points);
+      before.reset();
     }
   }
 }
@@ -79,10 +82,10 @@ IrregTable::Table TableOf(const Section& section) {
 
 }  // namespace
 
-Mended Mend(Section section, const Terms& terms) {
+Mended Mend(Section section, const Terms& terms, const Watch& watch) {
   Mended mended;
   try {
-    RunSteps(section, terms, mended.Changes);
+    RunSteps(section, terms, mended.Changes, watch);
   } catch (const std::runtime_error& refusal) {
     mended.Reason = refusal.what();
   }

@@ -48,6 +48,7 @@ struct Mended {
   std::string Reason;   ///< why the table cannot be used; empty when it can
 };
 
-Mended Mend(Section section, const Terms& terms);
+/// What `watch` throws passes through.
+Mended Mend(Section section, const Terms& terms, const Watch& watch);
 
 }  // namespace Survey

@@ -16,6 +16,10 @@ LengthUnit UnitOfSystem(int system) {
   return system == Units::Metric ? Metres() : Feet();
 }
 
+double StationOf(const Point& point) {
+  return point.X.Value;
+}
+
 std::string LineOf(const Point& point) {
   return "line " + std::to_string(point.Line);
 }
@@ -47,7 +51,7 @@ void ScaleStations(Section& section, double factor) {
 
 bool StationsFall(const std::vector<Point>& points) {
   return points.size() > 1 && points.front().X.Value > points.back().X.Value &&
-         std::ranges::is_sorted(points, std::greater<>(), [](const Point& point) { return point.X.Value; });
+         std::ranges::is_sorted(points, std::greater<>(), StationOf);
 }
 
 /// The points in reverse. An n holds for the ground behind its point, which now lies before it: so each
@@ -135,30 +139,34 @@ std::optional<Found> FindOrder(const Section& section, const Terms&) {
 
 std::optional<Found> FindDuplicates(const Section& section, const Terms&) {
   const std::vector<Point>& points = section.Points;
+  const auto back = std::ranges::adjacent_find(points, std::greater<>(), StationOf);
+  if (back != points.end()) {
+    Refuse(std::next(back)->Line, section.StationColumn,
+           "Station " + PlainNumberInLocale(std::next(back)->X.Value) + " lies before station " +
+               PlainNumberInLocale(back->X.Value) + ": the section doubles back.");
+  }
+  const auto repeats = [](const Point& a, const Point& b) {
+    return a.X.Value == b.X.Value && a.Z.Value == b.Z.Value;
+  };
+  const auto first = std::ranges::adjacent_find(points, repeats);
+  if (first == points.end()) return std::nullopt;
   Found found{section, ""};
   std::vector<Point>& kept = found.After.Points;
   kept.clear();
-  std::string first;
   for (const Point& point : points) {
-    if (!kept.empty() && point.X.Value < kept.back().X.Value) {
-      Refuse(point.Line, 0,
-             "Station " + PlainNumberInLocale(point.X.Value) + " lies before station " +
-                 PlainNumberInLocale(kept.back().X.Value) + ": the section doubles back.");
-    }
-    if (!kept.empty() && point.X.Value == kept.back().X.Value && point.Z.Value == kept.back().Z.Value) {
-      if (point.N) kept.back().N = point.N;
-      if (first.empty()) first = LineOf(point);
-    } else {
+    if (kept.empty() || !repeats(kept.back(), point)) {
       kept.push_back(point);
+    } else if (point.N) {
+      kept.back().N = point.N;
     }
   }
-  if (first.empty()) return std::nullopt;
-  found.Text = Counted(points.size() - kept.size(), "repeated point") + " left out, the first in " + first +
-               ": the same station and elevation as the point before.";
+  found.Text = Counted(points.size() - kept.size(), "repeated point") + " left out, the first in " +
+               LineOf(*std::next(first)) + ": the same station and elevation as the point before.";
   return found;
 }
 
 std::optional<Found> FindWalls(const Section& section, const Terms& terms) {
+  if (std::ranges::adjacent_find(section.Points, {}, StationOf) == section.Points.end()) return std::nullopt;
   const double step = terms.UnitSystem == Units::Metric ? 0.001 : 0.01;
   Found found{section, ""};
   std::vector<Point>& points = found.After.Points;
@@ -172,7 +180,6 @@ std::optional<Found> FindWalls(const Section& section, const Terms& terms) {
     if (++walls == 1) first = LineOf(points[to]);
     from = to;
   }
-  if (walls == 0) return std::nullopt;
   found.Text = Counted(walls, "vertical wall") + ", the first in " + first + ": the upper points moved by " +
                PlainNumberInLocale(step) + " " + UnitOfSystem(terms.UnitSystem).Name +
                " or less away from the water, because each station must lie behind the one before.";

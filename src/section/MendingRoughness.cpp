@@ -39,14 +39,24 @@ std::size_t PlaceBreaks(Section& section, bool insert) {
 }  // namespace
 
 std::optional<Found> FindStrangeN(const Section& section, const Terms&) {
-  const auto strange = std::ranges::find_if(section.Points, [](const Point& point) {
-    return point.N && !(point.N->Value > 0 && point.N->Value < 1);
-  });
-  if (strange == section.Points.end()) return std::nullopt;
-  Found found{section, "The column of n left out: line " + std::to_string(strange->Line) + " has " +
-                           PlainNumberInLocale(strange->N->Value) +
-                           ", and an n lies between 0 and 1. Most likely it is another column."};
-  for (Point& point : found.After.Points) point.N.reset();
+  const auto isStrange = [](const std::optional<Number>& n) { return n && !(n->Value > 0 && n->Value < 1); };
+  const auto told = [](std::size_t line, const Number& n) {
+    return " left out: line " + std::to_string(line) + " has " + PlainNumberInLocale(n.Value) +
+           ", and an n lies between 0 and 1.";
+  };
+  const auto point = std::ranges::find_if(section.Points, isStrange, &Point::N);
+  const auto each = std::ranges::find_if(section.Breaks, isStrange, &Break::N);
+  Found found;
+  if (point != section.Points.end()) {
+    found.Text = "The column of n" + told(point->Line, *point->N) + " Most likely it is another column.";
+  } else if (each != section.Breaks.end()) {
+    found.Text = "Every n of the section" + told(each->Line, each->N);
+  } else {
+    return std::nullopt;
+  }
+  found.After = section;
+  for (Point& left : found.After.Points) left.N.reset();
+  found.After.Breaks.clear();
   return found;
 }
 
@@ -66,21 +76,20 @@ void BreaksAtPoints(Section& section) {
 }
 
 std::optional<Found> FindRepeatedN(const Section& section, const Terms&) {
-  Found found{section, ""};
-  std::size_t repeated = 0;
-  std::optional<double> n;
-  for (Point& point : found.After.Points) {
-    if (!point.N) continue;
-    if (point.N->Value == n) {
-      point.N.reset();
-      ++repeated;
-    } else {
-      n = point.N->Value;
-    }
-  }
+  const auto repeats = [n = std::optional<double>()](const Point& point) mutable {
+    const bool again = point.N && point.N->Value == n;
+    if (point.N) n = point.N->Value;
+    return again;
+  };
+  const auto repeated = std::count_if(section.Points.begin(), section.Points.end(), repeats);
   if (repeated == 0) return std::nullopt;
+  Found found{section, ""};
+  auto again = repeats;
+  for (Point& point : found.After.Points) {
+    if (again(point)) point.N.reset();
+  }
   found.Text =
-      "n blanked in " + Counted(repeated, "row") +
+      "n blanked in " + Counted(static_cast<std::size_t>(repeated), "row") +
       " where it repeats the one before: each n begins a subsection of its own, and a section cut into many "
       "carries more flow than it does.";
   return found;

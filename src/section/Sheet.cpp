@@ -154,7 +154,8 @@ void CheckWidth(Sheet& sheet) {
       }
     }
   }
-  sheet.Columns = columns;
+  sheet.Head.resize(std::max(columns, sheet.Columns));
+  sheet.Columns = sheet.Head.size();
 }
 
 }  // namespace
@@ -201,7 +202,7 @@ Sheet ReadSheet(std::shared_ptr<const std::string> text, std::optional<char> sep
   std::string_view rest = *sheet.Text;
   for (std::size_t line = 1; !rest.empty(); ++line) {
     const std::string_view each = TakeLine(rest);
-    if (line % WatchEvery == 0)
+    if (line % WatchEvery == 1)
       watch(1 - static_cast<double>(rest.size()) / static_cast<double>(sheet.Text->size()));
     if (IsComment(each)) {
       ++comments;

@@ -25,7 +25,7 @@ struct Sheet {
   };
   std::shared_ptr<const std::string> Text;  ///< that the fields are parts of
   char Separator = ',';
-  std::vector<std::string> Head;  ///< captions of the columns; empty without a head
+  std::vector<std::string> Head;  ///< captions of all columns; empty without a head
   std::vector<Row> Rows;          ///< that hold data, in their order
   std::vector<std::string_view> Fields;
   std::size_t Columns = 0;         ///< of the widest row, or of the head

@@ -146,18 +146,23 @@ Section SectionOf(const Sheet& sheet, const Columns& columns, const NumberLocale
   section.Spelling = spelling;
   section.XUnit = columns.Units[*columns.Find(Role::Station)];
   section.ZUnit = columns.Units[*columns.Find(Role::Elevation)];
+  section.StationColumn = *columns.Find(Role::Station) + 1;
   section.Points.reserve(sheet.Rows.size());
+  std::size_t others = 0;  // rows of other columns alone are no points: remarks, for example
   for (const Sheet::Row& row : sheet.Rows) {
-    if (section.Points.size() % WatchEvery == 0)
-      watch(static_cast<double>(section.Points.size()) / static_cast<double>(sheet.Rows.size()));
-    // A row of other columns alone is no point: a remark below the last one, for example.
-    if (!stations.Has(row) && !elevations.Has(row) && !roughness.Has(row)) continue;
+    const auto done = static_cast<std::size_t>(&row - sheet.Rows.data());
+    if (done % WatchEvery == 0) watch(static_cast<double>(done) / static_cast<double>(sheet.Rows.size()));
+    if (!stations.Has(row) && !elevations.Has(row) && !roughness.Has(row)) {
+      ++others;
+      continue;
+    }
     Point& point = section.Points.emplace_back();
     point.Line = row.Line;
     point.X = stations.Need(row, "The station");
     point.Z = elevations.Need(row, "The elevation");
     if (roughness.Has(row)) point.N = roughness.Read(row);
   }
+  if (others > 0) section.Notes.push_back(Counted(others, "row") + " without a point left out.");
   return section;
 }
 

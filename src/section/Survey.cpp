@@ -13,6 +13,10 @@ LengthUnit Metres() {
   return {"metres", UnitFactor(Units::Metric, Units::Length)};
 }
 
+Watch PartOf(const Watch& watch, double from, double to) {
+  return [watch, from, to](double share) { watch(from + (to - from) * share); };
+}
+
 void Refuse(std::size_t line, std::size_t column, const std::string& why) {
   const std::string place = column == 0 ? "" : ", column " + std::to_string(column);
   throw std::runtime_error("Line " + std::to_string(line) + place + ": " + why);

@@ -32,6 +32,7 @@ struct Point {
 struct Break {
   double Station;
   Number N;
+  std::size_t Line;  ///< of the file
 };
 
 /// A length of one unit in feet, and the name by which a person knows it.
@@ -49,6 +50,7 @@ struct Section {
   std::vector<Break> Breaks;               ///< ascending
   std::vector<double> Banks;               ///< stations of the bank tops that the file names
   std::optional<LengthUnit> XUnit, ZUnit;  ///< as the file names them
+  std::size_t StationColumn = 0;           ///< of the file, from 1; 0 where it has none
   bool AsksUnit = false;                   ///< the format has a unit of its own but does not say which
   double WidthFactor = 1;                  ///< by which the file wants the stations multiplied
   double Offset = 0;                       ///< that the file wants added to the elevations
@@ -60,6 +62,9 @@ struct Cancelled {};
 
 /// Called now and then with the share that is done; throws Cancelled to end the work.
 using Watch = std::function<void(double share)>;
+
+/// For a part of the work, which takes the whole from one share to another.
+Watch PartOf(const Watch& watch, double from, double to);
 
 /// std::runtime_error with the message "Line 3, column 2: why" (without the column where it is 0).
 [[noreturn]] void Refuse(std::size_t line, std::size_t column, const std::string& why);

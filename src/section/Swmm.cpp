@@ -56,7 +56,7 @@ class Transects {
   void Read(const Words& words, std::size_t line) {
     if (SameWord(words[0], "NC")) {
       FinishSection();  // which still has the n in force so far
-      ReadRoughness(Numbers(words, line, 4));
+      ReadRoughness(Numbers(words, line, 4), line);
     } else if (SameWord(words[0], "X1")) {
       Begin(words, line);
     } else if (SameWord(words[0], "GR")) {
@@ -74,10 +74,10 @@ class Transects {
  private:
   enum Part { Left, Right, Channel };
 
-  void ReadRoughness(const Numbers& numbers) {
+  void ReadRoughness(const Numbers& numbers, std::size_t line) {
     for (const Part part : {Left, Right, Channel}) {
       const Number n = numbers[static_cast<std::size_t>(part) + 1];
-      if (n.Value != 0) n_[part] = n;
+      if (n.Value != 0) n_[part] = {0, n, line};
     }
   }
 
@@ -121,7 +121,7 @@ class Transects {
     if (section.Points.empty()) return;
     const std::array starts = {section.Points.front().X.Value, section.Banks[1], section.Banks[0]};
     for (const Part part : {Left, Channel, Right}) {
-      if (n_[part]) section.Breaks.push_back({starts[part], *n_[part]});
+      if (n_[part]) section.Breaks.push_back({starts[part], n_[part]->N, n_[part]->Line});
     }
     // Without banks, or with banks at the ends, the channel takes in the whole section.
     if (section.Banks[0] >= section.Banks[1]) section.Breaks = Whole(section);
@@ -133,12 +133,12 @@ class Transects {
 
   std::vector<Break> Whole(const Section& section) const {
     if (!n_[Channel]) return {};
-    return {{section.Points.front().X.Value, *n_[Channel]}};
+    return {{section.Points.front().X.Value, n_[Channel]->N, n_[Channel]->Line}};
   }
 
   std::vector<Section> sections_;
-  std::optional<Number> n_[3];
-  bool open_ = false;  // the last section may get more points
+  std::optional<Break> n_[3];  // in force; the stations are those of each section
+  bool open_ = false;          // the last section may get more points
   std::size_t head_ = 0;
   double count_ = 0;
 };

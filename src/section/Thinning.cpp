@@ -4,62 +4,94 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <queue>
-#include <tuple>
 
 namespace Survey {
 
 namespace {
 
-double TriangleArea(const Point& a, const Point& b, const Point& c) {
-  return std::abs((b.X.Value - a.X.Value) * (c.Z.Value - a.Z.Value) -
-                  (c.X.Value - a.X.Value) * (b.Z.Value - a.Z.Value)) /
-         2;
+constexpr double Kept = std::numeric_limits<double>::infinity();
+constexpr double Taken = -1;
+
+/// A point that is still there.
+struct Link {
+  double X, Z;
+  double Area;  ///< of the triangle with its neighbours, or one of the above
+  std::size_t Point, Before = 0, After = 0;
+};
+
+double TriangleArea(const Link& a, const Link& b, const Link& c) {
+  return std::abs((b.X - a.X) * (c.Z - a.Z) - (c.X - a.X) * (b.Z - a.Z)) / 2;
 }
 
-/// The points still there as a chain of neighbours, and what each would take with it.
+/// The points still there as a chain of neighbours, thinned in rounds: each takes the points of the least
+/// triangles, those of up to a quarter of the chain, so that only these have to be kept in their order.
 class Chain {
  public:
-  Chain(const std::vector<Point>& points, const std::vector<bool>& keep)
-      : points_(points), keep_(keep), before_(points.size()), after_(points.size()), area_(points.size()) {
-    std::vector<Candidate> candidates;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-      before_[i] = i == 0 ? 0 : i - 1;
-      after_[i] = i + 1;
-    }
-    for (std::size_t i = 0; i < points.size(); ++i) {
-      if (!keep_[i]) candidates.emplace_back(area_[i] = AreaAt(i), i);
-    }
-    queue_ = Queue(std::greater<>(), std::move(candidates));
+  Chain(const std::vector<Point>& points, const std::vector<bool>& keep) {
+    links_.reserve(points.size());
+    for (std::size_t i = 0; i < points.size(); ++i)
+      links_.push_back({points[i].X.Value, points[i].Z.Value, keep[i] ? Kept : 0, i});
+    Join();
+    for (std::size_t i = 0; i < links_.size(); ++i) Measure(i);
   }
 
-  /// Takes out the point of the least triangle. Its neighbours' triangles grow or shrink with it.
-  std::size_t TakeLeast() {
-    while (area_[queue_.top().second] != queue_.top().first) queue_.pop();
-    const std::size_t taken = queue_.top().second;
-    queue_.pop();
-    area_[taken] = -1;
-    after_[before_[taken]] = after_[taken];
-    before_[after_[taken]] = before_[taken];
-    for (const std::size_t neighbour : {before_[taken], after_[taken]}) {
-      if (!keep_[neighbour]) queue_.emplace(area_[neighbour] = AreaAt(neighbour), neighbour);
+  const std::vector<Link>& Links() const { return links_; }
+
+  void ThinBy(std::size_t most) {
+    const double limit = Limit();
+    std::vector<Candidate> least;
+    for (std::size_t i = 0; i < links_.size(); ++i) {
+      if (links_[i].Area <= limit) least.emplace_back(links_[i].Area, i);
     }
-    return taken;
+    Queue queue(std::greater<>(), std::move(least));
+    while (!queue.empty() && most > 0) {
+      const auto [area, i] = queue.top();
+      queue.pop();
+      if (links_[i].Area != area) continue;  // out of date
+      links_[i].Area = Taken;
+      --most;
+      links_[links_[i].Before].After = links_[i].After;
+      links_[links_[i].After].Before = links_[i].Before;
+      for (const std::size_t neighbour : {links_[i].Before, links_[i].After}) {
+        Measure(neighbour);
+        if (links_[neighbour].Area <= limit) queue.emplace(links_[neighbour].Area, neighbour);
+      }
+    }
+    std::erase_if(links_, [](const Link& link) { return link.Area == Taken; });
+    Join();
   }
 
  private:
   using Candidate = std::pair<double, std::size_t>;
   using Queue = std::priority_queue<Candidate, std::vector<Candidate>, std::greater<>>;
 
-  double AreaAt(std::size_t i) const {
-    return TriangleArea(points_[before_[i]], points_[i], points_[after_[i]]);
+  void Join() {
+    for (std::size_t i = 0; i < links_.size(); ++i) {
+      links_[i].Before = i - 1;
+      links_[i].After = i + 1;
+    }
   }
 
-  const std::vector<Point>& points_;
-  const std::vector<bool>& keep_;
-  std::vector<std::size_t> before_, after_;
-  std::vector<double> area_;  // a candidate with another area is out of date
-  Queue queue_;
+  void Measure(std::size_t i) {
+    Link& link = links_[i];
+    if (link.Area == Kept) return;
+    const double area = TriangleArea(links_[link.Before], link, links_[link.After]);
+    link.Area = std::isfinite(area) ? area : std::numeric_limits<double>::max();
+  }
+
+  double Limit() const {
+    std::vector<double> areas;
+    for (const Link& link : links_) {
+      if (link.Area != Kept) areas.push_back(link.Area);
+    }
+    const auto quarter = areas.begin() + static_cast<std::ptrdiff_t>(areas.size() / 4);
+    std::ranges::nth_element(areas, quarter);
+    return *quarter;
+  }
+
+  std::vector<Link> links_;
 };
 
 }  // namespace
@@ -87,12 +119,11 @@ std::vector<bool> PointsToKeep(const Section& section) {
 }
 
 void Thin(std::vector<Point>& points, const std::vector<bool>& keep, std::size_t most) {
-  if (points.size() <= most) return;
-  std::vector<bool> taken(points.size());
   Chain chain(points, keep);
-  for (std::size_t left = points.size(); left > most; --left) taken[chain.TakeLeast()] = true;
-  std::size_t i = 0;
-  std::erase_if(points, [&](const Point&) { return taken[i++]; });
+  while (chain.Links().size() > most) chain.ThinBy(chain.Links().size() - most);
+  std::vector<Point> left;
+  for (const Link& link : chain.Links()) left.push_back(points[link.Point]);
+  points = std::move(left);
 }
 
 }  // namespace Survey

@@ -7,6 +7,7 @@
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
 #include "app/Units.h"
+#include "app/main/frmMannParam.h"
 #include "engine/ChannelState.h"
 #include "engine/NumberText.h"
 #include "platform/Keys.h"
@@ -96,6 +97,7 @@ frmIrreg::frmIrreg() : Form("frmIrreg") {
   cmdPaste.Caption = "Paste";
   cmdIns.Caption = "Insert Row";
   cmdDel.Caption = "Delete Row";
+  cmdMannParams.Caption = "Typical values...";
   cmdOK.Caption = "OK";
   cmdCancel.Caption = "Cancel";
   tbSel.Visible = false;
@@ -116,6 +118,7 @@ frmIrreg::frmIrreg() : Form("frmIrreg") {
   cmdPaste.Click = [this] { cmdPaste_Click(); };
   cmdIns.Click = [this] { cmdIns_Click(); };
   cmdDel.Click = [this] { cmdDel_Click(); };
+  cmdMannParams.Click = [this] { cmdMannParams_Click(); };
   cmdOK.Click = [this] { cmdOK_Click(); };
   cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
@@ -256,6 +259,16 @@ void frmIrreg::cmdDel_Click() {
     IrregTable::DeleteRow(table, MSFlexGrid1.Selection.Get().Row);
     ShowCells(table);
   });
+  MoveFocus(MSFlexGrid1);
+  LoadChart();
+}
+
+void frmIrreg::cmdMannParams_Click() {
+  const int row = MSFlexGrid1.Selection.Get().Row;
+  MSFlexGrid1.SelectCell(row, ManningN);
+  frmMannParam list(MSFlexGrid1.Text(row, ManningN),
+                    [&](const std::string& n) { Recorded([&] { MSFlexGrid1.SetText(row, ManningN, n); }); });
+  TheServices().windows.ShowModal(list);
   MoveFocus(MSFlexGrid1);
   LoadChart();
 }

@@ -28,7 +28,7 @@ class frmIrreg : public Form {
   static constexpr int EditNarrower = 60, EditLower = 30;
   XYChart MSChart1{this, "MSChart1"};
   Button cmdCopy{this, "cmdCopy"}, cmdPaste{this, "cmdPaste"}, cmdIns{this, "cmdIns"}, cmdDel{this, "cmdDel"},
-      cmdOK{this, "cmdOK"}, cmdCancel{this, "cmdCancel"};
+      cmdMannParams{this, "cmdMannParams"}, cmdOK{this, "cmdOK"}, cmdCancel{this, "cmdCancel"};
 
   /// Opens the edit box on the current cell, with the caret behind its text.
   void StartCellEdit();
@@ -44,6 +44,8 @@ class frmIrreg : public Form {
   void cmdPaste_Click();
   void cmdIns_Click();
   void cmdDel_Click();
+  /// Offers typical values for the n of the current row.
+  void cmdMannParams_Click();
   void cmdOK_Click();
   void cmdCancel_Click();
   void mnuFileImport_Click();

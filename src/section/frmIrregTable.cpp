@@ -68,7 +68,10 @@ std::vector<Outline::Subsection> frmIrreg::Subsections() const {
 }
 
 void frmIrreg::ShowOffence() {
-  const auto failure = IrregTable::CheckTable(Cells());
+  IrregTable::Table table = Cells();
+  std::string& firstN = table[1][ManningN];
+  if (firstN.empty()) firstN = "1";  // what is behind it is judged all the same
+  const auto failure = IrregTable::CheckTable(table);
   const bool wrong = failure && !MSFlexGrid1.Text(failure->Row, failure->Column).empty();
   MSFlexGrid1.Offending = wrong ? GridCell{failure->Row, failure->Column} : GridCell{};
   MSFlexGrid1.ToolTip = wrong ? std::string(IrregTable::MessageOf(failure->Code)) : "";

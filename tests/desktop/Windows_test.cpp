@@ -239,7 +239,7 @@ TEST_F(Windows, TabGoesInReadingOrder) {
       {"frmGraph", "MSChart1"},
       {"frmTableSettings", "cbxVary tbMin tbMax tbIncrement cmdOK cmdCancel"},
       {"frmTable", "MSFlexGrid1"},
-      {"frmIrreg", "MSFlexGrid1 cmdCopy cmdPaste cmdIns cmdDel MSChart1 cmdOK cmdCancel"},
+      {"frmIrreg", "MSFlexGrid1 cmdCopy cmdPaste cmdIns cmdDel cmdMannParams MSChart1 cmdOK cmdCancel"},
       {"frmImport",
        "MSFlexGrid1 cbxSeparator cbxSign cbxStation cbxElevation cbxRoughness cbxUnit MSChart1 chkChange_0 "
        "chkChange_3 cmdOK cmdCancel"}};

@@ -15,7 +15,9 @@ TEST(PointsCorpus, NothingCrashesAndAcceptedPointsComeBack) {
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
       const std::string text = WholeFile::Read(entry.path().string());
       for (const NumberLocale& locale : PointsRoundTrip::Locales)
-        EXPECT_TRUE(PointsRoundTrip::Holds(text, locale)) << entry.path();
+        EXPECT_TRUE(PointsRoundTrip::Holds(PointsRoundTrip::ImportHolds, text, locale) &&
+                    PointsRoundTrip::Holds(PointsRoundTrip::PasteComesBack, text, locale))
+            << entry.path();
       ++files;
       if (PointsRoundTrip::ImportedOrNothing(text)) ++imported;
     }

@@ -81,7 +81,7 @@ const Shape Shapes[] = {
     {"repeated-n.csv", "0 10 0.03, 5 4, 15 4 0.05, 20 10", "n", ""},
     {"repeated-points.csv", Channel, "repeats", ""},
     {"doubles-back.csv", "0 10 0.03, 5 4, 4 3, 15 4, 20 10", "",
-     "Line 4: Station 4 lies before station 5: the section doubles back."},
+     "Line 4, column 1: Station 4 lies before station 5: the section doubles back."},
     {"no-n.csv", "0 10, 5 4, 15 4, 20 10", "", "The first points have no n: enter one."},
     {"n-later.csv", "0 10, 5 4 0.03, 15 4, 20 10", "", "The first points have no n: enter one."},
     {"two-stations.csv", "", "", "No column is known as the station: choose it in the lists."},
@@ -151,6 +151,8 @@ TEST_P(SurveyFiles, NothingIsLeftOutWithoutAWord) {
   EXPECT_EQ(notes("point-numbers.csv"), std::vector<std::string>{"Column 1 \"Point\" left out."});
   EXPECT_EQ(notes("sewer.inp"), std::vector<std::string>{"The length factor " + Spelled("1.2") +
                                                          " was left out: one section has no length."});
+  EXPECT_EQ(ReadText("Station,Elevation,n\n0,5,0.03,wet\n10,4\n,,,done\n").Notes(),
+            (std::vector<std::string>{"1 row without a point left out.", "Column 4 left out."}));
 }
 
 TEST_P(SurveyFiles, EachStepCanBeLeftOut) {
@@ -164,9 +166,9 @@ TEST_P(SurveyFiles, EachStepCanBeLeftOut) {
   EXPECT_EQ(without("repeated-n.csv", Kind::RepeatedN), "0 10 0.03, 5 4 0.03, 15 4 0.05, 20 10 0.05|");
   EXPECT_EQ(without("walls.csv", Kind::Walls),
             "0 10 0.03, 0 4, 10 4, 10 10, 20 12|Line 3: Stations need to be in ascending order.");
-  EXPECT_EQ(
-      without("wrong-order.csv", Kind::Columns),
-      "10 0 0.03, 4 5, 4 15, 10 20|Line 3: Station 4 lies before station 10: the section doubles back.");
+  EXPECT_EQ(without("wrong-order.csv", Kind::Columns),
+            "10 0 0.03, 4 5, 4 15, 10 20|Line 3, column 1: Station 4 lies before station 10: the section "
+            "doubles back.");
   Import river = Read("river.g01");
   river.ChooseUnit(Feet());
   river.Switch(Kind::Breaks, false);
@@ -222,6 +224,11 @@ TEST_P(SurveyFiles, ANThatIsNoneIsNamed) {
   EXPECT_TRUE(import.Result().LacksN);
   import.Switch(Kind::StrangeN, false);
   EXPECT_EQ(Points(import.Result()) + import.Result().Reason, "0 10 4.5, 5 4, 10 10");
+  const Import model = ReadText(
+      "Type RM Length L Ch R = 1 ,1 ,,,\n#Sta/Elev= 2 \n       0       5      10       4\n"
+      "#Mann= 1 , 0 , 0\n       0     3.5       0\n");
+  ASSERT_EQ(Listed(model.Result()), "strange");
+  EXPECT_NE(model.Result().Changes[0].Text.find("line 5 has " + Spelled("3.5")), std::string::npos);
 }
 
 TEST_P(SurveyFiles, EverySpellingOfTheSamePointsIsRead) {
@@ -334,6 +341,15 @@ TEST_P(SurveyFiles, WatchingCanEndTheWork) {
   std::string text = "0,1,0.03\n";
   for (int i = 1; i < 40000; ++i) text += std::to_string(i) + ",1,\n";
   EXPECT_THROW(Import(text, 0, [](double) { throw Cancelled(); }), Cancelled);
+  std::vector<double> shares;
+  Import(text, 0, [&](double share) { shares.push_back(share); });
+  EXPECT_TRUE(std::ranges::is_sorted(shares));
+  EXPECT_GT(shares.back(), 0.9) << "thinning is watched, too";
+  EXPECT_THROW(Import(text, 0,
+                      [](double share) {
+                        if (share > 0.9) throw Cancelled();
+                      }),
+               Cancelled);
 }
 
 INSTANTIATE_LOCALES(SurveyFiles);

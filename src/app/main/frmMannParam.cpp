@@ -1,6 +1,8 @@
 // See frmMannParam.h.
 #include "app/main/frmMannParam.h"
 
+#include <utility>
+
 #include "app/NumberDisplay.h"
 #include "engine/NumberText.h"
 
@@ -29,7 +31,11 @@ std::string Spelled(double n) {
 
 }  // namespace
 
-frmMannParam::frmMannParam(frmMain& main) : Form("frmMannParam"), main_(main) {
+frmMannParam::frmMannParam(frmMain& main)
+    : frmMannParam(main.tbMann.Text, [&main](const std::string& n) { main.tbMann.Text = n; }) {}
+
+frmMannParam::frmMannParam(std::string typed, std::function<void(const std::string&)> take)
+    : Form("frmMannParam"), typed_(std::move(typed)), take_(std::move(take)) {
   Caption = "Manning Roughness Values";
   cmdOK.Caption = "OK";
   cmdCancel.Caption = "Cancel";
@@ -41,7 +47,7 @@ frmMannParam::frmMannParam(frmMain& main) : Form("frmMannParam"), main_(main) {
 void frmMannParam::Form_Load() {
   std::vector<std::string> lines;
   int current = 0;
-  const double typed = LeadingNumber(main_.tbMann.Text.Get());
+  const double typed = LeadingNumber(typed_);
   for (const Roughness& each : TypicalValues) {
     if (typed == each.Value) current = static_cast<int>(lines.size());
     lines.push_back(Spelled(each.Value) + "   " + each.Surface);
@@ -52,7 +58,7 @@ void frmMannParam::Form_Load() {
 
 void frmMannParam::cmdOK_Click() {
   const int line = lstMannParam.ListIndex;
-  if (line >= 0) main_.tbMann.Text = Spelled(TypicalValues[line].Value);
+  if (line >= 0) take_(Spelled(TypicalValues[line].Value));
   Unload();
 }
 

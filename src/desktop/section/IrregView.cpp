@@ -32,6 +32,7 @@ QVBoxLayout* TableColumn(PointGrid* grid, frmIrreg& form, QWidget* page) {
   buttons->addWidget(Bind::Push(form.cmdPaste, page, "p"), 0, 1);
   buttons->addWidget(Bind::Push(form.cmdIns, page, "i"), 1, 0);
   buttons->addWidget(Bind::Push(form.cmdDel, page, "d"), 1, 1);
+  buttons->addWidget(Bind::Push(form.cmdMannParams, page, "t"), 2, 0, 1, 2);
   column->addLayout(buttons);
   return column;
 }

@@ -3,6 +3,9 @@
 #include <QScrollBar>
 
 #include "desktop/Desk.h"
+#include "desktop/chart/ChartPlot.h"
+#include "desktop/chart/ChartWidget.h"
+#include "desktop/kit/Appearance.h"
 #include "desktop/section/PointGrid.h"
 #include "section/frmIrreg.h"
 
@@ -61,6 +64,31 @@ TEST_F(PointEditor, F2EditsTypingReplacesAndEscapeDropsTheEditBeforeItClosesTheW
   });
   EXPECT_EQ(ChannelState.IrregPoints[1][1].Text(), "5");
   EXPECT_FALSE(main_.UnsavedProject());
+}
+
+TEST_F(PointEditor, WrongTextsAreTintedAndThePreviewColoursCompletePointsByN) {
+  Edit({{"0", "8", "0.08"}, {"5", "2", "0.03"}, {"9", "8", ""}}, [this] {
+    const auto ground = [this](int row, int col) {
+      return view_->viewport()->grab().toImage().pixelColor(Place(row, col).topLeft() + QPoint(2, 2));
+    };
+    const QColor tint = Appearance::OffendingGround(view_->palette());
+    Select({2, 2, 2, 2});
+    Press("x Return");
+    EXPECT_EQ(ground(2, 2), tint);
+    EXPECT_NE(ground(2, 1), tint);
+    Press("Ctrl+Z Down Home Down");
+    EXPECT_NE(ground(2, 2), tint);
+    Press("1 2 Return");  // a station without an elevation
+    ChartPlot& plot = hands_.Of<ChartWidget>(form_->MSChart1).Plot();
+    EXPECT_EQ(plot.Points(), (QList<QPointF>{{0, 8}, {5, 2}, {9, 8}}));
+    const int above = plot.axisRect()->top() - plot.fontMetrics().height() / 3;
+    const QImage drawn = plot.toPixmap().toImage();
+    const auto colourAt = [&](double x) {
+      return drawn.pixelColor(qRound(plot.xAxis->coordToPixel(x)), above);
+    };
+    EXPECT_NE(colourAt(1), colourAt(8.5));
+    for (const double x : {1.0, 8.5}) EXPECT_NE(colourAt(x), plot.palette().color(QPalette::Base)) << x;
+  });
 }
 
 TEST_F(PointEditor, KeysOfAnOpenCellDoNotReachTheGrid) {
