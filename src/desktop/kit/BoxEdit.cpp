@@ -158,10 +158,7 @@ void BoxEdit::contextMenuEvent(QContextMenuEvent* event) {
     action->disconnect(this);
     connect(action, &QAction::triggered, this, [this] { box_.Paste(Copied(QClipboard::Clipboard)); });
   }
-  if (isReadOnly()) {
-    menu->addSeparator();
-    menu->addActions(actions());
-  }
+  if (isReadOnly()) menu->insertActions(menu->actions().value(1), actions());  // behind Copy
   menu->popup(event->globalPos());
 }
 

@@ -6,6 +6,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/kit/FieldPanel.h"
 
@@ -63,13 +64,19 @@ void ReflowArea::Arrange() {
   const Flow flow = Best(room);
   Place(flow);
   if (flow == Flow::One) return;
-  // Rows grow with the window as far as they still read as one block, and move together before one of them
-  // would be out of sight.
-  const int spare =
-      room.height() - std::max(parts_.Inputs->sizeHint().height(), parts_.Results->sizeHint().height());
-  const int widest = flow == Flow::Three ? em * 5 / 4 : rowGap;
+  // Rows grow with the window as far as they still read as one block. They move together to keep the drawing
+  // in sight, and where it cannot be, to keep the last of them there.
+  constexpr int gaps = 10;
+  const int least = em / 8;
+  const int fields = std::max(parts_.Inputs->sizeHint().height(), parts_.Results->sizeHint().height());
+  int spare = room.height() - fields;
+  if (flow == Flow::Two) {
+    const int besideDrawing = spare - margin - parts_.Drawing->minimumSizeHint().height();
+    if (besideDrawing >= gaps * (least - rowGap)) spare = besideDrawing;
+  }
+  const int most = flow == Flow::Three ? em * 5 / 4 : rowGap;
   for (FieldPanel* const panel : {parts_.Inputs, parts_.Results}) {
-    panel->SetAiriness(std::clamp(rowGap + spare / 10, em / 8, widest));
+    panel->SetAiriness(std::clamp(rowGap + static_cast<int>(std::floor(spare / (1.0 * gaps))), least, most));
   }
 }
 
