@@ -25,16 +25,17 @@
 #include "desktop/chart/ChartWidget.h"
 #include "desktop/kit/FrontWindow.h"
 #include "desktop/kit/Text.h"
-#include "desktop/kit/WindowPlace.h"
 #include "desktop/kit/ToolBar.h"
+#include "desktop/kit/WindowPlace.h"
 
 namespace {
 
 constexpr double TwipsOfInch = 1440;
 constexpr double MillimetresOfInch = 25.4;
 constexpr int TwipsOfPoint = 20;
-constexpr int TwipsOfPixel = 15;   // of a screen of 96 dots to the inch, as which a picture is laid out
-constexpr int PicturePixels = 12;  // size of its letters
+constexpr int TwipsOfPixel = 15;      // of a screen of 96 dots to the inch, as which a picture is laid out
+constexpr int PicturePixels = 12;     // size of its letters
+constexpr double SmallLetters = 0.7;  // size of exponents and indices
 
 int Twips(double millimetres) {
   return static_cast<int>(std::lround(millimetres * TwipsOfInch / MillimetresOfInch));
@@ -108,29 +109,47 @@ void QtPrinter::SetFont(const PrintFont& font) {
 
 int QtPrinter::Text(int x, int y, const std::string& text, int maxWidth, PrintedAs as) {
   if (text.empty() || maxWidth <= 0) return 1;
+  if (as == PrintedAs::Value) {
+    std::vector<Run> runs;
+    const std::string shown = FromQt(Printed(text));  // with raised digits where there are any, to be copied
+    for (const TextRun& run : TextRuns(shown)) runs.push_back({ToQt(run.Text), run.At});
+    TextLine(x, y, std::move(runs), maxWidth);
+    return 1;
+  }
   const QStringList lines =
-      as == PrintedAs::Value
-          ? QStringList{Printed(text)}
-          : Wrapped(ToQt(text), font_, maxWidth, as == PrintedAs::Name ? Qt::ElideRight : Qt::ElideMiddle);
+      Wrapped(ToQt(text), font_, maxWidth, as == PrintedAs::Name ? Qt::ElideRight : Qt::ElideMiddle);
   for (const QString& line : lines) {
-    TextLine(x, y, line, maxWidth);
+    TextLine(x, y, {{line, TextRun::Level::Line}}, maxWidth);
     y += lineHeight_;
   }
   return static_cast<int>(lines.size());
 }
 
 /// Condensed where it is wider than its room.
-void QtPrinter::TextLine(int x, int y, const QString& shown, int maxWidth) {
+void QtPrinter::TextLine(int x, int y, std::vector<Run> runs, int maxWidth) {
   const QFontMetricsF metrics(font_);
-  const double width = metrics.horizontalAdvance(shown);
+  double width = 0;
+  for (Run& run : runs) {
+    const double scale = run.At == TextRun::Level::Line ? 1 : SmallLetters;
+    run.Width = scale * metrics.horizontalAdvance(run.Text);
+    width += run.Width;
+  }
   const double condensed = width > maxWidth ? maxWidth / width : 1;
   const QPointF baseline(x, y + metrics.ascent());
-  pages_.back().push_back([font = font_, shown, condensed, baseline](QCPPainter& painter) {
+  pages_.back().push_back([font = font_, runs = std::move(runs), condensed, baseline,
+                           height = metrics.ascent()](QCPPainter& painter) {
     painter.save();
-    painter.setFont(font);
     painter.translate(baseline);
     painter.scale(condensed, 1);
-    painter.drawText(QPointF(0, 0), shown);
+    for (const Run& run : runs) {
+      const bool small = run.At != TextRun::Level::Line;
+      QFont size(font);
+      if (small) size.setPixelSize(static_cast<int>(font.pixelSize() * SmallLetters));
+      painter.setFont(size);
+      const double rise = run.At == TextRun::Level::Raised ? -height / 3 : height / 6;
+      painter.drawText(QPointF(0, small ? rise : 0), run.Text);
+      painter.translate(run.Width, 0);
+    }
     painter.restore();
   });
 }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/Services.h"
+#include "platform/TextRuns.h"
 
 class QCPPainter;
 class QPagedPaintDevice;
@@ -33,7 +34,12 @@ class QtPrinter : public Printer {
 
  private:
   using Stroke = std::function<void(QCPPainter&)>;
-  void TextLine(int x, int y, const QString& shown, int maxWidth);
+  struct Run {
+    QString Text;
+    TextRun::Level At;
+    double Width = 0;
+  };
+  void TextLine(int x, int y, std::vector<Run> runs, int maxWidth);
 
   QPagedPaintDevice& device_;
   const QString file_;
