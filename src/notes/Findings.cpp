@@ -23,9 +23,12 @@ bool Same(double y, double other) {
 
 Regime RegimeOf(const ChannelRecord& record) {
   if (!record.Froude.IsDouble()) return Regime::None;
-  if (record.CriticalDepth.IsDouble() && Same(record.CriticalDepth.Number(), record.Depth.Number()))
+  const double Fr = record.Froude.Number();
+  // A film of water is as thin as the tolerance of the search: its depths agree whatever its regime.
+  if (IsNearCritical(Fr) && record.CriticalDepth.IsDouble() &&
+      Same(record.CriticalDepth.Number(), record.Depth.Number()))
     return Regime::Critical;
-  return record.Froude.Number() < 1 ? Regime::Subcritical : Regime::Supercritical;
+  return Fr < 1 ? Regime::Subcritical : Regime::Supercritical;
 }
 
 PipeFindings ExaminePipe(const ChannelRecord& record) {

@@ -56,5 +56,11 @@ struct Findings {
   std::vector<Uncertainty> Uncertain;
 };
 
+/// Froude numbers near which a small change moves the water surface far: US Army Corps of Engineers, EM
+/// 1110-2-1601.
+constexpr bool IsNearCritical(double froude) {
+  return 0.86 < froude && froude < 1.13;
+}
+
 /// Looks at the problem record just solved. Never faults: what cannot be found is left out.
 Findings Examine(const ChannelRecord& record);

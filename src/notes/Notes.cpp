@@ -215,8 +215,8 @@ bool Is(const Answer& a) {
   return a.Found.State == regime;
 }
 
-bool IsNearCritical(const Answer& a) {
-  return a.Found.State != Regime::Critical && 0.86 < a.Found.Froude && a.Found.Froude < 1.13;
+bool IsNearButNotCritical(const Answer& a) {
+  return a.Found.State != Regime::Critical && IsNearCritical(a.Found.Froude);
 }
 
 bool IsPipe(const Answer& a) {
@@ -240,14 +240,14 @@ const Row Table[] = {
     {Box<&ChannelRecord::Froude>, Is<Regime::Critical>, "critical",
      "Critical: the depth is the critical depth",
      "Fr = V / √(g A / T) = {Fr}: the depth and the critical depth agree within the 1e-6 ft of the search. "
-     "The flow is critical, and this slope is the critical slope.",
+     "The flow is critical, this slope is the critical slope, and the water surface is unstable.",
      "Chow, Open-Channel Hydraulics (1959), § 1-3 and § 4-1"},
     {Box<&ChannelRecord::Froude>, Is<Regime::Supercritical>, "supercritical",
      "Supercritical: the water level is governed from upstream",
      "Fr = V / √(g A / T) = {Fr}, greater than 1: the flow is supercritical. No small wave can travel "
      "upstream, and the water level is governed from upstream.",
      "Chow, Open-Channel Hydraulics (1959), § 1-3"},
-    {Box<&ChannelRecord::Froude>, IsNearCritical, "near critical",
+    {Box<&ChannelRecord::Froude>, IsNearButNotCritical, "near critical",
      "Near critical: the water surface is unstable",
      "Fr = {Fr} lies between 0.86 and 1.13. Near critical depth a small change of energy, of roughness or of "
      "the section moves the surface far: expect standing waves and leave freeboard, or change slope or "
@@ -259,42 +259,42 @@ const Row Table[] = {
      "with the slope of the pipe as the slope of energy; under pressure it carries more.",
      "Chow, Open-Channel Hydraulics (1959), § 6-4"},
     {Box<&ChannelRecord::Depth>, IsPartlyFull, "{fill} deep", "The pipe is {fill} deep",
-     "y / D = {depth} / {diameter}: the pipe is {fill} deep.", "Chow, Open-Channel Hydraulics (1959), § 6-4"},
+     "y / D = {depth} / {diameter}.", "Chow, Open-Channel Hydraulics (1959), § 6-4"},
     {Box<&ChannelRecord::Flow>, IsPipe, "{share} of the greatest flow",
      "{share} of the greatest flow; the full pipe carries {full flow}",
-     "Q / Qmax = {flow} / {greatest} = {share}. With a free surface the pipe carries most at y = 0.938 D = "
+     "Q / Q_max = {flow} / {greatest}. With a free surface the pipe carries most at y = 0.938 D = "
      "{peak}; full, at y = D, it carries {full flow}.",
      "Chow, Open-Channel Hydraulics (1959), § 6-4"},
-    {Box<&ChannelRecord::Depth>, HasOtherDepth, "", "The pipe carries this flow at {other depth} too",
-     "{flow} lies between the flow of the full pipe ({full flow}) and the greatest ({greatest}), so two "
-     "depths carry it: {depth}, which the box shows, and {other depth}. Between y = 0.938 D and y = D the "
-     "wetted perimeter grows faster than the area, and the flow falls; a wave that touches the crown can "
-     "fill it.",
+    {Box<&ChannelRecord::Depth>, HasOtherDepth, "",
+     "Two depths carry this flow: {depth}, in the box, and {other depth}",
+     "{flow} lies between the flow of the full pipe, {full flow}, and the greatest, {greatest}. Between y = "
+     "0.938 D and y = D the wetted perimeter grows faster than the area, and the flow falls; a wave that "
+     "touches the crown can fill the pipe.",
      "Chow, Open-Channel Hydraulics (1959), § 6-4"},
     {Box<&ChannelRecord::Depth>,
      [](const Answer& a) { return a.Found.Section && a.Section().Flow.Levels.size() > 1; }, "",
      "{number of levels} water levels carry this flow: {levels}; the box shows the {shown}",
-     "Q = Σ (k / n) A R^(2/3) √S reaches {flow} at {number of levels} water levels: {levels}. The box shows "
-     "the {shown}. Which of them a stream takes depends on what governs it.",
+     "Q = Σ (k / n) A R^(2/3) √S is {flow} at each of them. Which of them a stream takes depends on what "
+     "governs it.",
      "Manning's equation for a section of several n: Chow, Open-Channel Hydraulics (1959), § 6-5"},
     {Box<&ChannelRecord::Flow>,
      [](const Answer& a) { return a.Found.Section && !a.Section().Flow.Falls.empty(); }, "",
      "The flow falls while the water rises: {falls}",
-     "The flow falls while the water rises {falls of flow}: water spreading over a bench adds more wetted "
+     "It falls {falls of flow}: water spreading over a bench adds more wetted "
      "perimeter than area. No single water level belongs to a flow in such a range; an n of its own for the "
      "bench makes it a subsection of its own.",
      "Chow, Open-Channel Hydraulics (1959), § 6-5"},
     {Box<&ChannelRecord::CriticalDepth>,
      [](const Answer& a) { return a.Found.Section && a.Section().Critical.Levels.size() > 1; }, "",
      "The flow is critical at {number of critical levels} water levels: {critical levels}; {critical shown}",
-     "A √(A / T) = Q / √g holds at {number of critical levels} water levels: {critical levels}; {critical "
-     "shown}. The section factor falls while the water rises {critical falls}: each level is a critical one "
+     "A √(A / T) = Q / √g holds at each of them. The section factor falls while the water rises {critical "
+     "falls}: each level is a critical one "
      "of its own, and a local energy analysis has to choose.",
      "Blalock and Sturm, Minimum Specific Energy in Compound Open Channel, J. Hydraulics Division, ASCE 107 "
      "(1981)"},
     {Box<&ChannelRecord::Depth>, [](const Answer& a) { return a.Found.Section && !AboveEnds(a).empty(); }, "",
      "The water stands {above ends} of the section",
-     "The water stands {above ends} of the section. No wall is counted there: the water ends at that station "
+     "No wall is counted there: the water ends at that station "
      "and the wetted perimeter is that of the ground alone. Survey further, or count the wall by a point "
      "above the water.",
      "Definition of the wetted perimeter: Chow, Open-Channel Hydraulics (1959), § 2-2"},

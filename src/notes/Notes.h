@@ -24,7 +24,7 @@ struct Note {
   std::vector<Cell> Concerns;  ///< the quantities whose boxes it is about; none: the points
   std::string Phrase;          ///< its words in the verdict; empty when the verdict only counts it
   std::string Short;           ///< one sentence without its full stop
-  std::string Long;            ///< sentences, with the formula
+  std::string Long;  ///< sentences that go on from there, with the formula; indices marked ("Q_max")
   std::string Source;
 };
 

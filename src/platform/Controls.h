@@ -142,7 +142,9 @@ struct TextPage : FocusControl {
   Property<std::string> Html;
   std::string Text;  ///< the same as plain text
 
-  std::function<void(const std::string& anchor)> ScrollView;  // set by the view: brings the place into sight
+  // Set by the view.
+  std::function<void(const std::string& heading)> ScrollView;  ///< brings the heading into sight
+  std::function<void()> FindView;                              ///< asks for a text and finds it
 };
 
 /// A list of lines; choosing one, by hand or by the program, raises Click.

@@ -67,7 +67,7 @@ std::string UnitText(UnitKind unit) {
     case UnitKind::Angle:
       return "rad";
     case UnitKind::SectionFactor:
-      return metric ? "m^2.5" : "ft^2.5";
+      return metric ? "m^(5/2)" : "ft^(5/2)";
     case UnitKind::Shear:
       return metric ? "N/m^2" : "lb/ft^2";
   }
@@ -110,7 +110,7 @@ void AddEquation(WorkingLines& lines, const Equation& equation, const ShownNumbe
     filled = Replaced(filled, "{" + std::string(symbols[i]) + "}", texts[i]);
   }
   const std::string unit = UnitText(equation.Unit);
-  WorkingLine line{WorkingLine::Kind::Equation, {equation.Symbol + index}};
+  WorkingLine line{WorkingLine::Kind::Result, {equation.Symbol + index}};
   if (*equation.Formula != '\0') line.Parts.push_back(Replaced(equation.Formula, "*", index));
   if (!filled.empty()) line.Parts.push_back(filled);
   line.Parts.push_back(unit.empty() ? value : value + " " + unit);

@@ -20,7 +20,7 @@ using ShownNumbers = std::map<std::string, Shown, std::less<>>;
 enum class UnitKind { None, Length, Area, Flow, Velocity, Slope, Angle, SectionFactor, Shear };
 
 struct Equation {
-  const char* Symbol;   ///< of the value; "*" here and in the formula stands for the index of critical flow
+  const char* Symbol;   ///< of the value; in the formula "*" stands for an index, as that of critical flow
   const char* Formula;  ///< in symbols
   const char* Numbers;  ///< the formula with each "{symbol}" to be replaced by its number
   double (*Value)(std::span<const double>);  ///< of the numbers in the order in which they first stand
@@ -35,6 +35,6 @@ std::string WithDigits(double x, int digits);
 
 /// Adds the line to lines when all its numbers are known. The value is that of numbers[Symbol], with five
 /// significant digits; those put in have as many more as it takes for a reader who computes with them to
-/// agree.
+/// agree. The index ("_c") is added to the symbol.
 void AddEquation(WorkingLines& lines, const Equation& equation, const ShownNumbers& numbers,
                  const std::string& index = "");

@@ -26,21 +26,21 @@ const Equation Rectangle[] = {
     {"T", "b", "{b}", [](Numbers x) { return x[0]; }, UnitKind::Length},
 };
 const Equation Triangle[] = {
-    {"A", "(zL + zR) y*² / 2", "({zL} + {zR}) × {y}² / 2",
+    {"A", "(z_L + z_R) y*² / 2", "({z_L} + {z_R}) × {y}² / 2",
      [](Numbers x) { return (x[0] + x[1]) * x[2] * x[2] / 2; }, UnitKind::Area},
-    {"P", "y* (√(1 + zL²) + √(1 + zR²))", "{y} × (√(1 + {zL}²) + √(1 + {zR}²))",
+    {"P", "y* (√(1 + z_L²) + √(1 + z_R²))", "{y} × (√(1 + {z_L}²) + √(1 + {z_R}²))",
      [](Numbers x) { return x[0] * (std::sqrt(1 + x[1] * x[1]) + std::sqrt(1 + x[2] * x[2])); },
      UnitKind::Length},
-    {"T", "(zL + zR) y*", "({zL} + {zR}) × {y}", [](Numbers x) { return (x[0] + x[1]) * x[2]; },
+    {"T", "(z_L + z_R) y*", "({z_L} + {z_R}) × {y}", [](Numbers x) { return (x[0] + x[1]) * x[2]; },
      UnitKind::Length},
 };
 const Equation Trapezoid[] = {
-    {"A", "b y* + (zL + zR) y*² / 2", "{b} × {y} + ({zL} + {zR}) × {y}² / 2",
+    {"A", "b y* + (z_L + z_R) y*² / 2", "{b} × {y} + ({z_L} + {z_R}) × {y}² / 2",
      [](Numbers x) { return x[0] * x[1] + (x[2] + x[3]) * x[1] * x[1] / 2; }, UnitKind::Area},
-    {"P", "b + y* (√(1 + zL²) + √(1 + zR²))", "{b} + {y} × (√(1 + {zL}²) + √(1 + {zR}²))",
+    {"P", "b + y* (√(1 + z_L²) + √(1 + z_R²))", "{b} + {y} × (√(1 + {z_L}²) + √(1 + {z_R}²))",
      [](Numbers x) { return x[0] + x[1] * (std::sqrt(1 + x[2] * x[2]) + std::sqrt(1 + x[3] * x[3])); },
      UnitKind::Length},
-    {"T", "b + (zL + zR) y*", "{b} + ({zL} + {zR}) × {y}",
+    {"T", "b + (z_L + z_R) y*", "{b} + ({z_L} + {z_R}) × {y}",
      [](Numbers x) { return x[0] + (x[1] + x[2]) * x[3]; }, UnitKind::Length},
 };
 const Equation Pipe[] = {
@@ -61,9 +61,9 @@ const Equation Section[] = {
     {"P", "sum of P", "", nullptr, UnitKind::Length},
     {"T", "sum of T", "", nullptr, UnitKind::Length},
 };
-const Equation CriticalSection[] = {
-    {"A", "area below Wc", "", nullptr, UnitKind::Area},
-    {"T", "width at Wc", "", nullptr, UnitKind::Length},
+const Equation SectionAtLevel[] = {
+    {"A", "area below W*", "", nullptr, UnitKind::Area},
+    {"T", "width at W*", "", nullptr, UnitKind::Length},
 };
 
 struct TypeEquations {
@@ -82,7 +82,7 @@ const Equation SectionFactor = {"Z", "A* √(A* / T*)", "{A} × √({A} / {T})",
                                 [](Numbers x) { return x[0] * std::sqrt(x[0] / x[1]); },
                                 UnitKind::SectionFactor};
 const Equation Manning = {
-    "Q", "(k / n) A R^(2/3) √S", "({k} / {n}) × {A} × {R}^(2/3) × √{S}",
+    "Q", "(k / n) A* R*^(2/3) √S", "({k} / {n}) × {A} × {R}^(2/3) × √{S}",
     [](Numbers x) { return x[0] / x[1] * x[2] * std::pow(x[3], Constants::TwoThirds) * std::sqrt(x[4]); },
     UnitKind::Flow};
 
@@ -114,6 +114,15 @@ double WorkingWriter::Carried(double y) const {
   return UniformFlow::Discharge(water.A, water.P, record_.ManningN.Number(), UniformFlow::RootOfSlope(S));
 }
 
+double WorkingWriter::SectionFactorAt(double y) const {
+  const WaterBelow water = Water(y);
+  return UniformFlow::SectionFactor(water.A, water.T);
+}
+
+double WorkingWriter::InSectionFactorUnits(double Z) const {
+  return InUnits(Z, Units::Area) / std::sqrt(UnitFactor(record_.UnitsEorM, Units::Length));
+}
+
 SearchTrace WorkingWriter::Trace(double from, double to, double target,
                                  const std::function<double(double)>& curve) const {
   SearchTrace trace{from, to, 0, from, to, 0};
@@ -126,60 +135,68 @@ SearchTrace WorkingWriter::Trace(double from, double to, double target,
   return trace;
 }
 
-void WorkingWriter::Search(const SearchTrace& trace, const std::string& depth, const char* target) {
-  Say("An interval of " + depth + " is halved until it is no wider than " + Fine(Constants::SearchTolerance) +
-      "; in it " + target + " is met:");
-  Equal({"Interval", FineNumber(trace.From) + " to " + Fine(trace.To)});
-  Equal({"Steps", std::to_string(trace.Steps)});
-  Equal({"Last bracket",
-         FineNumber(trace.Low, 1) + " to " + FineNumber(trace.High, 1) + " " + UnitText(UnitKind::Length)});
-  Equal({depth, Fine(trace.Found) + " (the last depth tried)"});
+void WorkingWriter::Search(const SearchTrace& trace, const std::string& depth, const std::string& target) {
+  const auto [from, to] = std::minmax(trace.From, trace.To);
+  const auto [low, high] = std::minmax(trace.Low, trace.High);
+  Say("The interval in which " + target + " is halved until it is no wider than " +
+      Fine(Constants::SearchTolerance) + ":");
+  State({"Interval of " + depth, FineNumber(from) + " to " + Fine(to)});
+  State({"Steps", std::to_string(trace.Steps)});
+  State({"Last bracket", FineNumber(low, 1) + " to " + Fine(high, 1)});
+  Result({depth, "the last one tried", Fine(trace.Found, 1)});
 }
 
-/// How near the search came, with the decimals that a change of the depth by its tolerance moves.
-void WorkingWriter::Residual(const std::string& quantity, double y, double carried, double wanted,
+/// How near the last depth tried came, with the decimals that a change of the depth by the tolerance of the
+/// search moves.
+void WorkingWriter::Residual(const std::string& difference, double carried, double wanted,
                              double carriedAbove, UnitKind unit) {
   const double change = std::abs(carriedAbove - carried);
   const int decimals =
       change > 0 ? std::clamp(static_cast<int>(std::ceil(-std::log10(change))) + 1, 0, 14) : 6;
-  const auto text = [&](double value) {
-    return FixedFormat(value, 1, decimals).Text() + " " + UnitText(unit);
-  };
-  Equal({quantity + " at " + Fine(y), text(carried)});
-  Equal({quantity + " wanted", text(wanted)});
-  Equal({"Difference", text(carried - wanted)});
+  const std::string minuend = FixedFormat(carried, 1, decimals).Text();
+  const std::string subtrahend = FixedFormat(wanted, 1, decimals).Text();
+  const double left = NumericValue(minuend).value_or(0) - NumericValue(subtrahend).value_or(0);
+  State({"Residual", difference, minuend + " - " + subtrahend,
+         FixedFormat(left, 1, decimals).Text() + " " + UnitText(unit)});
 }
 
-void WorkingWriter::Geometry(double y, const std::string& index, ShownNumbers& numbers) {
+void WorkingWriter::SetGeometry(double y, ShownNumbers& numbers) const {
   const WaterBelow water = Water(y);
   const bool full = IsPipe() && y >= record_.Diameter.Number();
+  numbers[IsSection() ? "W" : "y"].Value = InUnits(y, Units::Length);
   numbers["A"] = {InUnits(water.A, Units::Area)};
   numbers["P"] = {InUnits(water.P, Units::Length)};
   numbers["R"] = {InUnits(UniformFlow::HydraulicRadius(water.A, water.P), Units::Length)};
   if (!full) numbers["T"] = {InUnits(water.T, Units::Length)};
   if (IsPipe() && !full) numbers["θ"] = {2 * ManningCircular::ArcCos(1 - 2 * y / record_.Diameter.Number())};
+}
+
+/// The lines of those that the numbers hold.
+void WorkingWriter::AddGeometry(const ShownNumbers& numbers, const std::string& index) {
   std::span<const Equation> equations =
       std::ranges::find(Types, std::string_view(record_.ChannelType), &TypeEquations::Type)->Equations;
-  if (full) equations = FullPipe;
-  if (IsSection() && !index.empty()) equations = CriticalSection;
+  if (IsPipe() && !numbers.contains("θ")) equations = FullPipe;
+  if (IsSection() && !index.empty()) equations = SectionAtLevel;
   for (const Equation& equation : equations) AddEquation(lines_, equation, numbers, index);
 }
 
 void WorkingWriter::DepthSearch() {
   numbers_["Q"].Value = InUnits(found_.Flow, Units::Flow);
-  const std::string symbol = IsSection() ? "W" : "y";
-  numbers_[symbol].Value = InUnits(found_.Depth, Units::Length);
   if (record_.SolveForFlow) return;
   Heading("Search for the depth");
   const double top =
       IsPipe() ? Constants::PeakFlowDepth * record_.Diameter.Number() : low_ + Constants::SearchDepth;
+  FlowSearch(low_, top, IsSection() ? "W" : "y");
+}
+
+/// The search for a depth that carries the flow, from one that carries less to one that carries more.
+void WorkingWriter::FlowSearch(double from, double to, const std::string& symbol) {
   const SearchTrace trace =
-      Trace(low_, top, found_.Flow, [this](double y) { return y > low_ ? Carried(y) : 0; });
-  Search(trace, symbol, "Q");
-  const double y = trace.Found;
-  const auto flow = [this](double cfs) { return InUnits(cfs, Units::Flow); };
-  Residual("Q", y, flow(Carried(y)), flow(found_.Flow), flow(Carried(y + Constants::SearchTolerance)),
-           UnitKind::Flow);
+      Trace(from, to, found_.Flow, [this](double y) { return y > low_ ? Carried(y) : 0; });
+  Search(trace, symbol, "the flow reaches Q");
+  const auto flow = [this](double y) { return InUnits(Carried(y), Units::Flow); };
+  Residual("Q at " + symbol + " - Q", flow(trace.Found), InUnits(found_.Flow, Units::Flow),
+           flow(trace.Found + (to > from ? 1 : -1) * Constants::SearchTolerance), UnitKind::Flow);
 }
 
 void WorkingWriter::SubsectionTable() {
@@ -187,10 +204,10 @@ void WorkingWriter::SubsectionTable() {
   const WaterInterval water = ground.IntervalOf(found_.Depth);
   const double h = found_.Depth - water.Bottom;
   const double rootS = UniformFlow::RootOfSlope(found_.Slope);
-  const std::string length = " " + UnitText(UnitKind::Length);
+  const std::string length = ", " + UnitText(UnitKind::Length);
   Say("Each n begins a subsection; K = (k / n) A R^(2/3), Q = K √S:");
-  Heads({"Points", "n", "A " + UnitText(UnitKind::Area), "P" + length, "T" + length, "R" + length,
-         "K " + UnitText(UnitKind::Flow), "Share of Q"});
+  Heads({"Points", "n", "A, " + UnitText(UnitKind::Area), "P" + length, "T" + length, "R" + length,
+         "K, " + UnitText(UnitKind::Flow), "Share of Q"});
   double K = 0;
   for (const Subsection& each : water.Subsections) {
     const double Q = SubsectionFlow(each, h, rootS);
@@ -198,12 +215,16 @@ void WorkingWriter::SubsectionTable() {
     const double A = each.Area(h);
     const double P = each.Perimeter(h);
     const auto cell = [&](double value, int quantity) { return WithDigits(InUnits(value, quantity), 5); };
-    Row({std::to_string(each.From) + " to " + std::to_string(each.To), PlainNumberInLocale(each.N),
-         cell(A, Units::Area), cell(P, Units::Length), cell(each.Width(h), Units::Length),
-         P > 0 ? cell(A / P, Units::Length) : "dry", cell(Q / rootS, Units::Flow),
-         WithDigits(100 * Q / found_.Flow, 5) + " %"});
+    Row({std::to_string(each.From) + " to " + std::to_string(each.To),
+         record_.IrregPoints[each.From][3].Text(), cell(A, Units::Area), cell(P, Units::Length),
+         cell(each.Width(h), Units::Length), P > 0 ? cell(A / P, Units::Length) : "dry",
+         cell(Q / rootS, Units::Flow), WithDigits(100 * Q / found_.Flow, 5) + " %"});
   }
   numbers_["K"] = {InUnits(K, Units::Flow)};
+}
+
+void WorkingWriter::AddManning(const ShownNumbers& numbers, const std::string& index) {
+  Add({Radius, Manning}, numbers, index);
 }
 
 void WorkingWriter::AddDiameter() {
@@ -218,23 +239,25 @@ void WorkingWriter::UniformFlow() {
   Heading("Uniform flow");
   if (IsSection()) SubsectionTable();
   if (IsPipe()) AddDiameter();
-  Geometry(found_.Depth, "", numbers_);
+  SetGeometry(found_.Depth, numbers_);
+  if (IsSection() && !record_.SolveForFlow) numbers_["W"].Text = FineNumber(found_.Depth);
+  AddGeometry(numbers_);
   numbers_["V"] = {InUnits(record_.Velocity.Number(), Units::Velocity)};
-  numbers_["V² / 2g"] = {InUnits(record_.VelocityHead.Number(), Units::Length)};
+  numbers_["h_v"] = {InUnits(record_.VelocityHead.Number(), Units::Length)};
   if (record_.Froude.IsDouble()) numbers_["Fr"] = {record_.Froude.Number()};
-  Add({Radius}, numbers_);
   // What the depth found carries, which the end of the search leaves beside the flow given.
   ShownNumbers carried = numbers_;
   carried["Q"] = {InUnits(Carried(found_.Depth), Units::Flow)};
   if (IsSection()) {
-    Add({{"K", "sum of K", "", nullptr, UnitKind::Flow},
+    Add({Radius,
+         {"K", "sum of K", "", nullptr, UnitKind::Flow},
          {"Q", "K √S", "{K} × √{S}", [](Numbers x) { return x[0] * std::sqrt(x[1]); }, UnitKind::Flow}},
         carried);
   } else {
-    Add({Manning}, carried);
+    AddManning(carried);
   }
   Add({{"V", "Q / A", "{Q} / {A}", [](Numbers x) { return x[0] / x[1]; }, UnitKind::Velocity},
-       {"V² / 2g", "V² / (2 g)", "{V}² / (2 × {g})", [](Numbers x) { return x[0] * x[0] / (2 * x[1]); },
+       {"h_v", "V² / (2 g)", "{V}² / (2 × {g})", [](Numbers x) { return x[0] * x[0] / (2 * x[1]); },
         UnitKind::Length},
        {"Fr", "V / √(g A / T)", "{V} / √({g} × {A} / {T})",
         [](Numbers x) { return x[0] / std::sqrt(x[1] * x[2] / x[3]); }, UnitKind::None}},
@@ -254,25 +277,19 @@ void WorkingWriter::CriticalFlow() {
   Add({{"Q / √g", "", "{Q} / √{g}", [](Numbers x) { return x[0] / std::sqrt(x[1]); },
         UnitKind::SectionFactor}},
       critical);
-  const auto factor = [this](double y) {
-    const WaterBelow water = Water(y);
-    return UniformFlow::SectionFactor(water.A, water.T);
-  };
-  const std::string symbol = IsSection() ? "W" : "y";
   const double top = IsPipe() ? record_.Diameter.Number() : low_ + Constants::SearchDepth;
-  const SearchTrace trace = Trace(low_, top, UniformFlow::CriticalSectionFactor(found_.Flow), factor);
-  Search(trace, symbol + "c", "Ac √(Ac / Tc) = Q / √g");
+  const SearchTrace trace = Trace(low_, top, UniformFlow::CriticalSectionFactor(found_.Flow),
+                                  [this](double y) { return SectionFactorAt(y); });
+  Search(trace, IsSection() ? "W_c" : "y_c", "A_c √(A_c / T_c) reaches Q / √g");
   const double yc = trace.Found;
-  critical[symbol] = {InUnits(yc, Units::Length)};
-  Geometry(yc, "c", critical);
-  const auto shown = [this](double Z) {
-    return InUnits(Z, Units::Area) / std::sqrt(UnitFactor(record_.UnitsEorM, Units::Length));
-  };
-  critical["Z"] = {shown(factor(yc))};
-  Add({SectionFactor}, critical, "c");
-  Residual("Zc", yc, shown(factor(yc)), critical["Q / √g"].Value,
-           shown(factor(yc - std::min(Constants::SearchTolerance, (yc - low_) / 2))),
-           UnitKind::SectionFactor);
+  SetGeometry(yc, critical);
+  critical[IsSection() ? "W" : "y"].Text.clear();
+  AddGeometry(critical, "_c");
+  const auto shown = [this](double y) { return InSectionFactorUnits(SectionFactorAt(y)); };
+  critical["Z"] = {shown(yc)};
+  Add({SectionFactor}, critical, "_c");
+  Residual("Z_c - Q / √g", shown(yc), critical["Q / √g"].Value,
+           shown(yc - std::min(Constants::SearchTolerance, (yc - low_) / 2)), UnitKind::SectionFactor);
   if (!record_.CriticalSlope.IsDouble()) return;
   critical["S"] = {record_.CriticalSlope.Number()};
   Add({Radius,
@@ -281,9 +298,9 @@ void WorkingWriter::CriticalFlow() {
           return std::pow(x[0] * x[1] / (x[2] * x[3] * std::pow(x[4], Constants::TwoThirds)), 2);
         },
         UnitKind::Slope}},
-      critical, "c");
+      critical, "_c");
   if (metric_) {
-    Say("The box Critical Slope shows Sc divided by " +
+    Say("The box Critical Slope shows S_c divided by " +
         PlainNumberInLocale(UnitFactor(Units::Metric, Units::Length)) + ": " +
         WithUnit(InUnits(record_.CriticalSlope.Number(), Units::Length), UnitKind::Length) + ".");
   }

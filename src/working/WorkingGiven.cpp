@@ -54,7 +54,8 @@ std::string SymbolInText(const Field& field) {
 }
 
 void AddPoints(WorkingLines& lines) {
-  lines.push_back({WorkingLine::Kind::Head, {"Point", "Station", "Elevation", "n"}});
+  const std::string length = ", " + UnitText(UnitKind::Length);
+  lines.push_back({WorkingLine::Kind::Head, {"Point", "Station" + length, "Elevation" + length, "n"}});
   for (int row = 1; row <= ChannelState.IrregPointCount; ++row) {
     const auto& point = ChannelState.IrregPoints[static_cast<std::size_t>(row)];
     lines.push_back({WorkingLine::Kind::Row,
@@ -95,16 +96,16 @@ WorkingLines WorkingWriter::Write() {
 
 void WorkingWriter::Given() {
   Heading("Given");
-  Equal({"Channel type", record_.ChannelType.empty() ? "not chosen" : record_.ChannelType});
-  Equal({"Solved for", (record_.SolveForFlow ? main_.lblFlow : main_.lblDepth).Caption});
+  State({"Channel type", record_.ChannelType.empty() ? "not chosen" : record_.ChannelType});
+  State({"Solved for", (record_.SolveForFlow ? main_.lblFlow : main_.lblDepth).Caption});
   for (const Field* const field : ReportInputs()) {
     if (field->IsResult()) continue;
     const std::string& text = (main_.*field->Box).Text;
     const bool isNumber = NumericValue(text).has_value();
-    const std::string symbol = SymbolInText(*field);
+    const std::string symbol = field->Symbol.Current();
     std::string name = (main_.*field->Name).Caption;
     if (!name.ends_with(" " + symbol)) name += " " + symbol;
-    Equal({name, isNumber ? ReportValue(main_, *field) : NotANumber(text)});
+    State({name, isNumber ? ReportValue(main_, *field) : NotANumber(text)});
     // The formulas take every length in the same unit.
     const bool otherUnit = field->Quantity == Units::Diameter;
     numbers_[symbol] = {InUnits((record_.*field->Cell).Number(), otherUnit ? Units::Length : field->Quantity),
@@ -121,7 +122,7 @@ void WorkingWriter::Constants() {
     const std::string shown = WithDigits(value, metric_ ? each.MetricDigits : each.EnglishDigits);
     const std::string unit = metric_ ? each.MetricUnit : each.EnglishUnit;
     numbers_[each.Symbol] = {value, shown};
-    Equal({each.Symbol, shown + (unit.empty() ? "" : " " + unit) + " (" + each.Use + ")"});
+    State({each.Symbol, shown + (unit.empty() ? "" : " " + unit) + " (" + each.Use + ")"});
   }
 }
 
@@ -134,8 +135,8 @@ std::string WorkingWriter::FineNumber(double feet, int moreDecimals) const {
   return FixedFormat(feet, 1 / UnitFactor(record_.UnitsEorM, Units::Length), decimals).Text();
 }
 
-std::string WorkingWriter::Fine(double feet) const {
-  return FineNumber(feet) + " " + UnitText(UnitKind::Length);
+std::string WorkingWriter::Fine(double feet, int moreDecimals) const {
+  return FineNumber(feet, moreDecimals) + " " + UnitText(UnitKind::Length);
 }
 
 std::string WorkingWriter::WithUnit(double value, UnitKind unit) const {

@@ -2,6 +2,9 @@
 #include "working/WorkingLine.h"
 
 #include <string_view>
+#include <utility>
+
+#include "platform/TextRuns.h"
 
 namespace {
 
@@ -14,6 +17,10 @@ std::string Joined(const std::vector<std::string>& parts, const char* separator)
     text += part;
   }
   return text;
+}
+
+bool IsOfTable(const WorkingLine& line) {
+  return line.Is == Kind::Head || line.Is == Kind::Row;
 }
 
 std::string Escaped(std::string_view text) {
@@ -30,45 +37,54 @@ std::string Escaped(std::string_view text) {
   return html;
 }
 
-/// Escaped, and "R^(2/3)" and "m^3" with raised exponents.
-std::string Raised(std::string_view text) {
+/// Escaped, with raised exponents, and with lowered indices but in what may be a name ("Reach A_1").
+std::string Marked(std::string_view text, bool mayBeName = false) {
+  constexpr std::pair<const char*, const char*> Elements[] = {
+      {"<sup>", "</sup>"}, {"", ""}, {"<sub>", "</sub>"}};
   std::string html;
-  for (;;) {
-    const std::size_t caret = text.find('^');
-    html += Escaped(text.substr(0, caret));
-    if (caret == std::string_view::npos) return html;
-    text.remove_prefix(caret + 1);
-    const bool bracketed = text.starts_with('(');
-    const std::size_t end = bracketed ? text.find(')') : text.find_first_not_of("0123456789.");
-    html += "<sup>" + Escaped(text.substr(bracketed, end - bracketed)) + "</sup>";
-    if (end == std::string_view::npos) return html;
-    text.remove_prefix(end + bracketed);
+  for (const TextRun& run : TextRuns(text)) {
+    if (mayBeName && run.At == TextRun::Level::Lowered) {
+      html += "_" + Escaped(run.Text);
+      continue;
+    }
+    const auto& [open, close] = Elements[static_cast<std::size_t>(run.At)];
+    html += open + Escaped(run.Text) + close;
   }
+  return html;
 }
 
 std::string Cells(const std::vector<std::string>& parts, const std::string& element) {
   std::string html = "<tr>";
-  for (const std::string& part : parts) html += "<" + element + ">" + Raised(part) + "</" + element + ">";
+  for (const std::string& part : parts)
+    html += "<" + element + ">" + Marked(part, true) + "</" + element + ">";
   return html + "</tr>\n";
 }
 
-std::string EquationHtml(const std::vector<std::string>& parts) {
-  std::string html = "<p><b>" + Raised(parts.front()) + "</b>";
+std::string EquationHtml(const std::vector<std::string>& parts, bool isResult) {
+  std::string html = "<p class=\"equation\">" + Marked(parts.front());
   for (std::size_t i = 1; i < parts.size(); ++i) {
-    const bool last = i + 1 == parts.size();
-    html += (last ? " = <b>" : " = ") + Raised(parts[i]) + (last ? "</b>" : "");
+    const bool bold = isResult && i + 1 == parts.size();
+    html += (bold ? " = <b>" : " = ") + Marked(parts[i]) + (bold ? "</b>" : "");
   }
   return html + "</p>\n";
+}
+
+std::string NoteHtml(const std::vector<std::string>& parts) {
+  return "<p class=\"note\"><b>" + Marked(parts[0]) + ".</b> " + Marked(parts[1]) + " <i>" +
+         Marked(parts[2]) + ".</i></p>\n";
 }
 
 std::string LineHtml(const WorkingLine& line) {
   switch (line.Is) {
     case Kind::Heading:
-      return "<h2><a name=\"" + Escaped(line.Parts[0]) + "\"></a>" + Escaped(line.Parts[0]) + "</h2>\n";
-    case Kind::Equation:
-      return EquationHtml(line.Parts);
+      return "<h2>" + Escaped(line.Parts[0]) + "</h2>\n";
+    case Kind::Result:
+    case Kind::Fact:
+      return EquationHtml(line.Parts, line.Is == Kind::Result);
     case Kind::Sentence:
-      return "<p>" + Raised(line.Parts[0]) + "</p>\n";
+      return "<p>" + Marked(line.Parts[0]) + "</p>\n";
+    case Kind::Note:
+      return NoteHtml(line.Parts);
     case Kind::Head:
       return Cells(line.Parts, "th");
     case Kind::Row:
@@ -80,14 +96,15 @@ std::string LineHtml(const WorkingLine& line) {
 }  // namespace
 
 std::string WorkingLine::Text() const {
-  return Joined(Parts, Is == Kind::Head || Is == Kind::Row ? "\t" : " = ");
+  if (Is == Kind::Note) return Parts[0] + ". " + Parts[1] + " (" + Parts[2] + ")";
+  return Joined(Parts, IsOfTable(*this) ? "\t" : " = ");
 }
 
 std::string WorkingText(const WorkingLines& lines) {
   std::string text;
   for (const WorkingLine& line : lines) {
     if (line.Is == Kind::Heading && !text.empty()) text += '\n';
-    text += line.Text() + '\n';
+    text += (IsOfTable(line) ? line.Text() : WithoutIndices(line.Text())) + '\n';
   }
   return text;
 }
@@ -96,7 +113,7 @@ std::string WorkingHtml(const WorkingLines& lines) {
   std::string html;
   bool inTable = false;
   for (const WorkingLine& line : lines) {
-    const bool ofTable = line.Is == Kind::Head || line.Is == Kind::Row;
+    const bool ofTable = IsOfTable(line);
     if (inTable && (!ofTable || line.Is == Kind::Head)) html += "</table>\n";
     if (line.Is == Kind::Head) html += "<table cellpadding=\"3\">\n";
     html += LineHtml(line);

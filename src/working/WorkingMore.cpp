@@ -7,6 +7,7 @@
 #include "app/Units.h"
 #include "engine/Constants.h"
 #include "engine/EngineFault.h"
+#include "engine/NumberText.h"
 #include "engine/SolveChannel.h"
 #include "engine/UniformFlow.h"
 #include "notes/Notes.h"
@@ -32,6 +33,21 @@ void Scale(EngineValue& cell, double by) {
   cell = cell.Number() * by;
 }
 
+bool IsBelowGround(double W) {
+  const auto first = ChannelState.IrregEnginePoints.begin() + 1;
+  return std::any_of(first, first + ChannelState.IrregPointCount,
+                     [W](const auto& point) { return point[2].Number() > W; });
+}
+
+double VelocityHead(double Q, double g, double A) {
+  return Q * Q / (2 * g * A * A);
+}
+
+std::string FirstUpper(std::string text) {
+  if (text[0] >= 'a' && text[0] <= 'z') text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  return text;
+}
+
 void ScaleRoughness(double by) {
   Scale(ChannelState.ManningN, by);
   for (int row = 1; row <= ChannelState.IrregPointCount; ++row) {
@@ -43,62 +59,82 @@ void ScaleRoughness(double by) {
 }  // namespace
 
 void WorkingWriter::OtherDepths() {
-  const auto flow = [this](double cfs) { return WithUnit(InUnits(cfs, Units::Flow), UnitKind::Flow); };
   if (found_.Pipe) {
-    const PipeFindings& pipe = *found_.Pipe;
-    Heading("Capacity of the pipe and second depth");
-    const double peak = Constants::PeakFlowDepth * pipe.Diameter;
-    ShownNumbers& x = numbers_;
-    x["Qfull"] = {InUnits(pipe.FullFlow, Units::Flow)};
-    x["Qmax"] = {InUnits(pipe.GreatestFlow, Units::Flow)};
-    x["y / D"] = {found_.Depth / pipe.Diameter};
-    x["Q / Qmax"] = {found_.Flow / pipe.GreatestFlow};
-    const auto ratio = [](Numbers n) { return n[0] / n[1]; };
-    Add({{"Qfull", "(k / n) (π D² / 4) (D / 4)^(2/3) √S",
-          "({k} / {n}) × ({π} × {D}² / 4) × ({D} / 4)^(2/3) × √{S}",
-          [](Numbers n) {
-            return n[0] / n[1] * (n[2] * n[3] * n[3] / 4) * std::pow(n[3] / 4, Constants::TwoThirds) *
-                   std::sqrt(n[4]);
-          },
-          UnitKind::Flow},
-         {"Qmax", "Q at y = 0.938 D", "", nullptr, UnitKind::Flow},
-         {"y / D", "", "{y} / {D}", ratio, UnitKind::None},
-         {"Q / Qmax", "", "{Q} / {Qmax}", ratio, UnitKind::None}},
-        x);
-    if (!pipe.OtherDepth) {
-      Say("No second depth carries this flow: it is not between these two.");
-      return;
-    }
-    if (*pipe.OtherDepth < pipe.Diameter) {
-      Search(Trace(found_.Depth > peak ? 0 : pipe.Diameter, peak, found_.Flow,
-                   [this](double y) { return Carried(y); }),
-             "y2", "Q");
-    }
-    Say("The pipe carries the flow at the depth in the box, " + Fine(found_.Depth) +
-        ", and at a second depth, " + Fine(*pipe.OtherDepth) + ".");
-    Equal({"Q at the second depth", flow(Carried(*pipe.OtherDepth))});
+    PipeCapacity();
+    SecondDepth();
   } else if (found_.Section) {
-    const double rootLength = std::sqrt(UnitFactor(record_.UnitsEorM, Units::Length));
-    WaterLevels(found_.Section->Flow, found_.Section->Shown, "carry the flow", UnitKind::Flow,
-                UnitFactor(record_.UnitsEorM, Units::Flow));
-    WaterLevels(found_.Section->Critical, found_.Section->CriticalShown, "are critical",
-                UnitKind::SectionFactor, UnitFactor(record_.UnitsEorM, Units::Area) * rootLength);
+    WaterLevels("carry the flow", found_.Section->Flow, found_.Section->Shown, "Q", UnitKind::Flow,
+                [this](double Q) { return InUnits(Q, Units::Flow); });
+    WaterLevels("are critical", found_.Section->Critical, found_.Section->CriticalShown, "A √(A / T)",
+                UnitKind::SectionFactor, [this](double Z) { return InSectionFactorUnits(Z); });
   }
 }
 
-void WorkingWriter::WaterLevels(const LevelSearch& found, std::optional<std::size_t> shown,
-                                const std::string& what, UnitKind unit, double factor) {
-  Heading("Water levels that " + what);
+void WorkingWriter::PipeCapacity() {
+  const PipeFindings& pipe = *found_.Pipe;
+  Heading("Capacity of the pipe");
+  ShownNumbers& x = numbers_;
+  x["Q_full"] = {InUnits(pipe.FullFlow, Units::Flow)};
+  Add({{"Q_full", "(k / n) (π D² / 4) (D / 4)^(2/3) √S",
+        "({k} / {n}) × ({π} × {D}² / 4) × ({D} / 4)^(2/3) × √{S}",
+        [](Numbers n) {
+          return n[0] / n[1] * (n[2] * n[3] * n[3] / 4) * std::pow(n[3] / 4, Constants::TwoThirds) *
+                 std::sqrt(n[4]);
+        },
+        UnitKind::Flow}},
+      x);
+  ShownNumbers peak = x;
+  SetGeometry(Constants::PeakFlowDepth * pipe.Diameter, peak);
+  peak["y"].Text.clear();
+  peak.erase("T");
+  peak["Q"] = {InUnits(pipe.GreatestFlow, Units::Flow)};
+  peak["0.938"] = {Constants::PeakFlowDepth, PlainNumberInLocale(Constants::PeakFlowDepth)};
+  Add({{"y", "0.938 D", "{0.938} × {D}", [](Numbers n) { return n[0] * n[1]; }, UnitKind::Length}}, peak,
+      "_max");
+  AddGeometry(peak, "_max");
+  AddManning(peak, "_max");
+  x["Q_max"] = peak["Q"];
+  x["y / D"] = {found_.Depth / pipe.Diameter};
+  x["Q / Q_max"] = {found_.Flow / pipe.GreatestFlow};
+  const auto ratio = [](Numbers n) { return n[0] / n[1]; };
+  Add({{"y / D", "", "{y} / {D}", ratio, UnitKind::None},
+       {"Q / Q_max", "", "{Q} / {Q_max}", ratio, UnitKind::None}},
+      x);
+}
+
+void WorkingWriter::SecondDepth() {
+  Heading("Second depth");
+  const PipeFindings& pipe = *found_.Pipe;
+  if (!pipe.OtherDepth) {
+    Say("No second depth carries the flow: it is not between Q_full and Q_max.");
+    return;
+  }
+  const double peak = Constants::PeakFlowDepth * pipe.Diameter;
+  if (*pipe.OtherDepth < pipe.Diameter) {
+    FlowSearch(found_.Depth > peak ? 0 : pipe.Diameter, peak, "y_2");
+  } else {
+    Result({"y_2", "D", Fine(pipe.Diameter)});
+  }
+  Say("The pipe carries the flow at the depth in the box, " + Fine(found_.Depth) +
+      ", and at a second depth, " + Fine(*pipe.OtherDepth) + ".");
+}
+
+void WorkingWriter::WaterLevels(const char* what, const LevelSearch& found, std::optional<std::size_t> shown,
+                                const std::string& quantity, UnitKind unit,
+                                const std::function<double(double)>& inUnits) {
+  Heading(std::string("Water levels that ") + what);
+  const bool ofFlow = unit == UnitKind::Flow;
+  const auto text = [&](double value) { return WithUnit(inUnits(value), unit); };
+  Heads({"Water level", quantity, "In the box"});
   for (std::size_t i = 0; i < found.Levels.size(); ++i) {
-    Equal({"W" + std::to_string(i + 1), Fine(found.Levels[i]) + (i == shown ? " (in the box)" : "")});
+    const double W = found.Levels[i];
+    Row({Fine(W), text(ofFlow ? Carried(W) : SectionFactorAt(W)), i == shown ? "yes" : "no"});
   }
   if (found.Falls.empty()) return;
-  const std::string quantity = unit == UnitKind::Flow ? "Q" : "A √(A / T)";
   Say(quantity + " falls while the water rises:");
   Heads({"From", "To", quantity + " before", quantity + " after"});
   for (const FallingRange& fall : found.Falls) {
-    Row({Fine(fall.From), Fine(fall.To), WithUnit(fall.Before / factor, unit),
-         WithUnit(fall.After / factor, unit)});
+    Row({Fine(fall.From), Fine(fall.To), text(fall.Before), text(fall.After)});
   }
 }
 
@@ -106,11 +142,11 @@ void WorkingWriter::MoreResults() {
   Heading("More results");
   ShownNumbers& x = numbers_;
   if (IsSection()) {
-    x["Wmin"] = {InUnits(low_, Units::Length), FineNumber(low_)};
+    x["W_min"] = {InUnits(low_, Units::Length), FineNumber(low_)};
     x["y"] = {InUnits(Depth(), Units::Length)};
-    Add({{"y", "W - Wmin", "{W} - {Wmin}", [](Numbers n) { return n[0] - n[1]; }, UnitKind::Length}}, x);
+    Add({{"y", "W - W_min", "{W} - {W_min}", [](Numbers n) { return n[0] - n[1]; }, UnitKind::Length}}, x);
   }
-  x["Specific energy E"] = {x["y"].Value + x["V² / 2g"].Value};
+  x["Specific energy E"] = {x["y"].Value + x["h_v"].Value};
   if (x.contains("T")) {
     x["Hydraulic depth"] = {x["A"].Value / x["T"].Value};
     x["Section factor Z"] = {x["A"].Value * std::sqrt(x["Hydraulic depth"].Value)};
@@ -121,7 +157,7 @@ void WorkingWriter::MoreResults() {
   x["Reynolds number Re"] = {x["V"].Value * x["R"].Value / x["ν"].Value};
   const auto product = [](Numbers n) { return n[0] * n[1] * n[2]; };
   Add({{"Hydraulic depth", "A / T", "{A} / {T}", [](Numbers n) { return n[0] / n[1]; }, UnitKind::Length},
-       {"Specific energy E", "y + V² / 2g", "{y} + {V² / 2g}", [](Numbers n) { return n[0] + n[1]; },
+       {"Specific energy E", "y + V² / 2g", "{y} + {h_v}", [](Numbers n) { return n[0] + n[1]; },
         UnitKind::Length}},
       x);
   AlternateDepth();
@@ -146,25 +182,37 @@ void WorkingWriter::AlternateDepth() {
   };
   const double E = energy(found_.Depth);
   const double yc = record_.CriticalDepth.Number();
-  const bool deep = found_.Depth > yc;
-  const double top = IsPipe() ? std::min(low_ + E, found_.Pipe->Diameter) : low_ + E;
-  double alternate = 0;
-  try {
-    // Towards the bed the energy grows without limit, towards the surface with the depth.
-    if (deep) {
-      alternate = Trace(yc, low_, E, energy).Found;
-    } else if (energy(top) >= E) {
-      alternate = Trace(yc, top, E, energy).Found;
-    } else {
-      Say("No free surface in the pipe has the same specific energy beyond critical depth.");
-      return;
-    }
-  } catch (const EngineFault&) {
-    return;  // the two depths are closer than the search can part
+  const double surface = IsPipe() ? std::min(low_ + E, found_.Pipe->Diameter) : low_ + E;
+  // Towards the bed the energy grows without limit, towards the surface with the depth.
+  const double end = found_.Depth > yc ? low_ : surface;
+  const bool crossed = energy(yc) < E && (end == low_ || energy(end) >= E);
+  if (!crossed || std::abs(end - yc) <= Constants::SearchTolerance) {
+    Say(std::string(IsPipe() ? "No free surface in the pipe" : "No depth") +
+        " beyond critical depth has the same specific energy.");
+    return;
   }
-  const std::string name = IsSection() ? "Alternate level" : "Alternate depth";
-  Equal({name + ", of the same E beyond critical depth", Fine(alternate)});
-  Equal({"E there", WithUnit(InUnits(energy(alternate), Units::Length), UnitKind::Length)});
+  const double alternate = Trace(yc, end, E, energy).Found;
+  ShownNumbers numbers = numbers_;
+  SetGeometry(alternate, numbers);
+  for (const char* const other : {"P", "R", "T"}) numbers.erase(other);
+  if (IsSection()) {
+    numbers["W"].Text = FineNumber(alternate);
+    Result({"Alternate water level W_a", "level of the same E beyond W_c", Fine(alternate)});
+  } else {
+    numbers["y"].Text.clear();
+    Result({"Alternate depth y_a", "depth of the same E beyond y_c", Fine(alternate)});
+  }
+  AddGeometry(numbers, "_a");
+  numbers["E"] = {InUnits(energy(alternate), Units::Length)};
+  if (IsSection()) {
+    Add({{"E", "W* - W_min + Q² / (2 g A*²)", "{W} - {W_min} + {Q}² / (2 × {g} × {A}²)",
+          [](Numbers n) { return n[0] - n[1] + VelocityHead(n[2], n[3], n[4]); }, UnitKind::Length}},
+        numbers, "_a");
+  } else {
+    Add({{"E", "y* + Q² / (2 g A*²)", "{y} + {Q}² / (2 × {g} × {A}²)",
+          [](Numbers n) { return n[0] + VelocityHead(n[1], n[2], n[3]); }, UnitKind::Length}},
+        numbers, "_a");
+  }
 }
 
 void WorkingWriter::WhatIf() {
@@ -194,7 +242,9 @@ void WorkingWriter::WhatIf() {
       std::string result = "no result";
       try {
         change.Apply(1 + percent / 100);
-        if (SolveChannel()) {
+        if (IsSection() && forFlow && !IsBelowGround(ChannelState.Depth.Number())) {
+          result = "above the section";
+        } else if (SolveChannel()) {
           const EngineValue& value = forFlow ? ChannelState.Flow : ChannelState.Depth;
           if (!value.IsDouble()) {
             result = "Overflow";
@@ -206,7 +256,6 @@ void WorkingWriter::WhatIf() {
           }
         }
       } catch (const EngineFault&) {
-        result = "no result";
       }
       Row({change.Name, percent < 0 ? "- 10 %" : "+ 10 %", result});
     }
@@ -215,7 +264,12 @@ void WorkingWriter::WhatIf() {
 
 void WorkingWriter::Notes() {
   Heading(NotesHeading);
-  for (const Note& note : main_.Notes()) {
-    Say(note.Long + " (" + note.Source + ")");
+  // First those that the status line only counts: they are looked for.
+  for (const bool inVerdict : {false, true}) {
+    for (const Note& note : main_.Notes()) {
+      if (note.Phrase.empty() == inVerdict) continue;
+      lines_.push_back({WorkingLine::Kind::Note,
+                        {inVerdict ? FirstUpper(note.Phrase) : note.Short, note.Long, note.Source}});
+    }
   }
 }

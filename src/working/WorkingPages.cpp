@@ -33,7 +33,7 @@ class Writer {
         if (line.Is == Kind::Head) heads_ = &line;
         TableLine(line);
       } else {
-        Wrapped(line.Text());
+        Wrapped(Printed(line));
       }
     }
   }
@@ -69,6 +69,17 @@ class Writer {
       x += width;
     }
     page_.EndLine();
+  }
+
+  /// A value stays on one line with its unit.
+  static std::string Printed(const WorkingLine& line) {
+    WorkingLine printed = line;
+    if (line.Is != Kind::Result) return line.Text();
+    std::string& value = printed.Parts.back();
+    for (std::size_t at = value.find(' '); at != std::string::npos; at = value.find(' ', at)) {
+      value.replace(at, 1, "\u00A0");
+    }
+    return printed.Text();
   }
 
   /// Breaks between words where the line would pass the margin; the printer condenses what the estimate

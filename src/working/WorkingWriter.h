@@ -41,17 +41,23 @@ class WorkingWriter {
   void UniformFlow();
   void SubsectionTable();
   void DepthSearch();
+  void FlowSearch(double from, double to, const std::string& symbol);
   void CriticalFlow();
   void AddDiameter();
-  void Geometry(double y, const std::string& index, ShownNumbers& numbers);
-  void Residual(const std::string& quantity, double y, double carried, double wanted, double carriedAbove,
+  /// Hydraulic radius and flow.
+  void AddManning(const ShownNumbers& numbers, const std::string& index = "");
+  void SetGeometry(double y, ShownNumbers& numbers) const;
+  void AddGeometry(const ShownNumbers& numbers, const std::string& index = "");
+  void Search(const SearchTrace& trace, const std::string& depth, const std::string& target);
+  void Residual(const std::string& difference, double carried, double wanted, double carriedAbove,
                 UnitKind unit);
-  void Search(const SearchTrace& trace, const std::string& depth, const char* target);
 
   // WorkingMore.cpp
   void OtherDepths();
-  void WaterLevels(const LevelSearch& found, std::optional<std::size_t> shown, const std::string& what,
-                   UnitKind unit, double factor);
+  void PipeCapacity();
+  void SecondDepth();
+  void WaterLevels(const char* what, const LevelSearch& found, std::optional<std::size_t> shown,
+                   const std::string& quantity, UnitKind unit, const std::function<double(double)>& inUnits);
   void MoreResults();
   void AlternateDepth();
   void WhatIf();
@@ -63,18 +69,23 @@ class WorkingWriter {
   /// Water below a depth or a water level (ft), and the flow (ft^3/s) it carries.
   WaterBelow Water(double y) const;
   double Carried(double y) const;
+  double SectionFactorAt(double y) const;
+  double InSectionFactorUnits(double Z) const;
   SearchTrace Trace(double from, double to, double target, const std::function<double(double)>& curve) const;
   /// Depth of the water (ft): of a surveyed section above its lowest point.
   double Depth() const { return found_.Depth - low_; }
 
   double InUnits(double value, int quantity) const;
-  std::string Fine(double feet) const;  ///< a length with the decimals of 1e-6 ft and its unit
+  std::string Fine(double feet, int moreDecimals = 0) const;  ///< with the decimals of 1e-6 ft and its unit
   std::string FineNumber(double feet, int moreDecimals = 0) const;
   std::string WithUnit(double value, UnitKind unit) const;  ///< five digits, from units shown
   void Heading(const std::string& text) { lines_.push_back({WorkingLine::Kind::Heading, {text}}); }
   void Say(const std::string& text) { lines_.push_back({WorkingLine::Kind::Sentence, {text}}); }
-  void Equal(std::vector<std::string> parts) {
-    lines_.push_back({WorkingLine::Kind::Equation, std::move(parts)});
+  void State(std::vector<std::string> parts) {
+    lines_.push_back({WorkingLine::Kind::Fact, std::move(parts)});
+  }
+  void Result(std::vector<std::string> parts) {
+    lines_.push_back({WorkingLine::Kind::Result, std::move(parts)});
   }
   void Heads(std::vector<std::string> cells) {
     lines_.push_back({WorkingLine::Kind::Head, std::move(cells)});

@@ -18,7 +18,9 @@ frmWorking::frmWorking(const frmMain& main) : Form("frmWorking"), main_(main) {
            {mnuPrintPreview, "Print Preview...", &frmWorking::mnuPrintPreview_Click},
            {mnuFileExport, "Export...", &frmWorking::mnuFileExport_Click},
            {mnuFileExit, "Exit", &frmWorking::mnuFileExit_Click},
-           {mnuEditCopy, "Copy All", &frmWorking::mnuEditCopy_Click}}) {
+           {mnuEditCopy, "Copy All", &frmWorking::mnuEditCopy_Click},
+           {mnuEditFind, "Find...", &frmWorking::mnuEditFind_Click},
+           {mnuViewNotes, "Notes", &frmWorking::mnuViewNotes_Click}}) {
     each.Of.Caption = each.Caption;
     each.Of.Click = [this, run = each.Run] { (this->*run)(); };
   }
@@ -40,15 +42,21 @@ void frmWorking::Show() {
 }
 
 void frmWorking::ShowNotes() {
-  if (pgWorking.ScrollView) pgWorking.ScrollView(NotesHeading);
+  if (!NoteCount(main_.Notes()).empty()) mnuViewNotes_Click();
+}
+
+void frmWorking::ComeBack() {
+  TheServices().windows.ShowBeside(*this);
 }
 
 void frmWorking::mnuPrint_Click() {
   Print::ToPrinter(WorkingPages(main_, lines_));
+  ComeBack();
 }
 
 void frmWorking::mnuPrintPreview_Click() {
   Print::ToPreview(WorkingPages(main_, lines_));
+  ComeBack();
 }
 
 void frmWorking::mnuFileExport_Click() {
@@ -59,6 +67,7 @@ void frmWorking::mnuFileExport_Click() {
                      lines_, std::string(Declarations::AppTitle) + " - " + main_.tbProjName.Text.Get());
                return Print::ToPdf(WorkingPages(main_, lines_));
              });
+  ComeBack();
 }
 
 void frmWorking::mnuFileExit_Click() {
@@ -67,4 +76,12 @@ void frmWorking::mnuFileExit_Click() {
 
 void frmWorking::mnuEditCopy_Click() {
   TheServices().clipboard.SetPage(pgWorking.Text, pgWorking.Html);
+}
+
+void frmWorking::mnuEditFind_Click() {
+  if (pgWorking.FindView) pgWorking.FindView();
+}
+
+void frmWorking::mnuViewNotes_Click() {
+  if (pgWorking.ScrollView) pgWorking.ScrollView(NotesHeading);
 }

@@ -12,11 +12,12 @@ class frmWorking : public Form {
 
   MenuItem mnuPrint{this, "mnuPrint"}, mnuPrintPreview{this, "mnuPrintPreview"};
   MenuItem mnuFileExport{this, "mnuFileExport"}, mnuFileExit{this, "mnuFileExit"};
-  MenuItem mnuEditCopy{this, "mnuEditCopy"};
+  MenuItem mnuEditCopy{this, "mnuEditCopy"}, mnuEditFind{this, "mnuEditFind"};
+  MenuItem mnuViewNotes{this, "mnuViewNotes"};
 
   /// Shows the problem in work as it is now; nothing while the window is closed.
   void Follow();
-  /// Brings the notes into sight.
+  /// Brings the notes into sight that the status line of the main window counts, when there are any.
   void ShowNotes();
 
   void mnuPrint_Click();
@@ -26,12 +27,16 @@ class frmWorking : public Form {
   void mnuFileExit_Click();
   /// The whole working, as text and as a web page.
   void mnuEditCopy_Click();
+  void mnuEditFind_Click();
+  void mnuViewNotes_Click();
 
  protected:
   void Form_Load() override;
 
  private:
   void Show();
+  /// A dialog brings the main window, to which it belongs, before this one.
+  void ComeBack();
 
   const frmMain& main_;
   WorkingLines lines_;

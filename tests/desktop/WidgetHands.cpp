@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
 #include <QTextDocumentFragment>
@@ -59,6 +60,13 @@ void ExpectShown(const Control& control, const QObject& view) {
     QString text = view.property(view.inherits("QGroupBox") ? "title" : "text").toString();
     if (Qt::mightBeRichText(text)) text = QTextDocumentFragment::fromHtml(text).toPlainText();  // with links
     EXPECT_EQ(FromQt(text.remove(u'&')), FromQt(Printed(label->Caption.Get()).remove(u'&')));
+  }
+  if (const auto* const page = dynamic_cast<const TextPage*>(&control)) {
+    // But for what the page writes raised, lowered or in cells.
+    const auto bare = [](QString text) {
+      return text.remove(QRegularExpression(QStringLiteral("[\\^().\\s]")));
+    };
+    EXPECT_EQ(FromQt(bare(view.property("plainText").toString())), FromQt(bare(ToQt(page->Text))));
   }
   const bool isChecked = view.property("checked").toBool();
   if (const auto* const item = dynamic_cast<const MenuItem*>(&control)) {

@@ -8,6 +8,8 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTextBlock>
+#include <QTextBrowser>
 #include <QToolBar>
 #include <algorithm>
 #include <map>
@@ -16,6 +18,7 @@
 #include "app/Declarations.h"
 #include "desktop/Desk.h"
 #include "desktop/chart/ChartWidget.h"
+#include "desktop/help/FindBar.h"
 #include "desktop/kit/ScrollPage.h"
 #include "desktop/kit/Text.h"
 #include "desktop/main/ShapeWidget.h"
@@ -38,6 +41,9 @@ class Windows : public Desk {
     EnterTrapezoid();
     hands_.Focus(main_.tbProjName);
     InModal(main_.mnuSolveSection, check);
+    hands_.Click(main_.mnuSolveWorking);
+    check(Working());
+    Working().Unload();
     for (MenuItem* const rating : {&main_.mnuSolveGraph, &main_.mnuSolveTable}) {
       InModal(*rating, [&](Form& settings) {
         check(settings);
@@ -52,6 +58,8 @@ class Windows : public Desk {
       InModal(dynamic_cast<frmIrreg&>(editor).mnuFileImport, check);
     });
   }
+
+  Form& Working() { return *windows_.FormsBeside().back(); }
 
   void InEveryType(const std::function<void()>& check) {
     for (MenuItem* const type : {&main_.mnuOptionsRect, &main_.mnuOptionsTriangular, &main_.mnuOptionsTrap,
@@ -72,6 +80,7 @@ bool IsHandle(const QObject& object) {
            qobject_cast<QLineEdit*>(action->parent()) == nullptr &&
            dynamic_cast<ChartWidget*>(action->parent()) == nullptr;
   }
+  if (dynamic_cast<FindBar*>(object.parent()) != nullptr) return false;
   const auto is = [&object](const char* kind) { return object.inherits(kind); };
   return is("QLineEdit") || is("QListWidget") || is("QComboBox") || is("QTableView") ||
          (is("QAbstractButton") && !is("QToolButton") && !is("QTableCornerButton"));
@@ -239,6 +248,7 @@ TEST_F(Windows, TabGoesInReadingOrder) {
       {"frmGraph", "MSChart1"},
       {"frmTableSettings", "cbxVary tbMin tbMax tbIncrement cmdOK cmdCancel"},
       {"frmTable", "MSFlexGrid1"},
+      {"frmWorking", "pgWorking"},
       {"frmIrreg", "MSFlexGrid1 cmdCopy cmdPaste cmdIns cmdDel cmdMannParams MSChart1 cmdOK cmdCancel"},
       {"frmImport",
        "MSFlexGrid1 cbxSeparator cbxSign cbxStation cbxElevation cbxRoughness cbxUnit MSChart1 chkChange_0 "
@@ -422,6 +432,29 @@ TEST_F(Windows, EscapeClosesAllButTheFirst) {
     Press("Esc");
     EXPECT_FALSE(form.IsLoaded()) << form.Name();
   });
+}
+
+TEST_F(Windows, KeysReadTheWorkingFromTheNotesOn) {
+  EnterPipe("36", "2.9");
+  Press("F8");
+  const QTextBrowser& page = hands_.Of<QTextBrowser>(*Working().Find("pgWorking"));
+  const auto line = [&page] { return page.textCursor().block().text().toStdString(); };
+  EXPECT_EQ(line(), "Notes");
+  Press("Down");
+  EXPECT_THAT(line(), testing::StartsWith("Two depths carry this flow: 2.900 ft, in the box"));
+  hands_.Window(main_);
+  hands_.Type(main_.tbDepth, "2.95");
+  EXPECT_THAT(line(), testing::StartsWith("Two depths carry this flow: 2.950 ft, in the box"));
+  hands_.Window(Working());
+  Press("Ctrl+F");
+  Keys("Reynolds");
+  EXPECT_THAT(line(), testing::StartsWith("Reynolds number Re = V R"));
+  Press("Esc");
+  EXPECT_TRUE(Working().IsLoaded());
+  Press("F8");
+  EXPECT_EQ(line(), "Notes");
+  Press("Esc");
+  EXPECT_FALSE(Working().IsLoaded());
 }
 
 TEST_F(Windows, TheAboutBoxHasLinks) {

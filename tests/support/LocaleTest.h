@@ -13,7 +13,7 @@ inline void PrintTo(const NumberLocale& locale, std::ostream* out) {
 }
 
 /// With the signs of the locale for "." and "," that stand beside a digit, and for a "." that is quoted;
-/// lists of fixed texts keep theirs.
+/// lists of fixed texts keep theirs, and a line the full stop at its end.
 inline std::string Respelled(const NumberLocale& locale, const std::string& text) {
   const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
   std::string respelled;
@@ -21,7 +21,8 @@ inline std::string Respelled(const NumberLocale& locale, const std::string& text
     const char before = i > 0 ? text[i - 1] : ' ';
     const char after = i + 1 < text.size() ? text[i + 1] : ' ';
     const bool inNumber = isDigit(before) || isDigit(after);
-    if (text[i] == '.' && (inNumber || (before == '\'' && after == '\''))) {
+    if (text[i] == '.' &&
+        ((inNumber && after != '\\' && after != '\t') || (before == '\'' && after == '\''))) {
       respelled += locale.DecimalSign;
     } else if (text[i] == ',' && inNumber && after != ' ') {
       respelled += locale.GroupSeparator;

@@ -8,4 +8,7 @@ class WorkingView : public FormWindow {
  public:
   /// Belongs to no other window, so that neither keeps the other from sight.
   WorkingView(frmWorking& form, QWidget* parent);
+
+ private:
+  void LeaveInputsInSight();
 };
