@@ -7,7 +7,6 @@
 #include "desktop/chart/ChartPlot.h"
 #include "desktop/chart/ChartWidget.h"
 #include "desktop/kit/Appearance.h"
-#include "desktop/main/ShapeWidget.h"
 #include "section/frmSection.h"
 
 namespace {
@@ -37,20 +36,6 @@ class Section : public Desk {
   XYChart* drawn_ = nullptr;
   ChartWidget* chart_ = nullptr;
 };
-
-TEST_F(Section, TheDrawingBesideTheInputsFollowsASwitchOfUnits) {
-  EnterSection({{"0", "110", "0.03"}, {"10", "100", ""}, {"20", "110", ""}}, "105");
-  const auto widgets = hands_.Window(main_).findChildren<QWidget*>();
-  QWidget* const drawing = *std::ranges::find_if(
-      widgets, [](QWidget* each) { return dynamic_cast<ShapeWidget*>(each) != nullptr; });
-  for (MenuItem* const units : {&main_.mnuOptionsUnitsMetric, &main_.mnuOptionsUnitsEnglish}) {
-    hands_.Click(*units);
-    const QImage shown = drawing->grab().toImage();
-    QEvent activated(QEvent::WindowActivate);
-    QApplication::sendEvent(drawing, &activated);
-    EXPECT_EQ(shown, drawing->grab().toImage());
-  }
-}
 
 TEST_F(Section, WaterStandsBetweenGroundAndLevel) {
   // Two pools; the second one reaches the last station.
