@@ -85,6 +85,9 @@ TEST_P(PointEditor, WhatDoesNotFitOrHasAHeadGoesThroughTheImportDialog) {
     EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "The text on the clipboard is too long for the table.");
     fakes_.messageBox.Boxes.clear();
   }
+  editor_.StartCellEdit();
+  editor_.tbSel.Paste(std::string(100'001, '7'));
+  EXPECT_EQ(fakes_.messageBox.Boxes.at(0).Text, "The text on the clipboard is too long for a box.");
 }
 
 TEST_P(PointEditor, ASignThatLooksLikeThousandsIsAskedAbout) {

@@ -111,6 +111,7 @@ TEST_P(UnitSwitch, APointThatTheEditorRefusesComputesNothingAndIsNamed) {
     EXPECT_EQ(Text(Main.tbArea), "");
   };
   expect({"x", "0", ""}, "Point 2: Station must be a number");
+  expect({"1e999", "0", ""}, "Point 2: Station is too large a number");
   expect({"0", "0", ""}, "Point 2: Station must be greater than the one before");
   expect({"20", "0", ""}, "Point 3: Station must be greater than the one before");
   expect({"10", "", ""}, "Point 2: Elevation must be a number");

@@ -135,6 +135,8 @@ TEST_F(Rating, WhatCannotBeUsedIsToldAndEnterDoesNotTakeIt) {
     EXPECT_TRUE(canUndo());
     hands_.Pick(form.cbxVary, 1);
     EXPECT_FALSE(canUndo()) << "to the numbers of another input";
+    form.tbMax.Paste(std::string(TextBox::LongestText + 1, '9'));
+    EXPECT_EQ(form.tbMax.ToolTip.Get(), "The text on the clipboard is too long for a box");
     Press("Esc");
     EXPECT_FALSE(form.IsLoaded());
   });
