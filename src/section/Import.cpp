@@ -88,9 +88,12 @@ Section Import::Chosen(const Watch& watch) const {
 }
 
 std::optional<Change> Import::ColumnsChange() {
-  const bool twoOrders = byPlace_.Find(Role::Elevation) && byHead_.Find(Role::Station) &&
-                         byHead_.Find(Role::Elevation) && byHead_ != byPlace_;
-  if (!sections_.empty() || !twoOrders) return std::nullopt;
+  bool twoOrders = false;  // a column without numbers has no place
+  for (std::size_t i = 0; i < byPlace_.Roles.size(); ++i)
+    twoOrders = twoOrders || (byPlace_.Roles[i] != Role::Ignored && byPlace_.Roles[i] != byHead_.Roles[i]);
+  const bool twoSections =
+      byPlace_.Find(Role::Elevation) && byHead_.Find(Role::Station) && byHead_.Find(Role::Elevation);
+  if (!sections_.empty() || !twoOrders || !twoSections) return std::nullopt;
   const Curve after = CurveOf(before_);
   Curve byPlace;
   try {

@@ -43,13 +43,14 @@ constexpr std::array<const char*, Survey::KindCount> Offers = {
 /// "+2.1 %"
 std::string Percent(double share) {
   constexpr double least = 0.0005;  // shown as 0.0 otherwise
-  if (share == 0) return "unchanged";
+  constexpr double noise = 1e-9;    // of rounding
+  if (std::abs(share) < noise) return "unchanged";
   if (std::abs(share) < least) return "changed by less than " + FixedFormat(0.1, 1, 1).Text() + " %";
   return (share > 0 ? "+" : "") + FixedFormat(share, 100, 1).Text() + " %";
 }
 
 std::string EffectText(const Survey::Effect& effect) {
-  if (!effect.Area) return "Before it there is neither area nor flow.";
+  if (!effect.Area) return "Without this change there is neither area nor flow.";
   const std::string area = "Area " + Percent(*effect.Area);
   if (!effect.Flow) return area + ", no flow without n.";
   return area + ", flow " + Percent(*effect.Flow) +
@@ -126,10 +127,10 @@ void frmImport::ShowRead() {
   std::vector<std::vector<std::string>> rows;
   const Survey::Sheet& sheet = import_.TheSheet();
   const std::size_t columns = import_.Sections().empty() ? sheet.Columns : 2;
-  rows.push_back({"Line"});
+  rows.push_back({""});
   for (std::size_t i = 0; i < columns; ++i) rows[0].push_back(ColumnName(i));
   const auto add = [&](std::size_t line, auto field) {
-    rows.push_back({std::to_string(line)});
+    rows.push_back({"Line " + std::to_string(line)});
     for (std::size_t i = 0; i < columns; ++i) rows.back().push_back(std::string(field(i)));
   };
   if (import_.Sections().empty()) {
@@ -143,10 +144,13 @@ void frmImport::ShowRead() {
       add(point.Line, [&](std::size_t i) { return i == 0 ? point.X.Typed : point.Z.Typed; });
     }
   }
-  MSFlexGrid1.ColWidths = std::vector<int>(columns + 1, ColumnWidth);
+  std::vector<int> widths(columns + 1, ColumnWidth);
+  widths[0] = 0;  // as wide as its texts
+  MSFlexGrid1.ColWidths = std::move(widths);
   MSFlexGrid1.Load(std::move(rows), static_cast<int>(columns) + 1);
   const std::size_t count = import_.Sections().empty() ? sheet.Rows.size() : import_.Before().size();
-  const std::string shown = count > PreviewRows ? ", the first " + std::to_string(PreviewRows) : "";
+  const std::string shown =
+      count > PreviewRows ? ", of which the first " + std::to_string(PreviewRows) + " are shown" : "";
   lblRead.Caption = "What was read: " + Survey::Counted(count, "row") + shown;
   std::string notes;
   for (const std::string& note : import_.Notes()) notes += (notes.empty() ? "" : "\n") + note;

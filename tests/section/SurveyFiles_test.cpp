@@ -194,6 +194,7 @@ TEST_P(SurveyFiles, WhatThePersonChoosesIsDone) {
   front.ChooseFrontN(Number{0.08, {}});
   EXPECT_EQ(Points(front.Result()) + front.Result().Reason, "0 10 0.08, 5 4 0.03, 15 4, 20 10");
   EXPECT_EQ(Listed(front.Result()), "front");
+  EXPECT_EQ(Listed(ReadText("Station,Elevation,n\n0,5,\n9,5,\n").Result()), "") << "no order is changed";
   Import blanks = Read("blanks.txt");
   blanks.ChooseSeparator(',');
   EXPECT_EQ(blanks.Result().Reason, "No column is known as the elevation: choose it in the lists.");

@@ -6,9 +6,11 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
-#include <QSplitter>
+#include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/chart/ChartPlot.h"
 #include "desktop/chart/ChartWidget.h"
@@ -23,6 +25,19 @@ QLabel* Wrapped(Label& label, QWidget* parent) {
   text->setWordWrap(true);
   return text;
 }
+
+/// What was read, as wide as its columns where the screen has room.
+class ReadTable : public GridTable {
+ public:
+  ReadTable(FlexGrid& grid, QWidget* parent) : GridTable(grid, parent) {
+    connect(model(), &QAbstractItemModel::modelReset, this, [this] { updateGeometry(); });
+  }
+  QSize sizeHint() const override {
+    const int columns = verticalHeader()->width() + horizontalHeader()->length() +
+                        verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    return {std::min(columns, 30 * fontMetrics().height()), 8 * fontMetrics().height()};
+  }
+};
 
 /// A caption with its list or box beside it.
 struct Choice {
@@ -73,7 +88,7 @@ QWidget* ImportView::ReadPart(frmImport& form) {
   auto* const column = new QVBoxLayout(part);
   column->setContentsMargins({});
   column->addWidget(Wrapped(form.lblRead, part));
-  GridTable* const table = Bind::Adopt(form.MSFlexGrid1, new GridTable(form.MSFlexGrid1, part));
+  GridTable* const table = Bind::Adopt(form.MSFlexGrid1, new ReadTable(form.MSFlexGrid1, part));
   table->setAccessibleName(tr("What was read"));
   table->setMinimumSize(QSize(17, 8) * fontMetrics().height());
   column->addWidget(table, 1);
@@ -93,9 +108,9 @@ QWidget* ImportView::ReadPart(frmImport& form) {
 QWidget* ImportView::DrawingPart(frmImport& form) {
   ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, this));
   chart->SetTexts(tr("Nothing can be drawn yet."), {});
-  chart->Dress([](ChartPlot& plot) { plot.NameLines({tr("As read"), tr("As imported")}); });
+  chart->Dress([](ChartPlot& plot) { plot.NameLines({tr("Before"), tr("After")}); });
   chart->LogarithmicAction()->setEnabled(false);
-  chart->Plot().setMinimumSize(QSize(19, 14) * fontMetrics().height());
+  chart->Plot().setMinimumSize(QSize(14, 11) * fontMetrics().height());
   return chart;
 }
 
