@@ -1,7 +1,8 @@
 // What one keystroke costs beside the engine: parse and check the inputs, solve for the depth, format ten
-// boxes.
+// boxes, form the notes, and the working where its window is open.
 #include <benchmark/benchmark.h>
 
+#include "RatingProblems.h"
 #include "engine/ChannelState.h"
 #include "engine/SolveChannel.h"
 #include "program/Program.h"
@@ -42,6 +43,22 @@ void Keystroke(benchmark::State& state) {
   }
 }
 BENCHMARK(Keystroke);
+
+/// Argument 1: with the window of the working open.
+void KeystrokeOn100Points(benchmark::State& state) {
+  Window window;
+  RatingProblems::Valley();
+  ChannelState.IrregPoints = ChannelState.IrregEnginePoints;  // in feet, both
+  window.Main.mnuOptionsIrreg_Click();
+  window.Main.tbSlope.Text = "0.001";
+  if (state.range(0) == 1) window.Main.mnuSolveWorking.Click();
+  bool longer = false;
+  for (auto _ : state) {
+    longer = !longer;
+    window.Main.tbFlow.Text = longer ? "4000" : "400";
+  }
+}
+BENCHMARK(KeystrokeOn100Points)->Arg(0)->Arg(1);
 
 void TrapezoidOperation(benchmark::State& state) {
   const Window window;  // leaves the inputs in the record

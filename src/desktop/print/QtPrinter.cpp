@@ -19,6 +19,7 @@
 #include <QTextLayout>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <cmath>
 
 #include "app/Declarations.h"
@@ -216,12 +217,16 @@ Printer* QtPrinterDialog::Choose(const PrintRequest& request) {
   dialog.setWindowTitle(ToQt(request.Title));
   dialog.setWindowModality(Qt::WindowModal);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-  auto* const option = new QCheckBox(ToQt(request.Option), &dialog);
+  auto* const page = new QWidget(&dialog);
+  page->setWindowTitle(QObject::tr("Report"));
+  page->hide();  // until it is turned to
+  auto* const option = new QCheckBox(ToQt(request.Option), page);
   option->setObjectName(QStringLiteral("option"));
-  option->setWindowTitle(QObject::tr("Report"));
   option->setChecked(optionChosen_);
-  if (!request.Option.empty()) dialog.setOptionTabs({option});
-  option->setVisible(!request.Option.empty());
+  auto* const column = new QVBoxLayout(page);
+  column->addWidget(option);
+  column->addStretch();
+  if (!request.Option.empty()) dialog.setOptionTabs({page});
   if (dialog.exec() != QDialog::Accepted) return nullptr;
   if (!request.Option.empty()) optionChosen_ = option->isChecked();
   return &printer_.emplace(device, device.outputFileName());

@@ -2,6 +2,7 @@
 // document that fails or is cancelled.
 #include <sys/resource.h>
 
+#include <QCheckBox>
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
@@ -11,6 +12,7 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTabWidget>
 #include <csignal>
 #include <utility>
 
@@ -249,10 +251,19 @@ TEST_F(Printing, TheDialogProposesWhatThePagesLookBestIn) {
   WhenOpen<QPrintDialog>([this](QPrintDialog& dialog) {
     EXPECT_EQ(dialog.printer()->pageLayout().orientation(), QPageLayout::Portrait);
     dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(file_);
+    auto* const option = dialog.findChild<QCheckBox*>(QStringLiteral("option"));
+    auto* const page = option->parentWidget();
+    auto* const pages = dynamic_cast<QTabWidget*>(page->parentWidget()->parentWidget());
+    ASSERT_NE(pages, nullptr);
+    EXPECT_FALSE(page->isVisibleTo(pages)) << "on the page before it";
+    pages->setCurrentWidget(page);
+    EXPECT_TRUE(page->isVisibleTo(pages));
+    option->click();
     dialog.accept();
   });
-  Printer* const printer = dialogs.Choose({"Print", false});
+  Printer* const printer = dialogs.Choose({"Print", false, "With the working"});
   ASSERT_NE(printer, nullptr);
+  EXPECT_TRUE(dialogs.IsOptionChosen());
   Print::Report(main_).Write(*printer);
   EXPECT_EQ(Pages(), 1);
 }
