@@ -3,6 +3,7 @@
 
 #include "app/Declarations.h"
 #include "app/main/frmDigits.h"
+#include "app/main/frmFind.h"
 #include "app/main/frmMannParam.h"
 #include "app/settings/InitialFile.h"
 #include "help/HTMLHelp.h"
@@ -59,6 +60,9 @@ void Program::OpenTable() {
 void Program::OpenWorking() {
   TheServices().windows.ShowBeside(working_);
   working_.ShowNotes();
+}
+void Program::OpenFind() {
+  ShowModal<frmFind>(Main);
 }
 void Program::FollowAnswer() {
   working_.Follow();

@@ -28,6 +28,7 @@ class Program : private SubWindows {
   void OpenGraph() override;
   void OpenTable() override;
   void OpenWorking() override;
+  void OpenFind() override;
   void FollowAnswer() override;
   void CopyResults() override;
   void PrintReport() override;

@@ -41,6 +41,7 @@ class Windows : public Desk {
     EnterTrapezoid();
     hands_.Focus(main_.tbProjName);
     InModal(main_.mnuSolveSection, check);
+    InModal(main_.mnuSolveFind, check);
     hands_.Click(main_.mnuSolveWorking);
     check(Working());
     Working().Unload();
@@ -241,6 +242,7 @@ TEST_F(Windows, TabGoesInReadingOrder) {
        "tbProjName tbFlow tbDepth tbSlope tbMann cmdMannParams tbBaseWidth tbSSL tbSSR "
        "tbVelocity tbVelHead tbArea tbWP tbHRad tbTopW tbFroude tbCritD tbCritS"},
       {"frmDigits", "optSigDigs_3 optEngDigs_3 cmdOK cmdCancel"},
+      {"frmFind", "cbxFind tbFlow tbDepth tbFound cmdOK cmdCancel"},
       {"frmMannParam", "lstMannParam cmdOK cmdCancel"},
       {"frmAbout", "cmdOK lblPurpose lblLicence lblLibraries"},
       {"frmSection", "MSChart1"},

@@ -121,6 +121,7 @@ MAIN = "Flumewise - lined-canal"
 # from the main window, in turn: the keys that open a window, its title, its charts and tables
 WINDOWS = (
     (("alt+o", "d"), "Digits"),
+    (("F7",), "Find Input"),
     (("alt+t",), "Manning"),
     (("alt+s", "c"), "Flumewise - T", "chart"),
     (("alt+s", "g"), "Rating Graph"),

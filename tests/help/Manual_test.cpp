@@ -61,7 +61,7 @@ TEST_P(ManualAndProgram, EveryWindowHasItsPageAndEveryControlItsExplanation) {
   OpenExample("stream-overbanks.fwd");
   for (HasClick* const command : std::initializer_list<HasClick*>{
            &Main.mnuSolveGraph, &Main.mnuSolveTable, &Main.mnuSolveSection, &Main.mnuOptionsDigits,
-           &Main.mnuHelpAbout, &Main.cmdIrreg, &Main.cmdMannParams}) {
+           &Main.mnuSolveFind, &Main.mnuHelpAbout, &Main.cmdIrreg, &Main.cmdMannParams}) {
     Screen.Then(visit);
     command->Click();
   }

@@ -11,6 +11,7 @@ class SubWindows {
   virtual void OpenGraph() = 0;
   virtual void OpenTable() = 0;
   virtual void OpenWorking() = 0;
+  virtual void OpenFind() = 0;
   /// The inputs were judged anew: what shows the answer beside the main window follows.
   virtual void FollowAnswer() = 0;
   virtual void CopyResults() = 0;

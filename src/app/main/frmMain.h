@@ -83,7 +83,8 @@ class frmMain : public Form {
       mnuEditCopyFull{this, "mnuEditCopyFull"}, mnuEditCopyResults{this, "mnuEditCopyResults"};
   MenuItem mnuSolveForFlow{this, "mnuSolveForFlow"}, mnuSolveForDepth{this, "mnuSolveForDepth"},
       mnuSolveGraph{this, "mnuSolveGraph"}, mnuSolveTable{this, "mnuSolveTable"},
-      mnuSolveSection{this, "mnuSolveSection"}, mnuSolveWorking{this, "mnuSolveWorking"};
+      mnuSolveSection{this, "mnuSolveSection"}, mnuSolveWorking{this, "mnuSolveWorking"},
+      mnuSolveFind{this, "mnuSolveFind"};
   MenuItem mnuOptionsRect{this, "mnuOptionsRect"}, mnuOptionsTriangular{this, "mnuOptionsTriangular"},
       mnuOptionsTrap{this, "mnuOptionsTrap"}, mnuOptionsCircular{this, "mnuOptionsCircular"},
       mnuOptionsIrreg{this, "mnuOptionsIrreg"}, mnuOptionsUnitsEnglish{this, "mnuOptionsUnitsEnglish"},
@@ -187,6 +188,7 @@ class frmMain : public Form {
   void mnuSolveTable_Click();
   void mnuSolveSection_Click();
   void mnuSolveWorking_Click();
+  void mnuSolveFind_Click();
   void mnuHelpContents_Click();
   void mnuHelpIndex_Click();
   void mnuHelpAbout_Click();

@@ -102,6 +102,9 @@ void frmMain::mnuSolveSection_Click() {
 void frmMain::mnuSolveWorking_Click() {
   windows_.OpenWorking();
 }
+void frmMain::mnuSolveFind_Click() {
+  windows_.OpenFind();
+}
 void frmMain::cmdIrreg_Click() {
   const PointTable before = ChannelState.IrregPoints;
   windows_.OpenIrreg();

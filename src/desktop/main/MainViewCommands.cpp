@@ -112,7 +112,8 @@ void MainView::AddMenus() {
             {&frmMain::mnuSolveGraph, "g", Qt::CTRL | Qt::Key_G},
             {&frmMain::mnuSolveTable, "t", Qt::CTRL | Qt::Key_T},
             {&frmMain::mnuSolveSection, "c", Qt::CTRL | Qt::Key_E},
-            {&frmMain::mnuSolveWorking, "w", Qt::Key_F8}});
+            {&frmMain::mnuSolveWorking, "w", Qt::Key_F8},
+            {&frmMain::mnuSolveFind, "i", Qt::Key_F7}});
   std::vector<ItemRow> options;
   for (const ChannelType& type : AllChannelTypes()) {
     const auto number = static_cast<int>(options.size());

@@ -12,6 +12,7 @@
 #include "desktop/kit/Text.h"
 #include "desktop/kit/WindowPlace.h"
 #include "desktop/main/DigitsView.h"
+#include "desktop/main/FindView.h"
 #include "desktop/main/MainView.h"
 #include "desktop/main/MannParamView.h"
 #include "desktop/rating/GraphSettingsView.h"
@@ -54,7 +55,8 @@ QWidget* MakeView(Form& form) {
       Make<frmGraph, GraphView>,         Make<frmTableSettings, TableSettingsView>,
       Make<frmTable, TableView>,         Make<frmIrreg, IrregView>,
       Make<frmSection, SectionView>,     Make<frmImport, ImportView>,
-      Make<frmWorking, WorkingView>,     Make<frmAbout, AboutView>};
+      Make<frmFind, FindView>,           Make<frmWorking, WorkingView>,
+      Make<frmAbout, AboutView>};
   for (const auto make : Makers) {
     if (QWidget* const view = make(form)) return view;
   }
