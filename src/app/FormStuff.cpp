@@ -54,7 +54,10 @@ void SelectAllText(TextBox& box) {
 }
 
 std::string AddLeadingZero(const TextBox& box) {
-  const std::string& text = box.Text;
+  return AddLeadingZero(box.Text.Get());
+}
+
+std::string AddLeadingZero(const std::string& text) {
   if (!text.starts_with(CurrentNumberLocale().DecimalSign)) return text;
   const std::optional<double> number = NumericValue(text);
   return number && *number >= 0 && *number < 1 ? "0" + text : text;

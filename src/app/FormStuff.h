@@ -38,5 +38,6 @@ void SelectAllText(TextBox& box);
 
 /// The box's text, with "0" in front of a number from 0 to 1 that starts with the decimal sign.
 std::string AddLeadingZero(const TextBox& box);
+std::string AddLeadingZero(const std::string& text);
 
 }  // namespace FormStuff

@@ -34,11 +34,6 @@ size_t BlankLength(std::string_view text) {
   return found == std::end(blanks) ? 0 : found->size();
 }
 
-std::string_view WithoutLeadingBlanks(std::string_view text) {
-  while (const size_t length = BlankLength(text)) text.remove_prefix(length);
-  return text;
-}
-
 size_t DigitsFrom(std::string_view text, size_t start) {
   size_t end = start;
   while (end < text.size() && IsDigit(text[end])) ++end;
@@ -167,6 +162,11 @@ std::size_t GroupSeparatorLength(std::string_view text, const NumberLocale& loca
   return found == std::end(spaces) ? 0 : found->size();
 }
 
+std::string_view WithoutLeadingBlanks(std::string_view text) {
+  while (const size_t length = BlankLength(text)) text.remove_prefix(length);
+  return text;
+}
+
 std::optional<double> NumericValue(std::string_view text) {
   return NumericValue(text, Locale());
 }
@@ -186,6 +186,12 @@ bool IsNumeric(std::string_view text) {
 
 double LeadingNumber(std::string_view text) {
   return Value(Scan(WithoutLeadingBlanks(text), Locale())).value_or(0);
+}
+
+std::size_t LeadingNumberLength(std::string_view text) {
+  const std::string_view number = WithoutLeadingBlanks(text);
+  const size_t length = Scan(number, Locale()).end;
+  return length == 0 ? 0 : text.size() - number.size() + length;
 }
 
 double Val(std::string_view text) {

@@ -22,6 +22,9 @@ const NumberLocale& CurrentNumberLocale();
 // does a plain blank.
 std::size_t GroupSeparatorLength(std::string_view text, const NumberLocale& locale);
 
+// The text from its first character that is no blank, TAB or no-break space on.
+std::string_view WithoutLeadingBlanks(std::string_view text);
+
 // True when the whole text is one number: blanks, TABs and no-break spaces around it, one sign in front,
 // plain digits or proper groups of three, the decimal sign, an exponent. False for a value too large for a
 // double.
@@ -37,6 +40,9 @@ bool IsTooLarge(std::string_view text);
 // The value of the longest leading part of the text that is a number; 0 where there is none or where the
 // value is too large for a double.
 double LeadingNumber(std::string_view text);
+
+// The length of that part with the blanks before it; 0 where there is none.
+std::size_t LeadingNumberLength(std::string_view text);
 
 // The leading number of an item of the project file, for its checksum: independent of the locale, "." only,
 // no groups. Blanks, TABs and line feeds are dropped first; D is an exponent letter as E is; &H and &O start

@@ -128,6 +128,12 @@ class TextBox : public FocusControl {
     if (ForgetEditsView) ForgetEditsView();
   }
   std::function<void()> ForgetEditsView;  // set by the view
+  /// Takes the last edit of the text back, or makes it again; false when there is none.
+  bool Undo() { return UndoView && UndoView(); }
+  bool Redo() { return RedoView && RedoView(); }
+  std::function<bool()> UndoView, RedoView;  // set by the view
+  /// The keys for undo and redo belong to the menu of the window, which asks the box first.
+  bool UndoneByMenu = false;
   void SelectAll();
 
   // Colours as blue-green-red bytes; a view maps them to the roles of its palette.

@@ -30,7 +30,7 @@ keys alt+o p
 keys alt+w && typed 400
 keys alt+p && typed .0016
 keys alt+m && typed .025
-keys alt+b && typed 20
+keys alt+b && typed '240 in'
 keys alt+l && typed 2
 keys alt+r && typed 2
 expect alt+d 3.361 "normal depth"
@@ -80,10 +80,12 @@ keys alt+w && typed 55
 keys alt+p alt+w && keys alt+e d && typed 6
 expect alt+w 6 "the flow after Delete in the menu"
 
-# Another type ends what can be undone. Enter goes down a column; Shift+Enter up.
+# Another type is one step back and forth. Enter goes down a column; Shift+Enter up.
 keys alt+o i
 keys alt+w ctrl+z
+expect alt+b 20.00 "the base width of the type before"
 expect alt+w 6 "the flow after Undo"
+keys alt+w ctrl+y
 keys alt+i
 sleep 0.5
 typed 0 && keys Return && typed 25 && keys Return && typed 60 && keys shift+Return

@@ -9,6 +9,7 @@
 namespace {
 
 using FormStuff::Range;
+using TypedUnits::Kind;
 
 constexpr Range Positive{0.0, false, {}, false};
 constexpr Range NotNegative{0.0, true, {}, false};
@@ -34,6 +35,7 @@ constexpr Field Rows[] = {
      .Solve = {&frmMain::optFlow, &frmMain::mnuSolveForFlow},
      .Cell = &ChannelRecord::Flow,
      .Quantity = Units::Flow,
+     .Typed = Kind::Flow,
      .Result = ResultWhen::SolvedForFlow,
      .Bounds = Positive,
      .FileItem = 0,
@@ -50,6 +52,7 @@ constexpr Field Rows[] = {
      .Solve = {&frmMain::optDepth, &frmMain::mnuSolveForDepth},
      .Cell = &ChannelRecord::Depth,
      .Quantity = Units::Length,
+     .Typed = Kind::Length,
      .FixedDecimals = true,
      .Result = ResultWhen::SolvedForDepth,
      .Bounds = Positive,
@@ -67,6 +70,7 @@ constexpr Field Rows[] = {
      .Mnemonic = "p",
      .Cell = &ChannelRecord::Slope,
      .Quantity = Units::Slope,
+     .Typed = Kind::Slope,
      .Bounds = BelowOne,
      .FileItem = 3,
      .ReportLine = 2,
@@ -100,6 +104,7 @@ constexpr Field Rows[] = {
      .Mnemonic = "a",
      .Cell = &ChannelRecord::Diameter,
      .Quantity = Units::Diameter,
+     .Typed = Kind::Length,
      .Bounds = Positive,
      .FileItem = 4,
      .ReportLine = 4,
@@ -115,6 +120,7 @@ constexpr Field Rows[] = {
      .Cell = &ChannelRecord::BaseWidth,
      .Quantity = Units::Length,
      .PageQuantity = Units::BaseWidth,
+     .Typed = Kind::Length,
      .Bounds = NotNegative,
      .FileItem = 5,
      .ReportLine = 5,
@@ -129,6 +135,7 @@ constexpr Field Rows[] = {
      .Mnemonic = "l",
      .Suffix = ":1",
      .Cell = &ChannelRecord::SideSlopeLeft,
+     .Typed = Kind::SideSlope,
      .Bounds = NotNegative,
      .KeptByNew = true,
      .FileItem = 7,
@@ -140,6 +147,7 @@ constexpr Field Rows[] = {
      .Mnemonic = "r",
      .Suffix = ":1",
      .Cell = &ChannelRecord::SideSlopeRight,
+     .Typed = Kind::SideSlope,
      .Bounds = NotNegative,
      .KeptByNew = true,
      .FileItem = 6,

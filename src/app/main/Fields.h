@@ -7,6 +7,7 @@
 
 #include "app/FormStuff.h"
 #include "app/Units.h"
+#include "app/main/TypedUnits.h"
 #include "engine/ChannelState.h"
 #include "platform/Controls.h"
 
@@ -47,9 +48,10 @@ struct Field {
   SolveSwitch Solve = {};
 
   EngineValue ChannelRecord::*Cell = nullptr;
-  int Quantity = Units::Dimensionless;  ///< row of the unit table for the box
-  int PageQuantity = Quantity;          ///< and on pages, in rating tables and graphs
-  bool FixedDecimals = false;           ///< shown with decimals, not with significant digits
+  int Quantity = Units::Dimensionless;               ///< row of the unit table for the box
+  int PageQuantity = Quantity;                       ///< and on pages, in rating tables and graphs
+  TypedUnits::Kind Typed = TypedUnits::Kind::Plain;  ///< the units that may be typed behind the number
+  bool FixedDecimals = false;                        ///< shown with decimals, not with significant digits
   ResultWhen Result = ResultWhen::Never;
 
   FormStuff::Range Bounds = {};  ///< of an input

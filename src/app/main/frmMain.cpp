@@ -33,6 +33,8 @@ void frmMain::CaptionControls() {
                                                       {mnuEditCopy, "Copy"},
                                                       {mnuEditPaste, "Paste"},
                                                       {mnuEditDelete, "Delete"},
+                                                      {mnuEditUndo, "Undo"},
+                                                      {mnuEditRedo, "Redo"},
                                                       {mnuEditSelectAll, "Select All"},
                                                       {mnuEditCopyWithUnit, "Copy with Unit"},
                                                       {mnuEditCopyFull, "Copy in Full Precision"},
@@ -78,6 +80,9 @@ void frmMain::JoinInputs() {
     box.Validate = [this, &box] {
       if (!box.Locked) Input_Validate();
     };
+    box.KeyDown = [this, &field, &box](int keyCode, Keys::Modifier with) {
+      return !box.Locked && with == Keys::Modifier::None && Input_KeyDown(field, keyCode);
+    };
   }
   tbProjName.Change = [this] {
     Declarations::DataChanged = true;
@@ -85,7 +90,9 @@ void frmMain::JoinInputs() {
   };
   for (Control* const control : Controls()) {
     auto* const box = dynamic_cast<TextBox*>(control);
-    if (box != nullptr) box->TooLong = [this] { TellFailure(FormStuff::TooLongForBox); };
+    if (box == nullptr) continue;
+    box->TooLong = [this] { TellFailure(FormStuff::TooLongForBox); };
+    box->UndoneByMenu = true;
   }
 }
 
@@ -111,6 +118,8 @@ void frmMain::JoinCommands() {
                                       {mnuEditCopy, &frmMain::mnuEditCopy_Click},
                                       {mnuEditPaste, &frmMain::mnuEditPaste_Click},
                                       {mnuEditDelete, &frmMain::mnuEditDelete_Click},
+                                      {mnuEditUndo, &frmMain::mnuEditUndo_Click},
+                                      {mnuEditRedo, &frmMain::mnuEditRedo_Click},
                                       {mnuEditSelectAll, &frmMain::mnuEditSelectAll_Click},
                                       {mnuEditCopyWithUnit, &frmMain::mnuEditCopyWithUnit_Click},
                                       {mnuEditCopyFull, &frmMain::mnuEditCopyFull_Click},
@@ -141,10 +150,10 @@ void frmMain::JoinCommands() {
     mnuFileRecent[i].Click = [this, i] { OpenInstead(recentShown_.at(static_cast<std::size_t>(i - 1))); };
   }
   for (const ChannelType& type : AllChannelTypes()) {
-    (this->*type.Item).Click = [this, &type] { SelectChannelType(type); };
+    (this->*type.Item).Click = [this, &type] { OneStep([&] { SelectChannelType(type); }); };
   }
   for (const UnitSystem& system : AllUnitSystems()) {
-    (this->*system.Item).Click = [this, units = system.Units] { SelectUnits(units); };
+    (this->*system.Item).Click = [this, units = system.Units] { OneStep([&] { SelectUnits(units); }); };
   }
 }
 

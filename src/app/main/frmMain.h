@@ -6,12 +6,15 @@
 #include <exception>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "app/main/StatusLine.h"
 #include "app/main/SubWindows.h"
+#include "app/main/TypedUnits.h"
+#include "app/main/UndoStep.h"
 #include "app/project/ProjectFile.h"
 #include "app/settings/RecentFiles.h"
 #include "engine/ChannelState.h"
@@ -79,6 +82,7 @@ class frmMain : public Form {
   MenuItem mnuFileClearRecent{this, "mnuFileClearRecent"};
   MenuItem mnuEditCut{this, "mnuEditCut"}, mnuEditCopy{this, "mnuEditCopy"},
       mnuEditPaste{this, "mnuEditPaste"}, mnuEditDelete{this, "mnuEditDelete"},
+      mnuEditUndo{this, "mnuEditUndo"}, mnuEditRedo{this, "mnuEditRedo"},
       mnuEditSelectAll{this, "mnuEditSelectAll"}, mnuEditCopyWithUnit{this, "mnuEditCopyWithUnit"},
       mnuEditCopyFull{this, "mnuEditCopyFull"}, mnuEditCopyResults{this, "mnuEditCopyResults"};
   MenuItem mnuSolveForFlow{this, "mnuSolveForFlow"}, mnuSolveForDepth{this, "mnuSolveForDepth"},
@@ -123,6 +127,9 @@ class frmMain : public Form {
   /// Rewrites the typed inputs after the unit system has changed from `before`.
   void ConvertInput(int before);
   void FormatInputs();
+  /// Replaces each input that is typed with a unit by its number in the unit of its box. False when there is
+  /// none.
+  bool ReadUnits();
   /// A new, empty project.
   void ResetForm();
 
@@ -155,6 +162,10 @@ class frmMain : public Form {
   /// The changed points of the editor; set while one is open.
   std::function<std::optional<std::vector<std::array<EngineValue, 3>>>()> ChangedPoints;
 
+  // Undo of the problem (frmMainUndo.cpp).
+  /// Runs a command; what it makes of the problem is one step back.
+  void OneStep(const std::function<void()>& command);
+
   // Commands: a menu item and the tool button of the same role run the same one.
   void mnuFileNew_Click();
   void mnuFileOpen_Click();
@@ -168,6 +179,8 @@ class frmMain : public Form {
   void mnuEditCopy_Click();
   void mnuEditPaste_Click();
   void mnuEditDelete_Click();
+  void mnuEditUndo_Click();
+  void mnuEditRedo_Click();
   void mnuEditSelectAll_Click();
   void mnuEditCopyWithUnit_Click();
   /// The number behind the box, with the fewest digits that read back the same.
@@ -207,13 +220,29 @@ class frmMain : public Form {
   void JoinCommands();
   void Input_Change();
   void Input_Validate();
+  bool Input_KeyDown(const Field& field, int keyCode);
+  /// The input as an amount with a unit, which still has to be read.
+  std::optional<TypedUnits::Amount> Unread(const Field& field) const;
+  /// Reads what is typed with units; false when the command can then not be run.
+  bool ReadFor(const Control& command);
   bool SaveProject();
   bool WriteProject();
   void Fill(ProjectFile::Project project);
   void ShowProject();
+  void TidyOpened();
   void ShowTitle();
   /// The project's file is the one used last.
   void RememberFile();
+  /// The project has another file from now on, or none; the one before stays known to the steps back.
+  void ChangeFile();
+  /// The file was written: to no step is that a change by another program.
+  void RememberSaved(const std::string& bytes);
+  UndoStep Now() const;
+  void GoTo(const UndoStep& step);
+  /// Goes to the last of the steps that differs from what is there, which is kept among the others.
+  void Travel(std::vector<UndoStep>& from, std::vector<UndoStep>& to);
+  /// The project's file holds the problem in work.
+  bool IsInFile() const;
   void SelectChannelType(const ChannelType& type);
   void SelectSolveForFlow(bool solveForFlow);
   void SelectUnits(int units);
@@ -255,14 +284,14 @@ class frmMain : public Form {
 
   SubWindows& windows_;
   StatusLine status_;
-  std::map<const TextBox*, std::string> typed_;  // in boxes that became results; none once an input changes
-  PointTable typedWith_;                         // the points at that time
-  std::string recoveredFrom_;                    // the file of recovered work until it is saved
+  TypedBefore typed_;  // none once an input changes
+  std::shared_ptr<KnownFile> file_ = std::make_shared<KnownFile>();
+  std::vector<UndoStep> done_, undone_;
   RecentFiles recentFiles_;
   std::array<std::string, RecentFiles::Most> recentShown_;  // their paths, in the order of the menu
-  std::string fileBytes_;  // of the project's file when it was opened or last saved
   Findings found_;
   std::vector<Note> notes_;
   bool solved_ = false;
-  bool loading_ = false;  // boxes are being filled: their Change events neither compute nor clear
+  bool readable_ = false;  // units of inputs have to be read, and nothing else is amiss
+  bool loading_ = false;   // boxes are being filled: their Change events neither compute nor clear
 };

@@ -53,7 +53,7 @@ bool frmMain::SaveProject() {
 }
 
 bool frmMain::FileSave() {
-  if (!WholeFile::IsStill(Declarations::FilePath, fileBytes_) &&
+  if (!WholeFile::IsStill(Declarations::FilePath, file_->Bytes) &&
       TheServices().messageBox.Show(
           Declarations::FileTitle + " was changed by another program. Overwrite it?", Declarations::AppTitle,
           BoxIcon::Exclamation, BoxButtons::YesNo) != BoxAnswer::Yes) {
@@ -63,13 +63,14 @@ bool frmMain::FileSave() {
 }
 
 bool frmMain::WriteProject() {
+  ReadUnits();
   try {
-    fileBytes_ = ProjectFile::Write(Declarations::FilePath, CurrentProject());
+    RememberSaved(ProjectFile::Write(Declarations::FilePath, CurrentProject()));
   } catch (const std::exception& failure) {
     FileFailed("File not saved; data corrupted.", "Cannot save " + Declarations::FileTitle, failure);
     return false;
   }
-  recoveredFrom_.clear();
+  file_->RecoveredFrom.clear();
   Declarations::DataChanged = false;
   RememberFile();
   Declarations::Done = "Saved " + Declarations::FileTitle;
@@ -83,10 +84,10 @@ void frmMain::FileFailed(const char* text, const std::string& what, const std::e
 }
 
 bool frmMain::SaveAsDialog() {
-  const bool recovered = !recoveredFrom_.empty();
+  const bool recovered = !file_->RecoveredFrom.empty();
   const auto path = TheServices().fileDialog.Choose(
-      {true, "File SaveAs", recovered ? FolderOf(recoveredFrom_) : Declarations::UserPath, Filter,
-       recovered ? NameOf(recoveredFrom_) : Declarations::FileTitle});
+      {true, "File SaveAs", recovered ? FolderOf(file_->RecoveredFrom) : Declarations::UserPath, Filter,
+       recovered ? NameOf(file_->RecoveredFrom) : Declarations::FileTitle});
   if (!path) return false;
   const std::string before[] = {Declarations::FilePath, Declarations::FileTitle, Declarations::UserPath};
   TakePath(*path);
@@ -137,16 +138,16 @@ bool frmMain::FileOpen(const std::string& path) {
     FileFailed("Cannot open entire file.", "Cannot open " + NameOf(path), failure);
     return false;
   }
-  fileBytes_ = std::move(bytes);
+  ChangeFile();
+  file_->Bytes = std::move(bytes);
   Fill(std::move(project));
   return true;
 }
 
 void frmMain::Fill(ProjectFile::Project project) {
-  recoveredFrom_.clear();
   ForgetNews();
   const Loading loading(loading_);
-  typed_.clear();
+  typed_.Texts.clear();
   Problem::TakeSetting(project);
   tbProjName.Text = project.ProjName;
   for (const Field& field : Fields()) {
@@ -160,18 +161,21 @@ void frmMain::OpenProject(const std::string& path) {
   TakePath(path);
   RememberFile();
   ShowProject();
+  TidyOpened();
 }
 
 void frmMain::RecoverProject(const ProjectFile::Project& project, const std::string& origin) {
+  ChangeFile();
+  file_->RecoveredFrom = origin;
   Fill(project);
-  recoveredFrom_ = origin;
   Declarations::FilePath = Declarations::FileTitle = Declarations::Untitled;
   ShowProject();
+  TidyOpened();
   Declarations::DataChanged = true;
 }
 
 std::string frmMain::FileOfWork() const {
-  return Declarations::FilePath == Declarations::Untitled ? recoveredFrom_ : Declarations::FilePath;
+  return Declarations::FilePath == Declarations::Untitled ? file_->RecoveredFrom : Declarations::FilePath;
 }
 
 void frmMain::ShowProject() {
@@ -179,6 +183,9 @@ void frmMain::ShowProject() {
   ToggleControls();
   SetUnitsEorM();
   CheckInputs();
+}
+
+void frmMain::TidyOpened() {
   FormatInputs();
   ForgetEdits();
   if (const FocusControl* const from = ActiveControl()) FocusInput(from);
@@ -186,19 +193,19 @@ void frmMain::ShowProject() {
 }
 
 void frmMain::OpenInstead(const std::string& path) {
-  if (ChecknSave()) OpenProject(path);
+  if (ChecknSave()) OneStep([&] { OpenProject(path); });
 }
 
 void frmMain::mnuFileNew_Click() {
   if (!ChecknSave()) return;
-  ResetForm();
+  OneStep([this] { ResetForm(); });
   FocusInput(nullptr);
 }
 
 void frmMain::mnuFileOpen_Click() {
   if (!ChecknSave()) return;
   const auto path = TheServices().fileDialog.Choose({false, "File Open", Declarations::UserPath, Filter, ""});
-  if (path) OpenProject(*path);
+  if (path) OneStep([&] { OpenProject(*path); });
 }
 
 void frmMain::mnuFileSave_Click() {
@@ -208,10 +215,10 @@ void frmMain::mnuFileSaveAs_Click() {
   SaveAsDialog();
 }
 void frmMain::mnuFilePrint_Click() {
-  windows_.PrintReport();
+  if (ReadFor(mnuFilePrint)) windows_.PrintReport();
 }
 void frmMain::mnuFilePrintPreview_Click() {
-  windows_.PreviewReport();
+  if (ReadFor(mnuFilePrintPreview)) windows_.PreviewReport();
 }
 void frmMain::mnuFileExit_Click() {
   Unload();

@@ -8,18 +8,65 @@
 #include "app/main/Loading.h"
 #include "app/main/frmMain.h"
 #include "engine/NumberText.h"
+#include "platform/Keys.h"
 #include "platform/Services.h"
 
 void frmMain::Input_Change() {
   Declarations::DataChanged = true;
   if (loading_) return;
   ForgetNews();
-  typed_.clear();
+  typed_.Texts.clear();
   CheckInputs();
 }
 
 void frmMain::Input_Validate() {
   FormatInputs();
+  ReadUnits();
+}
+
+bool frmMain::Input_KeyDown(const Field& field, int keyCode) {
+  if (keyCode == Keys::Enter || keyCode == Keys::KeypadEnter) ReadUnits();
+  if (keyCode != Keys::Up && keyCode != Keys::Down) return false;
+  TextBox& box = this->*field.Box;
+  const auto nudged = TypedUnits::Nudged(box.Text.Get(), field.Typed, keyCode == Keys::Up ? 1 : -1);
+  if (!nudged) return false;
+  const auto allowed = [&](const std::string& text) {
+    return field.IsElevation() || FormStuff::Within(LeadingNumber(text), field.Bounds);
+  };
+  if (!allowed(*nudged) && allowed(box.Text)) return true;
+  const bool selected = box.Selection == TextRange{0, box.Length()};
+  box.Text = *nudged;
+  if (selected) box.SelectAll();
+  return true;
+}
+
+std::optional<TypedUnits::Amount> frmMain::Unread(const Field& field) const {
+  const std::string& typed = (this->*field.Box).Text;
+  if (!CurrentChannelType().AsksFor(field) || IsNumeric(typed)) return std::nullopt;
+  return TypedUnits::Read(typed, field.Typed);
+}
+
+bool frmMain::ReadUnits() {
+  std::string told;
+  for (const Field& field : Fields()) {
+    const auto amount = Unread(field);
+    if (!amount) continue;
+    TextBox& box = this->*field.Box;
+    const std::string typed = box.Text;
+    const std::string unit = UnitLabel(ChannelState.UnitsEorM, field.Quantity);
+    box.Text = TypedUnits::SevenDigits(amount->Value / UnitFactor(ChannelState.UnitsEorM, field.Quantity));
+    told += (told.empty() ? "Read " : ", ") + typed;
+    if (*amount->Which != '\0') told += " (" + std::string(amount->Which) + ")";
+    told += " as " + box.Text.Get() + (unit.empty() ? field.Suffix : " " + unit);
+  }
+  if (told.empty()) return false;
+  status_.Tell(StatusLine::UnitRead, told);
+  ShowStatus();
+  return true;
+}
+
+bool frmMain::ReadFor(const Control& command) {
+  return !ReadUnits() || command.Enabled;
 }
 
 void frmMain::FormatInputs() {
@@ -54,11 +101,11 @@ void frmMain::WriteHiddenZeros() {
 }
 
 void frmMain::ResetForm() {
+  ChangeFile();
   Declarations::FileTitle = Declarations::FilePath = Declarations::Untitled;
-  recoveredFrom_.clear();
   ForgetNews();
   ShowTitle();
-  typed_.clear();
+  typed_.Texts.clear();
   {
     const Loading loading(loading_);
     tbProjName.Text = "";
@@ -126,6 +173,7 @@ void frmMain::mnuEditCopyFull_Click() {
 }
 
 void frmMain::mnuEditCopyResults_Click() {
+  if (!ReadFor(mnuEditCopyResults)) return;
   windows_.CopyResults();
   Declarations::Done = "Copied the results";
   ShowStatus();

@@ -35,6 +35,7 @@ void frmMain::CheckInputs() {
     whyNone = Solve();
   } else {
     ClearResults();
+    EnablePrint(readable_);
   }
   CurrentProgress = FindProgress();
   ExplainResults(whyNone);
@@ -43,7 +44,7 @@ void frmMain::CheckInputs() {
   for (Control* const command :
        std::initializer_list<Control*>{&mnuSolveGraph, &mnuSolveTable, &mnuSolveSection, &Toolbar1.Graph,
                                        &Toolbar1.Table, &Toolbar1.Section, &mnuEditCopyResults}) {
-    command->Enabled = solved_;
+    command->Enabled = solved_ || readable_;
   }
   std::string verdict;
   if (solved_) {
@@ -125,7 +126,7 @@ frmMain::Progress frmMain::FindProgress() const {
   bool wrong = false;
   for (const Field& field : Fields()) {
     if (!CurrentChannelType().AsksFor(field)) continue;
-    missing = missing || (this->*field.Box).Text.Get().empty();
+    missing = missing || (this->*field.Box).Text.Get().empty() || Unread(field);
     wrong = wrong || (this->*field.Box).Offending;
   }
   return missing && !wrong ? Progress::Missing : Progress::Wrong;
@@ -133,19 +134,27 @@ frmMain::Progress frmMain::FindProgress() const {
 
 std::string frmMain::MarkOffences() {
   std::string first = Problem::OffenceOfSection();
+  std::string unread;
   for (const Field& field : Fields()) {
     if (field.Result == ResultWhen::Always) continue;
     TextBox& box = this->*field.Box;
     std::string offence = OffenceOf(field);
+    const bool isUnread = Unread(field).has_value();
     // An empty box is a question, not a mistake.
-    box.Offending = !offence.empty() && !box.Text.Get().empty();
+    box.Offending = !offence.empty() && !isUnread && !box.Text.Get().empty();
     box.ToolTip = offence;
-    if (first.empty()) first = std::move(offence);
+    std::string& reason = isUnread ? unread : first;
+    if (reason.empty()) reason = std::move(offence);
   }
-  return first;
+  readable_ = first.empty() && !unread.empty();
+  return unread.empty() ? first : unread;
 }
 
 std::string frmMain::OffenceOf(const Field& field) const {
+  if (Unread(field)) {
+    return std::string(field.Caption.Current()) +
+           " is no plain number yet and will be read when the box is left";
+  }
   return Problem::OffenceOf(field, (this->*field.Box).Text);
 }
 

@@ -42,7 +42,7 @@ void frmMain::SelectUnits(int units) {
   MarkProjectChanged();
   const int before = std::exchange(ChannelState.UnitsEorM, units);
   SetUnitsEorM();
-  typed_.clear();
+  typed_.Texts.clear();
   ConvertInput(before);
   ForgetEdits();
   CheckInputs();

@@ -44,7 +44,8 @@ void frmMain::SetUnitsEorM() {
 void frmMain::SelectChannelType(const ChannelType& type) {
   if (ChannelState.ChannelType != type.Name) {
     MarkProjectChanged();
-    typed_.clear();
+    ReadUnits();
+    typed_.Texts.clear();
   }
   ChannelState.ChannelType = type.Name;
   const FocusControl* const left = ActiveControl();
@@ -58,6 +59,7 @@ void frmMain::SelectChannelType(const ChannelType& type) {
 void frmMain::SelectSolveForFlow(bool solveForFlow) {
   if (ChannelState.SolveForFlow != solveForFlow) {
     MarkProjectChanged();
+    ReadUnits();
     if (solveForFlow) {
       TurnIntoResult(tbFlow, tbDepth);
     } else {
@@ -72,11 +74,11 @@ void frmMain::SelectSolveForFlow(bool solveForFlow) {
 }
 
 void frmMain::TurnIntoResult(const TextBox& input, TextBox& result) {
-  if (typedWith_ != ChannelState.IrregPoints) typed_.clear();
+  if (typed_.Points != ChannelState.IrregPoints) typed_.Texts.clear();
   // Still locked, so that this is no edit.
-  if (const auto typed = typed_.find(&result); typed != typed_.end()) result.Text = typed->second;
-  typed_[&input] = input.Text;
-  typedWith_ = ChannelState.IrregPoints;
+  if (const auto typed = typed_.Texts.find(&result); typed != typed_.Texts.end()) result.Text = typed->second;
+  typed_.Texts[&input] = input.Text;
+  typed_.Points = ChannelState.IrregPoints;
 }
 
 void frmMain::MarkProjectChanged() {
@@ -85,21 +87,22 @@ void frmMain::MarkProjectChanged() {
 }
 
 void frmMain::mnuSolveForFlow_Click() {
-  SelectSolveForFlow(true);
+  OneStep([this] { SelectSolveForFlow(true); });
 }
 void frmMain::mnuSolveForDepth_Click() {
-  SelectSolveForFlow(false);
+  OneStep([this] { SelectSolveForFlow(false); });
 }
 void frmMain::mnuSolveGraph_Click() {
-  windows_.OpenGraph();
+  if (ReadFor(mnuSolveGraph)) windows_.OpenGraph();
 }
 void frmMain::mnuSolveTable_Click() {
-  windows_.OpenTable();
+  if (ReadFor(mnuSolveTable)) windows_.OpenTable();
 }
 void frmMain::mnuSolveSection_Click() {
-  windows_.OpenSection();
+  if (ReadFor(mnuSolveSection)) windows_.OpenSection();
 }
 void frmMain::mnuSolveWorking_Click() {
+  ReadUnits();
   windows_.OpenWorking();
 }
 void frmMain::mnuSolveFind_Click() {
@@ -107,18 +110,18 @@ void frmMain::mnuSolveFind_Click() {
 }
 void frmMain::cmdIrreg_Click() {
   const PointTable before = ChannelState.IrregPoints;
-  windows_.OpenIrreg();
+  OneStep([this] { windows_.OpenIrreg(); });
   if (before == ChannelState.IrregPoints) return;
   status_.Edited();
   ShowStatus();
 }
 void frmMain::cmdMannParams_Click() {
-  windows_.OpenMannParam();
+  OneStep([this] { windows_.OpenMannParam(); });
 }
 
 void frmMain::mnuOptionsDigits_Click() {
   const int sigDigs = Declarations::SigDigs;
   const int engDigs = Declarations::EngDigs;
-  windows_.OpenDigits();
+  OneStep([this] { windows_.OpenDigits(); });
   if (sigDigs != Declarations::SigDigs || engDigs != Declarations::EngDigs) MarkProjectChanged();
 }

@@ -71,6 +71,16 @@ BoxEdit::BoxEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {
   box.ForgetEditsView = [guarded = QPointer<BoxEdit>(this)] {
     if (guarded) guarded->ForgetEdits();
   };
+  box.UndoView = [guarded = QPointer<BoxEdit>(this)] {
+    if (!guarded || !guarded->isUndoAvailable()) return false;
+    guarded->undo();
+    return true;
+  };
+  box.RedoView = [guarded = QPointer<BoxEdit>(this)] {
+    if (!guarded || !guarded->isRedoAvailable()) return false;
+    guarded->redo();
+    return true;
+  };
   ForgetEdits();  // the text that it opens with is none
   connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { box_.Text = FromQt(text); });
   connect(this, &QLineEdit::selectionChanged, this, [this] { TellSelection(); });
@@ -167,6 +177,10 @@ bool BoxEdit::event(QEvent* event) {
     auto& key = static_cast<QKeyEvent&>(*event);
     // A read-only line edit leaves Cut to the menu, which empties the clipboard when nothing is selected.
     if (key.matches(QKeySequence::Cut)) event->accept();
+    if (box_.UndoneByMenu && (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo))) {
+      event->ignore();
+      return true;
+    }
     // Under X11 a line edit takes these before any command: they would empty the line, go to its end and
     // delete a character.
     for (const Qt::Key command : {Qt::Key_U, Qt::Key_E, Qt::Key_D}) {

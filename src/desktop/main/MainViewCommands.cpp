@@ -100,11 +100,16 @@ void MainView::AddMenus() {
             {&frmMain::mnuEditPaste, "p", QKeySequence::Paste},
             {&frmMain::mnuEditDelete, "d", QKeySequence::Delete},
             {Separator},
+            {&frmMain::mnuEditUndo, "u", QKeySequence::Undo},
+            {&frmMain::mnuEditRedo, "r"},
+            {Separator},
             {&frmMain::mnuEditSelectAll, "a", QKeySequence::SelectAll},
             {Separator},
             {&frmMain::mnuEditCopyWithUnit, "w"},
             {&frmMain::mnuEditCopyFull, "f"},
             {&frmMain::mnuEditCopyResults, "s", Qt::CTRL | Qt::SHIFT | Qt::Key_C}});
+  findChild<QAction*>(QStringLiteral("mnuEditRedo"))
+      ->setShortcuts({QKeySequence(QStringLiteral("Ctrl+Shift+Z")), QKeySequence(QStringLiteral("Ctrl+Y"))});
   MakeMenu(form_, bar, "&Solve",
            {{&frmMain::mnuSolveForFlow, "f", Qt::CTRL | Qt::Key_F, Kind::Choice},
             {&frmMain::mnuSolveForDepth, "d", Qt::CTRL | Qt::Key_D, Kind::Choice},

@@ -1,0 +1,97 @@
+// The way back to the problem as it was before a command. See frmMain.h.
+#include <exception>
+#include <utility>
+
+#include "app/Declarations.h"
+#include "app/FormStuff.h"
+#include "app/main/Problem.h"
+#include "app/main/frmMain.h"
+#include "app/project/ProjectFile.h"
+
+namespace {
+
+constexpr std::size_t MostSteps = 100;
+
+/// The bytes of the project without what opening it would change.
+std::string AsOpened(ProjectFile::Project project) {
+  for (const Field& field : Fields()) {
+    std::string* const text = Problem::ItemOf(project, field);
+    if (text != nullptr) *text = field.IsResult() ? "" : FormStuff::AddLeadingZero(*text);
+  }
+  return ProjectFile::Format(project);
+}
+
+}  // namespace
+
+void frmMain::OneStep(const std::function<void()>& command) {
+  UndoStep before = Now();
+  command();
+  if (Now() == before) return;
+  undone_.clear();
+  done_.push_back(std::move(before));
+  if (done_.size() > MostSteps) done_.erase(done_.begin());
+}
+
+UndoStep frmMain::Now() const {
+  file_->Path = Declarations::FilePath;
+  file_->Title = Declarations::FileTitle;
+  file_->Folder = Declarations::UserPath;
+  return {CurrentProject(), typed_, file_, Declarations::DataChanged};
+}
+
+void frmMain::ChangeFile() {
+  file_ = std::make_shared<KnownFile>();
+}
+
+void frmMain::RememberSaved(const std::string& bytes) {
+  const std::string before = file_->Bytes;
+  for (const std::vector<UndoStep>* const steps : {&done_, &undone_}) {
+    for (const UndoStep& step : *steps) {
+      KnownFile& known = *step.File;
+      if (known.Path == Declarations::FilePath && known.Bytes == before) known.Bytes = bytes;
+    }
+  }
+  file_->Bytes = bytes;
+}
+
+void frmMain::GoTo(const UndoStep& step) {
+  const FocusControl* const left = ActiveControl();
+  Fill(step.Project);
+  typed_ = step.Typed;
+  file_ = step.File;
+  Declarations::FilePath = file_->Path;
+  Declarations::FileTitle = file_->Title;
+  Declarations::UserPath = file_->Folder;
+  ShowProject();
+  ForgetEdits();
+  FocusInput(left);
+  Declarations::DataChanged = Declarations::FileTitle == Declarations::Untitled ? step.Changed : !IsInFile();
+}
+
+bool frmMain::IsInFile() const {
+  try {
+    return AsOpened(ProjectFile::Read(Declarations::FilePath)) == AsOpened(CurrentProject());
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+void frmMain::Travel(std::vector<UndoStep>& from, std::vector<UndoStep>& to) {
+  UndoStep now = Now();
+  while (!from.empty() && from.back() == now) from.pop_back();
+  if (from.empty()) return;
+  const UndoStep step = std::move(from.back());
+  from.pop_back();
+  GoTo(step);
+  to.push_back(std::move(now));
+}
+
+void frmMain::mnuEditUndo_Click() {
+  auto* const box = dynamic_cast<TextBox*>(ActiveControl());
+  if (box == nullptr || !box->Undo()) Travel(done_, undone_);
+}
+
+void frmMain::mnuEditRedo_Click() {
+  auto* const box = dynamic_cast<TextBox*>(ActiveControl());
+  if (box == nullptr || !box->Redo()) Travel(undone_, done_);
+}
