@@ -1,6 +1,8 @@
 // The way back to the problem as it was before a command. See frmMain.h.
+#include <algorithm>
 #include <exception>
 #include <utility>
+#include <vector>
 
 #include "app/Declarations.h"
 #include "app/FormStuff.h"
@@ -19,6 +21,26 @@ std::string AsOpened(ProjectFile::Project project) {
     if (text != nullptr) *text = field.IsResult() ? "" : FormStuff::AddLeadingZero(*text);
   }
   return ProjectFile::Format(project);
+}
+
+using Edit = bool (TextBox::*)();
+
+/// Undoes typing, or makes it again: in the box with the keyboard, else in another one, which gets the
+/// keyboard. False when there is none left. `back` takes back what `edit` does.
+bool EditABox(Form& form, Edit edit, Edit back) {
+  auto* const active = dynamic_cast<TextBox*>(form.ActiveControl());
+  if (active != nullptr && (active->*edit)()) return true;
+  std::vector<Control*> controls = form.Controls();
+  if (edit == &TextBox::Undo) std::ranges::reverse(controls);  // people type from the top down
+  for (Control* const control : controls) {
+    auto* const box = dynamic_cast<TextBox*>(control);
+    if (box == nullptr || !(box->*edit)()) continue;
+    // Leaving the box before tidies the others, and would make it again at once.
+    (box->*back)();
+    form.MoveFocus(*box);
+    return (box->*edit)();
+  }
+  return false;
 }
 
 }  // namespace
@@ -87,11 +109,9 @@ void frmMain::Travel(std::vector<UndoStep>& from, std::vector<UndoStep>& to) {
 }
 
 void frmMain::mnuEditUndo_Click() {
-  auto* const box = dynamic_cast<TextBox*>(ActiveControl());
-  if (box == nullptr || !box->Undo()) Travel(done_, undone_);
+  if (!EditABox(*this, &TextBox::Undo, &TextBox::Redo)) Travel(done_, undone_);
 }
 
 void frmMain::mnuEditRedo_Click() {
-  auto* const box = dynamic_cast<TextBox*>(ActiveControl());
-  if (box == nullptr || !box->Redo()) Travel(undone_, done_);
+  if (!EditABox(*this, &TextBox::Redo, &TextBox::Undo)) Travel(undone_, done_);
 }

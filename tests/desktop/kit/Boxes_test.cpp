@@ -54,6 +54,27 @@ TEST_F(Boxes, WhatTheEditMenuDoesCanBeUndone) {
   EXPECT_EQ(main_.tbProjName.Text.Get(), "culvert 12");
 }
 
+TEST_F(Boxes, UndoTakesBackWhatWasTypedInEveryBoxBeforeACommand) {
+  hands_.Click(main_.mnuOptionsTrap);
+  hands_.Focus(main_.tbFlow);
+  Keys("35 L/s");
+  hands_.Focus(main_.tbSlope);
+  Keys(".004");
+  hands_.Focus(main_.tbVelocity);
+  const auto undone = [&](const char* flow, const char* slope) {
+    Press("Ctrl+Z");
+    EXPECT_EQ(main_.tbFlow.Text.Get(), flow);
+    EXPECT_EQ(main_.tbSlope.Text.Get(), slope);
+    EXPECT_EQ(main_.lblChanType.Caption.Get(), "Trapezoidal Channel");
+  };
+  undone("1.236013", ".004");
+  undone("1.236013", "");
+  undone("35 L/s", "");
+  undone("", "");
+  Press("Ctrl+Z");
+  EXPECT_EQ(main_.lblChanType.Caption.Get(), "Circular Channel");
+}
+
 TEST_F(Boxes, TheMenuBarLeavesTheSelectionAsItIs) {
   hands_.Focus(main_.tbFlow);
   Keys("123");
