@@ -29,9 +29,7 @@ QLabel* Wrapped(Label& label, QWidget* parent) {
 /// What was read, as wide as its columns where the screen has room.
 class ReadTable : public GridTable {
  public:
-  ReadTable(FlexGrid& grid, QWidget* parent) : GridTable(grid, parent) {
-    connect(model(), &QAbstractItemModel::modelReset, this, [this] { updateGeometry(); });
-  }
+  using GridTable::GridTable;
   QSize sizeHint() const override {
     const int columns = verticalHeader()->width() + horizontalHeader()->length() +
                         verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
@@ -69,7 +67,7 @@ ImportView::ImportView(frmImport& form, QWidget* parent) : FormDialog(form, pare
   auto* const above = new QWidget(this);
   auto* const row = new QHBoxLayout(above);
   row->setContentsMargins({});
-  row->addWidget(ReadPart(form), 1);
+  row->addWidget(ReadPart(form));
   row->addWidget(DrawingPart(form), 1);
   Column().addWidget(above, 1);
   Column().addWidget(ChangesPart(form));
@@ -81,6 +79,7 @@ ImportView::ImportView(frmImport& form, QWidget* parent) : FormDialog(form, pare
   reason->setMinimumHeight(fontMetrics().lineSpacing());
   Column().addWidget(reason);
   AddButtons(Bind::Push(form.cmdOK, this, "o"), Bind::Push(form.cmdCancel, this, "a"));
+  resize(46 * fontMetrics().height(), 0);  // at least, for the drawing
 }
 
 QWidget* ImportView::ReadPart(frmImport& form) {
