@@ -60,17 +60,17 @@ constexpr UnitRow Rows[] = {
 
 /// A ratio of which one part is 1; the amount is the other part, or one divided by it.
 struct RatioRow {
-  Kind Of = Kind::Plain;
   std::string_view Left, Right;  ///< letters behind the numbers
+  Kind Of = Kind::Plain;
   bool LeftIsOne = true;
   bool Divides = false;
 };
 
 constexpr RatioRow Ratios[] = {
-    {Kind::Slope, "", "", true, true},
-    {Kind::SideSlope, "", "", false, false},
-    {Kind::SideSlope, "v", "h", true, false},
-    {Kind::SideSlope, "h", "v", false, false},
+    {"", "", Kind::Slope, true, true},
+    {"", "", Kind::SideSlope, false, false},
+    {"v", "h", Kind::SideSlope, true, false},
+    {"h", "v", Kind::SideSlope, false, false},
 };
 
 int QuantityOf(Kind kind) {

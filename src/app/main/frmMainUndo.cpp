@@ -52,6 +52,7 @@ void frmMain::OneStep(const std::function<void()>& command) {
   undone_.clear();
   done_.push_back(std::move(before));
   if (done_.size() > MostSteps) done_.erase(done_.begin());
+  ForgetEdits();  // what was typed before comes back with the step: the last action is undone first
 }
 
 UndoStep frmMain::Now() const {

@@ -106,7 +106,8 @@ void frmMain::mnuSolveWorking_Click() {
   windows_.OpenWorking();
 }
 void frmMain::mnuSolveFind_Click() {
-  windows_.OpenFind();
+  ReadUnits();
+  OneStep([this] { windows_.OpenFind(); });
 }
 void frmMain::cmdIrreg_Click() {
   const PointTable before = ChannelState.IrregPoints;
