@@ -4,6 +4,7 @@
 
 #include "console/ConsoleStage.h"
 #include "console/Conversation.h"
+#include "console/Monkey.h"
 
 namespace {
 
@@ -15,14 +16,11 @@ TEST_P(Conversations, GoAsWritten) {
   EXPECT_THAT(Differences(conversation, ControllerStage), testing::IsEmpty());
 }
 
-TEST_P(Conversations, GoTheSameWithDecimalComma) {
-  EXPECT_THAT(Differences(InLocale({",", "."}, ReadConversation(GetParam())), ControllerStage),
-              testing::IsEmpty());
-}
-
-TEST_P(Conversations, GoTheSameWithGroupsBetweenNoBreakSpaces) {
-  EXPECT_THAT(Differences(InLocale({",", "\u202F"}, ReadConversation(GetParam())), ControllerStage),
-              testing::IsEmpty());
+TEST_P(Conversations, GoTheSameInOtherCountries) {
+  for (const char* const groups : {".", "\u202F"}) {
+    const auto conversation = InLocale({",", groups}, ReadConversation(GetParam()));
+    EXPECT_THAT(Differences(conversation, ControllerStage), testing::IsEmpty()) << groups;
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Kept, Conversations, testing::ValuesIn(ConversationFiles(CONVERSATIONS)),
@@ -48,6 +46,10 @@ TEST(Protocol, AWindowAnswersWhenItOpensAndEndOfInputClosesIt) {
                            {"click cmdMannParams", "ok"}},
                           ControllerStage),
               testing::IsEmpty());
+}
+
+TEST(Monkey, TwentyThousandLinesAreAllAnswered) {
+  EXPECT_THAT(LetMonkeyType(ControllerStage, MonkeyLines(20000)), testing::IsEmpty());
 }
 
 }  // namespace

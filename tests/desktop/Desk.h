@@ -4,8 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QTest>
+#include <QtWidgets>
 
 #include "app/settings/SettingsFile.h"
 #include "desktop/WidgetHands.h"
@@ -14,6 +14,7 @@
 #include "program/Program.h"
 #include "section/frmIrreg.h"
 #include "support/FakeServices.h"
+#include "support/Split.h"
 
 /// While it lives, texts are so many times as large.
 class LargerText {
@@ -52,37 +53,37 @@ class Desk : public testing::Test {
     EXPECT_FALSE(inModal_) << "no window opened";
   }
 
-  /// Types into one box after the other.
-  void Enter(std::initializer_list<std::pair<TextBox*, const char*>> texts) {
-    for (const auto& [box, text] : texts) {
-      hands_.Focus(*box);
-      Keys(text);
+  /// Types into one box after the other: "tbDepth 2, tbSlope 0.001".
+  void Enter(const std::string& texts) {
+    for (const std::string& text : Split(texts, ", ")) {
+      const std::size_t blank = text.find(' ');
+      hands_.Focus(dynamic_cast<TextBox&>(*main_.Find(text.substr(0, blank))));
+      Keys(text.c_str() + blank + 1);
     }
   }
   void EnterTrapezoid() {
     hands_.Click(main_.mnuOptionsTrap);
-    Enter({{&main_.tbFlow, "400"},
-           {&main_.tbSlope, "0.0016"},
-           {&main_.tbMann, "0.025"},
-           {&main_.tbBaseWidth, "20"},
-           {&main_.tbSSL, "2"},
-           {&main_.tbSSR, "2"}});
+    Enter("tbFlow 400, tbSlope 0.0016, tbMann 0.025, tbBaseWidth 20, tbSSL 2, tbSSR 2");
   }
-  void EnterPipe(const char* diameter, const char* depth) {
+  void EnterPipe(const std::string& diameter, const std::string& depth) {
     hands_.Click(main_.mnuOptionsCircular);
     hands_.Click(main_.mnuSolveForFlow);
-    Enter({{&main_.tbSlope, "0.004"},
-           {&main_.tbMann, "0.013"},
-           {&main_.tbDiameter, diameter},
-           {&main_.tbDepth, depth}});
+    Enter("tbSlope 0.004, tbMann 0.013, tbDiameter " + diameter + ", tbDepth " + depth);
   }
-  using Points = std::vector<std::array<std::string, 3>>;
-  /// Makes the channel a section of these points: station, elevation, n.
-  void TakePoints(const Points& points) {
+  /// Makes the channel a section of points such as "0 10 0.03, 10 0, 20 10".
+  void TakePoints(const std::string& points) {
     hands_.Click(main_.mnuOptionsIrreg);
-    ChannelState.IrregPointCount = static_cast<int>(points.size());
-    for (std::size_t i = 0; i < points.size(); ++i)
-      std::copy(points[i].begin(), points[i].end(), ChannelState.IrregPoints[i + 1].begin() + 1);
+    ChannelState.IrregPointCount = 0;
+    for (const std::string& point : Split(points, ", ")) {
+      const auto cells = Split(point, " ");
+      const auto row = static_cast<std::size_t>(++ChannelState.IrregPointCount);
+      std::ranges::copy(cells, ChannelState.IrregPoints[row].begin() + 1);
+    }
+  }
+  void EnterSection(const std::string& points, const std::string& level) {
+    TakePoints(points);
+    hands_.Click(main_.mnuSolveForFlow);
+    Enter("tbSlope 0.002, tbDepth " + level);
   }
 
   FakeServices services_;

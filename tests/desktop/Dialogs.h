@@ -3,8 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QTimer>
+#include <QtWidgets>
 #include <functional>
 
 /// Runs `act` on the dialog that is about to open.

@@ -3,18 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
-#include <QInputMethodEvent>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QRegularExpression>
-#include <QTableView>
 #include <QTest>
-#include <QTextDocumentFragment>
-#include <QToolBar>
+#include <QtWidgets>
 #include <map>
 
 #include "desktop/kit/Text.h"

@@ -1,7 +1,7 @@
 // Acts on the widgets of the windows as a person does: by keys, clicks and the input method.
 #pragma once
 
-#include <QWidget>
+#include <QtWidgets>
 #include <functional>
 #include <memory>
 #include <utility>

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Proves who includes whom: the folders of src only downwards, nothing in a circle, Qt in the desktop alone.
+"""Proves who includes whom: the folders of src only downwards; Qt in the desktop alone.
 
 Usage: check_includes.py ROOT   prints one line for each fault; status 1 when there is any
 """
@@ -108,27 +108,8 @@ def faults_of_qt(root):
                     yield f"{place}:{number}: Qt belongs to the desktop alone"
 
 
-def faults_of_circles(root):
-    """No file of src includes itself over others: #pragma once would hide it until a type is missing somewhere."""
-    included = {}
-    for file in sources(root, "src"):
-        included[str(file.relative_to(root / "src"))] = sorted({own for _, _, own in includes(file) if own})
-    finished = set()
-
-    def walk(file, path):
-        if file in path:
-            yield "a circle: " + " -> ".join([*path[path.index(file):], file])
-        elif file not in finished:
-            for other in included.get(file, ()):
-                yield from walk(other, [*path, file])
-            finished.add(file)
-
-    for file in included:
-        yield from walk(file, [])
-
-
 def faults(root):
-    return [*faults_of_folders(root), *faults_of_qt(root), *faults_of_circles(root)]
+    return [*faults_of_folders(root), *faults_of_qt(root)]
 
 
 if __name__ == "__main__":

@@ -6,14 +6,12 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <functional>
 
 #include "engine/ManningTrap.h"
 #include "engine/Problem.h"
 
 namespace {
 
-using testing::ElementsAreArray;
 using testing::Not;
 
 /// Feet with three decimals, results with three significant digits.
@@ -39,115 +37,81 @@ class NotesTest : public EngineTest {
     SetTrapezoid(10, 0, 0, n, S);
     ChannelState.ChannelType = ChannelTypes::Rectangular;
   }
-};
 
-struct Problem {
-  std::function<void()> Set;
-  bool SolveForFlow;
-  double Given;  // depth or flow
-  const char* Verdict;
-  std::vector<std::string> Counted;  // short texts
-};
-
-void ExpectNotes(const Problem& problem) {
-  const Findings found = Examine(ChannelState);
-  const std::vector<Note> notes = NotesOn(found, InFeet());
-  EXPECT_EQ(Verdict(found, notes), problem.Verdict);
-  std::vector<std::string> counted;
-  for (const Note& note : notes) {
-    if (note.Phrase.empty()) counted.push_back(note.Short);
-    for (const std::string& text : {note.Phrase, note.Short, note.Long, note.Source}) {
-      EXPECT_THAT(text, Not(testing::ContainsRegex("[{}]|nan|inf"))) << text;
-    }
-    EXPECT_FALSE(note.Long.empty() || note.Source.empty()) << note.Short;
+  using Texts = std::vector<std::string>;
+  /// The verdict, and the short texts of the notes that are counted.
+  static void ExpectDepth(double flow, const std::string& verdict, const Texts& counted = {}) {
+    SolveDepth(flow);
+    ExpectNotes("Depth solved: " + verdict, counted);
   }
-  EXPECT_THAT(counted, ElementsAreArray(problem.Counted)) << problem.Verdict;
+  static void ExpectFlow(double depth, const std::string& verdict, const Texts& counted = {}) {
+    SolveFlow(depth);
+    ExpectNotes("Flow solved: " + verdict, counted);
+  }
+
+ private:
+  static void ExpectNotes(const std::string& verdict, const Texts& expected) {
+    SCOPED_TRACE(verdict);
+    const Findings found = Examine(ChannelState);
+    const std::vector<Note> notes = NotesOn(found, InFeet());
+    EXPECT_EQ(Verdict(found, notes), verdict);
+    Texts counted;
+    for (const Note& note : notes) {
+      if (note.Phrase.empty()) counted.push_back(note.Short);
+      for (const std::string& text : {note.Phrase, note.Short, note.Long, note.Source})
+        EXPECT_THAT(text, Not(testing::ContainsRegex("[{}]|nan|inf")));
+      EXPECT_FALSE(note.Long.empty() || note.Source.empty()) << note.Short;
+    }
+    EXPECT_EQ(counted, expected);
+  }
+};
+
+TEST_F(NotesTest, PrismsByHand) {
+  SetTrapezoid(20, 2, 3, 0.025, 0.0016);
+  ExpectDepth(400, "subcritical");
+  SetRectangle(0.013, 0.15);
+  ExpectDepth(100, "supercritical", {"Steep: the depth is measured at right angles to the bed"});
+  SetRectangle(0.016, 0.004);
+  ExpectFlow(1, "subcritical, near critical");
+  const double yc = 1.459367787;  // (10^2 / g)^(1/3)
+  SetRectangle(0.013, ManningTrap::TrapCriticalSlope(yc, 10, 0, 0, 0.013, 100));
+  ExpectFlow(yc, "critical");
+  SetRectangle(0.35, 0.002);
+  ExpectDepth(1, "subcritical", {"Unusual roughness: n = 0.35"});
+  SetRectangle(0.005, 0.004);
+  ExpectDepth(0.0001, "subcritical",
+              {"The last digit shown is not certain: flow area, hydraulic radius, velocity, velocity head, "
+               "Froude number and critical slope",
+               "Unusual roughness: n = 0.005"});
 }
 
-TEST_F(NotesTest, ProblemsByHand) {
-  const auto pipe = [] { SetPipe(6, 0.013, 0.002); };
+TEST_F(NotesTest, PipesByHand) {
+  SetPipe(6, 0.013, 0.002);
+  ExpectDepth(100, "subcritical, 52 % deep, 49 % of the greatest flow");
+  ExpectDepth(200, "subcritical, 88 % deep, 98 % of the greatest flow",
+              {"Two depths carry this flow: 5.297 ft, in the box, and 5.883 ft"});
+  ExpectFlow(5.883473148803879, "subcritical, 98 % deep, 98 % of the greatest flow",
+             {"Two depths carry this flow: 5.883 ft, in the box, and 5.297 ft"});
+  ExpectFlow(6, "full pipe, 93 % of the greatest flow",
+             {"Two depths carry this flow: 6.000 ft, in the box, and 4.918 ft"});
+}
+
+TEST_F(NotesTest, SectionsByHand) {
   // A channel 10 ft wide and 2 ft deep between two benches of 20 ft, all walls upright.
-  const auto benches = [] {
-    SetSection({{0, 4, 0.03}, {0, 2}, {20, 2}, {20, 0}, {30, 0}, {30, 2}, {50, 2}, {50, 4}}, 0.016);
-  };
-  const std::string fallAtTheBench = "The flow falls while the water rises: at 2.000 ft";
-  for (const Problem& problem : std::vector<Problem>{
-           {[] { SetTrapezoid(20, 2, 3, 0.025, 0.0016); }, false, 400, "Depth solved: subcritical", {}},
-           {[] { SetRectangle(0.013, 0.15); },
-            false,
-            100,
-            "Depth solved: supercritical",
-            {"Steep: the depth is measured at right angles to the bed"}},
-           {[] { SetRectangle(0.016, 0.004); }, true, 1, "Flow solved: subcritical, near critical", {}},
-           {[] { SetRectangle(0.013, ManningTrap::TrapCriticalSlope(1.459367787, 10, 0, 0, 0.013, 100)); },
-            true,
-            1.459367787,  // (10^2 / g)^(1/3)
-            "Flow solved: critical",
-            {}},
-           {[] { SetRectangle(0.35, 0.002); },
-            false,
-            1,
-            "Depth solved: subcritical",
-            {"Unusual roughness: n = 0.35"}},
-           {[] { SetRectangle(0.005, 0.004); },
-            false,
-            0.0001,
-            "Depth solved: subcritical",
-            {"The last digit shown is not certain: flow area, hydraulic radius, velocity, velocity head, "
-             "Froude "
-             "number and critical slope",
-             "Unusual roughness: n = 0.005"}},
-           {pipe, false, 100, "Depth solved: subcritical, 52 % deep, 49 % of the greatest flow", {}},
-           {pipe,
-            false,
-            200,
-            "Depth solved: subcritical, 88 % deep, 98 % of the greatest flow",
-            {"Two depths carry this flow: 5.297 ft, in the box, and 5.883 ft"}},
-           {pipe,
-            true,
-            5.883473148803879,
-            "Flow solved: subcritical, 98 % deep, 98 % of the greatest flow",
-            {"Two depths carry this flow: 5.883 ft, in the box, and 5.297 ft"}},
-           {pipe,
-            true,
-            6,
-            "Flow solved: full pipe, 93 % of the greatest flow",
-            {"Two depths carry this flow: 6.000 ft, in the box, and 4.918 ft"}},
-           {benches,
-            false,
-            113.4,
-            "Depth solved: subcritical, near critical",
-            {"2 water levels carry this flow: 1.595 ft and 2.162 ft; the box shows the lowest",
-             fallAtTheBench,
-             "The flow is critical at 2 water levels: 1.587 ft and 2.143 ft; the box shows the lowest"}},
-           {[] {
-              SetSection({{0, 1, 0.03}, {10, 0}, {20, 0.5}}, 0.001);
-            },
-            true,
-            2,
-            "Flow solved: subcritical",
-            {"The water stands 1.000 ft above the first point and 1.500 ft above the last point of the "
-             "section"}},
-           {[] {
-              SetSection({{0, 3, 0.03}, {10, 0}, {20, 2}, {30, 1}, {40, 3}}, 0.001);
-            },
-            true,
-            1.5,
-            "Flow solved: subcritical",
-            {"Water behind a crest that the main channel does not reach carries 17 % of the flow"}},
-           {[] {
-              SetSection({{0, 5, 0.03}, {10, 0}, {20, 0, 0.03}, {30, 5}}, 0.001);
-            },
-            true,
-            2,
-            "Flow solved: subcritical",
-            {"The same n is repeated: with one n the flow would be 56.9 cfs"}},
-       }) {
-    SCOPED_TRACE(problem.Verdict);
-    problem.Set();
-    problem.SolveForFlow ? SolveFlow(problem.Given) : SolveDepth(problem.Given);
-    ExpectNotes(problem);
-  }
+  SetSection({{0, 4, 0.03}, {0, 2}, {20, 2}, {20, 0}, {30, 0}, {30, 2}, {50, 2}, {50, 4}}, 0.016);
+  ExpectDepth(113.4, "subcritical, near critical",
+              {"2 water levels carry this flow: 1.595 ft and 2.162 ft; the box shows the lowest",
+               "The flow falls while the water rises: at 2.000 ft",
+               "The flow is critical at 2 water levels: 1.587 ft and 2.143 ft; the box shows the lowest"});
+  SetSection({{0, 1, 0.03}, {10, 0}, {20, 0.5}}, 0.001);
+  ExpectFlow(2, "subcritical",
+             {"The water stands 1.000 ft above the first point and 1.500 ft above the last point of the "
+              "section"});
+  SetSection({{0, 3, 0.03}, {10, 0}, {20, 2}, {30, 1}, {40, 3}}, 0.001);
+  ExpectFlow(1.5, "subcritical",
+             {"Water behind a crest that the main channel does not reach carries 17 % of the flow"});
+  SetSection({{0, 5, 0.03}, {10, 0}, {20, 0, 0.03}, {30, 5}}, 0.001);
+  ExpectFlow(2, "subcritical", {"The same n is repeated: with one n the flow would be 56.9 cfs"});
 }
 
 TEST_F(NotesTest, NothingSolvedHasNoNotes) {

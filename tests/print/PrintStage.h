@@ -14,9 +14,13 @@ class PrintStage : public ProgramStage {
  protected:
   PrintStage() { Main.tbProjName.Text = "Mill race"; }
 
-  void PrintReport() {
+  /// For what is printed next, on clean paper.
+  void AcceptTheDialog() {
     Paper.TakeCalls();
     Fakes.printerDialog.Answers = {true};
+  }
+  void PrintReport() {
+    AcceptTheDialog();
     Main.mnuFilePrint_Click();
   }
 

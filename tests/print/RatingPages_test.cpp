@@ -31,8 +31,7 @@ class RatingPages : public PrintStage {
       }
     }
     grid.Load(std::move(cells), cols);
-    Paper.TakeCalls();
-    Fakes.printerDialog.Answers = {true};
+    AcceptTheDialog();
     Print::ToPrinter(Print::Table(Main, grid));
   }
 
@@ -108,6 +107,9 @@ TEST_P(RatingPages, ThePreviewOfTheTableWindowShowsItsCells) {
   EXPECT_THAT(shown, Contains("text 2469 2008 Slope, ft/ft"));
   EXPECT_THAT(shown, Contains(Spelled("text 1152 2376 91.7")));  // the second row, for 2 ft
   EXPECT_THAT(Paper.Calls, IsEmpty());
+  AcceptTheDialog();
+  table.mnuPrint.Click();
+  EXPECT_EQ(Paper.Calls, shown);
 }
 
 TEST_P(RatingPages, TheGraphIsAsLargeAsFitsInItsOwnProportions) {
@@ -129,8 +131,7 @@ TEST_P(RatingPages, TheGraphIsAsLargeAsFitsInItsOwnProportions) {
         Case{12240, 15840, {0, 300}, ""}}) {
     UsePaper(each.Width, each.Height);
     graph.MSChart1.Size = each.Chart;
-    Paper.TakeCalls();
-    Fakes.printerDialog.Answers = {true};
+    AcceptTheDialog();
     graph.mnuPrint.Click();
     const std::string picture = each.Picture;
     const Calls drawn = picture.empty() ? Calls{} : Calls{"picture 1152 4008 " + picture};
@@ -164,8 +165,7 @@ TEST_P(RatingPages, AGraphStandsBelowThePointsWhereItCanBeRead) {
         Case{11906, 8391, 16, 1, "4008 3433 2575"}, Case{11906, 8391, 17, 2, "4008 3433 2575"}}) {
     UsePaper(each.Width, each.Height);
     ChannelState.IrregPointCount = each.Points;
-    Paper.TakeCalls();
-    Fakes.printerDialog.Answers = {true};
+    AcceptTheDialog();
     Print::ToPrinter(Print::Graph(Main, graph.MSChart1));
     ASSERT_EQ(Pages(), each.Page) << each.Points;
     EXPECT_THAT(Page(each.Page), Contains(std::string("picture 1152 ") + each.Picture)) << each.Points;

@@ -27,6 +27,11 @@ class PointEditor : public LocaleTest {
 
   void Select(GridBlock block) { grid_.Selection = block; }
   void Copied(const std::string& text) { fakes_.clipboard.SetText(text); }
+  void Paste(GridBlock block, const std::string& text) {
+    Select(block);
+    Copied(text);
+    editor_.cmdPaste_Click();
+  }
 
   TestFolder folder_;
   const std::string file_ = (folder_.Path() / "points.csv").string();
@@ -78,9 +83,7 @@ TEST_P(PointEditor, WhatDoesNotFitOrHasAHeadGoesThroughTheImportDialog) {
   EXPECT_EQ(grid_.Text(100, 1), "") << "they take the place of all points";
   EXPECT_TRUE(fakes_.messageBox.Boxes.empty());
   for (const std::size_t length : {std::size_t{100'001}, std::size_t{65} << 20U}) {
-    Select({1, 1, 1, 1});
-    Copied(std::string(length, length > 100'001 ? '\t' : '7'));
-    editor_.cmdPaste_Click();
+    Paste({1, 1, 1, 1}, std::string(length, length > 100'001 ? '\t' : '7'));
     ASSERT_EQ(fakes_.messageBox.Boxes.size(), 1U);
     EXPECT_EQ(fakes_.messageBox.Boxes[0].Text, "The text on the clipboard is too long for the table.");
     fakes_.messageBox.Boxes.clear();
@@ -92,9 +95,7 @@ TEST_P(PointEditor, WhatDoesNotFitOrHasAHeadGoesThroughTheImportDialog) {
 
 TEST_P(PointEditor, ASignThatLooksLikeThousandsIsAskedAbout) {
   const auto pasted = [this](const std::string& copied, std::optional<BoxAnswer> answer) {
-    Select({1, 1, 2, 3});
-    Copied("x\tx\tx\rx\tx\tx");
-    editor_.cmdPaste_Click();
+    Paste({1, 1, 2, 3}, "x\tx\tx\rx\tx\tx");
     if (answer) fakes_.messageBox.Answers = {*answer};
     Copied(copied);
     editor_.cmdPaste_Click();
@@ -123,9 +124,7 @@ TEST_P(PointEditor, ASignThatLooksLikeThousandsIsAskedAbout) {
 
 TEST_P(PointEditor, PointsInWorkAreToldAsTheyStand) {
   EXPECT_FALSE(editor_.ChangedPoints());
-  Select({1, 1, 3, 3});
-  Copied("0\t5\r\t\t\r\t\t0.1");
-  editor_.cmdPaste_Click();
+  Paste({1, 1, 3, 3}, "0\t5\r\t\t\r\t\t0.1");
   Select({3, 2, 3, 2});
   editor_.MSFlexGrid1_KeyPress('4');  // not committed yet
   const frmIrreg::Points points = {{"0", "5", ""}, {"", "", ""}, {"", "4", "0.1"}};
@@ -161,9 +160,7 @@ TEST_P(PointEditor, OKAsksWhetherPoint101MayGo) {
 }
 
 TEST_P(PointEditor, ABlockThatIsCutLeavesTheDrawingToo) {
-  Select({1, 1, 2, 2});
-  Copied("1\t2\r3\t4");
-  editor_.cmdPaste_Click();
+  Paste({1, 1, 2, 2}, "1\t2\r3\t4");
   editor_.CutBlock();
   EXPECT_EQ(fakes_.clipboard.Text(), "1\t2\r3\t4");
   EXPECT_TRUE(editor_.MSChart1.Rows().empty());
@@ -172,9 +169,7 @@ TEST_P(PointEditor, ABlockThatIsCutLeavesTheDrawingToo) {
 }
 
 TEST_P(PointEditor, PointsGoOutAndComeIn) {
-  Select({1, 1, 2, 3});
-  Copied(Spelled("0\t10.25\t0.03\r1,005.5\t8"));
-  editor_.cmdPaste_Click();
+  Paste({1, 1, 2, 3}, Spelled("0\t10.25\t0.03\r1,005.5\t8"));
   fakes_.fileDialog.Choices = {file_};
   editor_.mnuFileExport_Click();
   EXPECT_EQ(fakes_.fileDialog.Requests[0].FileName, "Untitled.csv");
@@ -182,9 +177,7 @@ TEST_P(PointEditor, PointsGoOutAndComeIn) {
                                              "(ft);Elevation (ft);n\r\n0;10,25;0,03\r\n1005,5;8;\r\n"
                                            : "# Flumewise: Untitled, 2026-03-09, lengths in ft\r\nStation "
                                              "(ft),Elevation (ft),n\r\n0,10.25,0.03\r\n1005.5,8,\r\n");
-  Select({3, 1, 3, 3});
-  Copied("7\t7\t7");
-  editor_.cmdPaste_Click();
+  Paste({3, 1, 3, 3}, "7\t7\t7");
   fakes_.fileDialog.Choices = {file_};
   windows_.Then<frmImport>([](frmImport& form) { form.cmdOK.Click(); });
   editor_.mnuFileImport_Click();
@@ -239,9 +232,7 @@ TEST_P(PointEditor, AnEditUnderWayIsKeptByTheMenus) {
 TEST_P(PointEditor, AHundredPointsAreJudgedAndStored) {
   std::string text;
   for (int i = 1; i <= 100; ++i) text += std::to_string(i == 100 ? 99 : i) + "\t5\t1\r";
-  Select({1, 1, 100, 3});
-  Copied(text);
-  editor_.cmdPaste_Click();
+  Paste({1, 1, 100, 3}, text);
   editor_.cmdOK_Click();
   EXPECT_EQ(grid_.Selection.Get(), (GridBlock{100, 1, 100, 1}));
   Copied("100");

@@ -10,6 +10,7 @@
 #include "support/FakeServices.h"
 #include "support/LocaleTest.h"
 #include "support/ScriptedHost.h"
+#include "support/Split.h"
 
 /// A station, an elevation and a roughness; here and below texts have "." as the decimal sign.
 using TypedPoint = std::array<std::string, 3>;
@@ -18,6 +19,13 @@ class ProgramStage : public LocaleTest {
  protected:
   ProgramStage() { All.Start(); }
 
+  /// Types into one box after the other: "tbBaseWidth 20, tbSSL 2".
+  void Enter(const char* texts) {
+    for (const std::string& text : Split(texts, ", ")) {
+      const std::size_t blank = text.find(' ');
+      Type(dynamic_cast<TextBox&>(*Main.Find(text.substr(0, blank))), text.substr(blank + 1));
+    }
+  }
   static void Type(TextBox& box, const std::string& text) { box.Text = Spelled(text); }
   static std::string Text(const TextBox& box) { return box.Text; }
 

@@ -9,7 +9,6 @@
 #include "app/Declarations.h"
 #include "engine/NumberText.h"
 #include "support/ProgramStage.h"
-#include "support/Split.h"
 #include "support/TestFolder.h"
 #include "working/frmWorking.h"
 
@@ -75,19 +74,14 @@ class WorkingTest : public ProgramStage {
     Type(Main.tbFlow, flow);
   }
 
-  void TypePrism(MenuItem& type, const Values& typed) {
-    type.Click();
-    for (const auto& [box, text] : typed) Type(dynamic_cast<TextBox&>(*Main.Find(box)), text);
-  }
-
   frmWorking& Window() { return dynamic_cast<frmWorking&>(*Screen.FormsBeside().back()); }
 };
 
 // The values of all problems: a separate computation with the formulas of the manual.
 TEST_P(WorkingTest, MetricTriangleForDepth) {
   Main.mnuOptionsUnitsMetric_Click();
-  TypePrism(Main.mnuOptionsTriangular,
-            {{"tbSSL", "2"}, {"tbSSR", "3"}, {"tbMann", "0.025"}, {"tbSlope", "0.005"}});
+  Main.mnuOptionsTriangular.Click();
+  Enter("tbSSL 2, tbSSR 3, tbMann 0.025, tbSlope 0.005");
   SolveDepth("2");
   ExpectEquations(
       "k = 1.000000 m^(1/3)/s (Manning's equation); y = 0.7549349 m; A = 1.4248 m^2; P = 4.0754 m; "
@@ -102,9 +96,8 @@ TEST_P(WorkingTest, MetricTriangleForDepth) {
 }
 
 TEST_P(WorkingTest, TrapezoidForDepth) {
-  TypePrism(
-      Main.mnuOptionsTrap,
-      {{"tbBaseWidth", "20"}, {"tbSSL", "2"}, {"tbSSR", "3"}, {"tbMann", "0.025"}, {"tbSlope", "0.0016"}});
+  Main.mnuOptionsTrap.Click();
+  Enter("tbBaseWidth 20, tbSSL 2, tbSSR 3, tbMann 0.025, tbSlope 0.0016");
   SolveDepth("400");
   ExpectEquations(
       "y = 3.280074 ft; Steps = 30; A = 92.499 sf; P = 37.707 ft; T = 36.400 ft; R = 2.4531 ft; "

@@ -1,4 +1,5 @@
 // Switching the unit system and back: nothing typed is lost, whatever was typed. Numbers are drawn at random.
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -79,26 +80,21 @@ TEST_P(UnitSwitch, KeepsStationsAscendingAndTheLevelBetween) {
           {PlainNumber(station), PlainNumber(datum + Draw(1e-4, 0.02, 5)), row == 0 ? "0.03" : ""});
       station += Draw(1e-4, 0.1, 5);
     }
-    const auto elevation = [&](std::size_t row) { return LeadingNumber(Spelled(points[row][1])); };
-    double lowest = HUGE_VAL;
-    double highest = 0;
-    for (std::size_t row = 0; row < points.size(); ++row) {
-      lowest = std::min(lowest, elevation(row));
-      highest = std::max(highest, elevation(row));
-    }
-    if (!(lowest < highest)) continue;
+    const auto elevation = [](const TypedPoint& point) { return LeadingNumber(Spelled(point[1])); };
+    const double lowest = elevation(std::ranges::min(points, {}, elevation));
+    const double highest = elevation(std::ranges::max(points, {}, elevation));
+    if (lowest == highest) continue;
     TypeSection(points, PlainNumber(lowest + (highest - lowest) * 0.3));
     for (int times = 0; times < 3; ++times) {
       SCOPED_TRACE(Text(Main.tbDepth));
       const double level = NumberIn(Main.tbDepth);
-      bool above = false;
-      bool below = false;
+      int above = 0, below = 0;
       for (int row = 1; row <= 12; ++row) {
         ASSERT_TRUE(row == 1 || Station(row) > Station(row - 1)) << row;
-        above = above || Elevation(row) < level;
-        below = below || Elevation(row) > level;
+        above += Elevation(row) > level;
+        below += Elevation(row) < level;
       }
-      ASSERT_TRUE(above && below);
+      ASSERT_TRUE(above > 0 && below > 0);
       Switch();
     }
   }

@@ -2,10 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QClipboard>
-#include <QMimeData>
 #include <QTest>
+#include <QtWidgets>
 #include <memory>
 
 #include "desktop/WidgetHands.h"

@@ -1,13 +1,4 @@
 // The help window on a small help file of its own, by keys and clicks, beside the windows that ask for it.
-#include <QDesktopServices>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScrollBar>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTextBlock>
-#include <QWheelEvent>
 
 #include "desktop/Desk.h"
 #include "desktop/help/HelpBrowser.h"

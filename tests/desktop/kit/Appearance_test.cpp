@@ -21,11 +21,6 @@ double Contrast(const QColor& a, const QColor& b) {
   return (lighter + 0.05) / (darker + 0.05);
 }
 
-TEST(Contrast, IsThatOfTheEye) {
-  EXPECT_NEAR(Contrast(Qt::white, Qt::black), 21, 1e-6);
-  EXPECT_NEAR(Contrast(QColor(0x767676), Qt::white), 4.54, 0.005);
-}
-
 struct Scheme {
   const char* Name;
   QRgb Window, WindowText, Base, Text;

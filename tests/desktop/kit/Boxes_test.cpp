@@ -1,9 +1,4 @@
 // Text boxes: editing stays what a person knows, and colours tell inputs, answers and what cannot be used.
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QLabel>
-#include <QMenuBar>
-#include <QMimeData>
 
 #include "desktop/Desk.h"
 #include "desktop/kit/Appearance.h"
@@ -125,7 +120,7 @@ TEST_F(Boxes, UndoEndsWhereAnotherProblemBegins) {
   for (MenuItem* const item : switches) {
     SCOPED_TRACE(item->Caption.Get());
     hands_.Click(main_.mnuSolveForDepth);
-    Enter({{&main_.tbFlow, "400"}, {&main_.tbSlope, "0.5"}});
+    Enter("tbFlow 400, tbSlope 0.5");
     services_.messageBox.Answers = {BoxAnswer::No};
     hands_.Click(*item);
     for (const TextBox* const box : {&main_.tbFlow, &main_.tbSlope, &main_.tbProjName}) {

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
+#include <QtWidgets>
 #include <cmath>
 #include <utility>
 
@@ -22,12 +22,6 @@ double AreaOf(const Outline::Line& polygon) {
   return std::abs(twice) / 2;
 }
 
-double WaterArea(const ShapeInputs& inputs) {
-  double area = 0;
-  for (const Outline::Line& pool : ShapeOf(inputs).Water) area += AreaOf(pool);
-  return area;
-}
-
 /// A channel of the type of which nothing is known.
 ShapeInputs Channel(std::string_view type) {
   return {std::string(type), {}, {}, {}, {}, {}, {}};
@@ -43,16 +37,6 @@ ShapeInputs Pipe(double y, double D) {
 
 ShapeInputs Section(double W, Outline::Line points) {
   return {std::string(ChannelTypes::Irregular), W, {}, {}, {}, {}, std::move(points)};
-}
-
-TEST(Shape, HoldsTheFlowArea) {
-  EXPECT_NEAR(WaterArea(Trapezoid(3, 20, 2, 1)), (20 + 1.5 * 3) * 3, 1e-9);  // (b + (zL + zR) y / 2) y
-  // Two pools of a hump, and a wet first station.
-  const Outline::Line hump{{0, 4}, {2, 0}, {4, 4}, {6, 0}, {8, 4}};
-  EXPECT_NEAR(WaterArea(Section(2, hump)), 4, 1e-9);
-  EXPECT_EQ(ShapeOf(Section(2, hump)).Water.size(), 2U);
-  EXPECT_NEAR(WaterArea(Section(2, {{0, 1}, {3, 0}, {6, 2}})), 4.5 + 3, 1e-9);
-  EXPECT_NEAR(WaterArea(Section(-1, hump)), 0, 1e-9);
 }
 
 TEST(Shape, TellsWhatIsOnlySchematic) {

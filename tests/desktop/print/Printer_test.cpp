@@ -2,17 +2,10 @@
 // document that fails or is cancelled.
 #include <sys/resource.h>
 
-#include <QCheckBox>
-#include <QFile>
-#include <QImage>
-#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTabWidget>
 #include <csignal>
 #include <utility>
 
@@ -180,13 +173,7 @@ TEST_F(Printing, EveryTextIsOnItsLineOfItsPage) {
   expectWhole(Table(100), 100 + 2 * 4, 2);  // on each page title, heads and two lines of the foot
   hands_.Type(main_.tbProjName, "Schleuse \xC3\xBC");
   // Five digits, which the room of a point condenses.
-  TakePoints({{"10013.25", "105.5", "0.035"},
-              {"10014.25", "100", ""},
-              {"10015.25", "100", ""},
-              {"10016.25", "100", ""},
-              {"10017.25", "105.5", ""}});
-  hands_.Click(main_.mnuSolveForFlow);
-  Enter({{&main_.tbSlope, "0.004"}, {&main_.tbDepth, "102"}});
+  EnterSection("10013.25 105.5 0.035, 10014.25 100, 10015.25 100, 10016.25 100, 10017.25 105.5", "102");
   expectWhole(Print::Report(main_), 19, 1);
 }
 

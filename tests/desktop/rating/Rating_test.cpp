@@ -1,7 +1,4 @@
 // The windows of rating table and graph and their settings, worked by mouse and keys.
-#include <QHeaderView>
-#include <QLabel>
-#include <QStatusBar>
 
 #include "desktop/Desk.h"
 #include "desktop/chart/ChartWidget.h"

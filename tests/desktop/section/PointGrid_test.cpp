@@ -1,12 +1,10 @@
 // The point editor as a small spreadsheet: real keys, real mouse, the clipboard of other programs.
-#include <QHeaderView>
-#include <QScrollBar>
 
+#include "desktop/section/PointGrid.h"
 #include "desktop/Desk.h"
 #include "desktop/chart/ChartPlot.h"
 #include "desktop/chart/ChartWidget.h"
 #include "desktop/kit/Appearance.h"
-#include "desktop/section/PointGrid.h"
 #include "section/frmIrreg.h"
 
 namespace {
@@ -14,8 +12,9 @@ namespace {
 class PointEditor : public Desk {
  protected:
   /// Runs `act` in the open editor; the section has these points.
-  void Edit(const Points& points, const std::function<void()>& act) {
+  void Edit(const char* points, const std::function<void()>& act) {
     TakePoints(points);
+    if (*points == '\0') ChannelState.IrregPointCount = 0;
     InModal(main_.cmdIrreg, [&](Form& form) {
       form_ = &dynamic_cast<frmIrreg&>(form);
       view_ = &hands_.Of<PointGrid>(form_->MSFlexGrid1);
@@ -38,7 +37,7 @@ class PointEditor : public Desk {
 };
 
 TEST_F(PointEditor, F2EditsTypingReplacesAndEscapeDropsTheEditBeforeItClosesTheWindow) {
-  Edit({{"5", "8", "0.03"}}, [this] {
+  Edit("5 8 0.03", [this] {
     EXPECT_TRUE(GridHasTheKeyboard());
     Press("F2 7 Return");
     EXPECT_EQ(Cell(1, 1), "57");
@@ -67,7 +66,7 @@ TEST_F(PointEditor, F2EditsTypingReplacesAndEscapeDropsTheEditBeforeItClosesTheW
 }
 
 TEST_F(PointEditor, WrongTextsAreTintedAndThePreviewColoursCompletePointsByN) {
-  Edit({{"0", "8", "0.08"}, {"5", "2", "0.03"}, {"9", "8", ""}}, [this] {
+  Edit("0 8 0.08, 5 2 0.03, 9 8", [this] {
     const auto ground = [this](int row, int col) {
       return view_->viewport()->grab().toImage().pixelColor(Place(row, col).topLeft() + QPoint(2, 2));
     };
@@ -92,7 +91,7 @@ TEST_F(PointEditor, WrongTextsAreTintedAndThePreviewColoursCompletePointsByN) {
 }
 
 TEST_F(PointEditor, KeysOfAnOpenCellDoNotReachTheGrid) {
-  Edit({{"0", "8", "0.03"}, {"5", "2", ""}, {"9", "8", ""}}, [this] {
+  Edit("0 8 0.03, 5 2, 9 8", [this] {
     Select({2, 2, 2, 2});
     Press("1 2");
     for (const char* const keys :
@@ -116,7 +115,7 @@ TEST_F(PointEditor, KeysOfAnOpenCellDoNotReachTheGrid) {
 }
 
 TEST_F(PointEditor, ASurveyLongerThanTheTableIsNotCutSilently) {
-  Edit({{"0", "8", "0.03"}}, [this] {
+  Edit("0 8 0.03", [this] {
     std::string rows;
     for (int i = 0; i < 150; ++i) rows += std::to_string(i) + "\t7\r\n";
     services_.clipboard.SetText(rows);
@@ -128,7 +127,7 @@ TEST_F(PointEditor, ASurveyLongerThanTheTableIsNotCutSilently) {
 }
 
 TEST_F(PointEditor, KeysMoveTheCellAndShiftMovesTheEndOfTheBlock) {
-  Edit({{"0", "8", "0.03"}, {"5", "2", ""}, {"9", "8", ""}}, [this] {
+  Edit("0 8 0.03, 5 2, 9 8", [this] {
     struct Step {
       const char* Keys;
       GridBlock Then;
@@ -181,7 +180,7 @@ TEST_F(PointEditor, KeysMoveTheCellAndShiftMovesTheEndOfTheBlock) {
 }
 
 TEST_F(PointEditor, WhatMovesStaysInSight) {
-  Edit({}, [this] {
+  Edit("", [this] {
     const auto seen = [this](int row) { return view_->viewport()->rect().contains(Place(row, 1)); };
     EXPECT_FALSE(view_->horizontalScrollBar()->isVisible());
     Press("Ctrl+Down");
@@ -198,7 +197,7 @@ TEST_F(PointEditor, WhatMovesStaysInSight) {
 }
 
 TEST_F(PointEditor, TheBoxLiesOverItsCell) {
-  Edit({}, [this] {
+  Edit("", [this] {
     const auto expectOver = [this](int row, int col) {
       const QRect cell = Place(row, col);
       const QRect box = Box().geometry();
@@ -220,7 +219,7 @@ TEST_F(PointEditor, TheBoxLiesOverItsCell) {
 }
 
 TEST_F(PointEditor, TheMouseSelectsBlocksRowsAndColumnsAndKeepsTheEdit) {
-  Edit({{"0", "8", "0.03"}, {"5", "2", ""}}, [this] {
+  Edit("0 8 0.03, 5 2", [this] {
     QWidget* const cells = view_->viewport();
     Drag(*cells, Place(2, 1).center(), Place(4, 3).center());
     EXPECT_EQ(Block(), (GridBlock{2, 1, 4, 3}));
@@ -237,7 +236,7 @@ TEST_F(PointEditor, TheMouseSelectsBlocksRowsAndColumnsAndKeepsTheEdit) {
 }
 
 TEST_F(PointEditor, DraggingBeyondTheEdgeGoesOn) {
-  Edit({}, [this] {
+  Edit("", [this] {
     QWidget* const cells = view_->viewport();
     const QPoint below(Place(1, 2).center().x(), cells->height() + 20);
     QTest::mousePress(cells, Qt::LeftButton, {}, Place(1, 1).center());
@@ -253,7 +252,7 @@ TEST_F(PointEditor, DraggingBeyondTheEdgeGoesOn) {
 }
 
 TEST_F(PointEditor, AButtonPressedByItsLetterKeepsTheEditAndARefusalComesBackToTheTable) {
-  Edit({{"0", "8", "0.03"}, {"5", "2", ""}}, [this] {
+  Edit("0 8 0.03, 5 2", [this] {
     Press("Down 0 Alt+O");
     EXPECT_TRUE(QTest::qWaitFor([this] { return !services_.messageBox.Boxes.empty(); }));
     EXPECT_EQ(Block(), (GridBlock{2, 1, 2, 1}));
@@ -265,7 +264,7 @@ TEST_F(PointEditor, AButtonPressedByItsLetterKeepsTheEditAndARefusalComesBackToT
 }
 
 TEST_F(PointEditor, KeysCutCopyPasteDeleteAndUndo) {
-  Edit({}, [this] {
+  Edit("", [this] {
     services_.clipboard.SetText("0\t10\t0.03\r\n5\t8\t\r\n9\t10.5\t0.04\r\n");
     Press("Ctrl+V");
     EXPECT_EQ(Block(), (GridBlock{1, 1, 3, 3}));

@@ -2,8 +2,6 @@
 // it is safe or given up.
 #include <sys/resource.h>
 
-#include <QMessageBox>
-#include <QPushButton>
 #include <filesystem>
 #include <fstream>
 
@@ -160,7 +158,7 @@ TEST_F(RecoveryTest, WhatCannotBeOpenedIsSetAsideAndTold) {
 }
 
 TEST_F(RecoveryTest, PointsThatTheEditorRefusesAreKeptAndComputeNothing) {
-  TakePoints({{"0", "10", "0.03"}, {"8", "5", ""}, {"9", "12", ""}});
+  TakePoints("0 10 0.03, 8 5, 9 12");
   main_.tbFlow.Text = "3";
   main_.tbSlope.Text = "0.001";
   EXPECT_NE(main_.tbArea.Text.Get(), "");

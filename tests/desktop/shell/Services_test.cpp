@@ -1,15 +1,8 @@
 // Message boxes and file dialogs of the desktop, answered by keys.
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QDir>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
+#include <QtWidgets>
 
 #include "desktop/Dialogs.h"
 #include "desktop/shell/QtServices.h"
