@@ -1,6 +1,7 @@
 // See Declarations.h.
 #include "app/Declarations.h"
 
+#include "app/LastUsed.h"
 #include "engine/ChannelState.h"
 
 namespace Declarations {
@@ -8,6 +9,7 @@ namespace Declarations {
 void Reset() {
   ChannelState = ChannelRecord{};
   RatingRange = RatingRangeRecord{};
+  ForgetLastUsed();
   DataChanged = false;
   FilePath = FileTitle = Untitled;
   UserPath.clear();

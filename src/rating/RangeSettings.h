@@ -1,27 +1,24 @@
-// What the settings dialogs of rating graph and rating table have in common: which input is varied, and over
-// which range.
+// What the settings dialogs of rating graph and rating table have in common: the varied input and its range,
+// proposed or last used, and OK.
 #pragma once
 
+#include <optional>
 #include <string>
-#include <vector>
 
-#include "app/Declarations.h"
-#include "engine/EngineValue.h"
-#include "platform/Controls.h"
+#include "app/LastUsed.h"
+#include "rating/RangeControls.h"
 
-struct Field;
-
-class RangeSettings : public Form {
+class RangeSettings : public Form, public RangeControls {
  public:
   Label lblSolveFor{this, "lblSolveFor"};
-  Label Frame1{this, "Frame1"}, Label1{this, "Label1"}, Label2{this, "Label2"};
-  ComboBox cbxVary{this, "cbxVary"};
-  TextBox tbMin{this, "tbMin"}, tbMax{this, "tbMax"};
-  ControlArray<Label, 0, 1> lblunits{this, "lblunits"};
+  Label Frame1{this, "Frame1"};
+  /// Takes the range last used for the input chosen; hidden while there is none.
+  Button cmdLastUsed{this, "cmdLastUsed"};
   Button cmdOK{this, "cmdOK"}, cmdCancel{this, "cmdCancel"};
 
   /// Proposes a range for the input chosen.
   virtual void cbxVary_Click();
+  virtual void cmdLastUsed_Click();
   virtual void cmdOK_Click();
   void cmdCancel_Click();
 
@@ -35,25 +32,18 @@ class RangeSettings : public Form {
   void EnableOK();
   /// The same for the step, where the dialog asks for one; true when it can be used.
   virtual bool MarkStep() { return true; }
-  /// Puts the offence on the box, as its tool tip and tint; true when it is empty.
-  static bool Mark(TextBox& box, const std::string& offence);
-
-  /// Tells a paste that is too long in the same place.
-  static void RefuseLongTexts(TextBox& box);
-
-  /// The number in a box in feet and seconds.
-  static double Internal(const TextBox& box);
-  /// A value of the varied input as the boxes show it, from feet and seconds.
-  static std::string Shown(const EngineValue& value);
-  /// The varied input is shown with decimals.
-  static bool HasFixedDecimals();
+  /// The step typed, in feet and seconds; nothing where the dialog asks for none.
+  virtual std::optional<double> TypedStep() const { return std::nullopt; }
+  /// How far a range that can be used goes.
+  virtual std::string Extent() const = 0;
+  /// Null: none was used yet.
+  const UsedRange* UsedForInput() const;
 
  private:
   /// The range of another input: no undo brings back what was typed for the one before.
   void ProposeRange();
-  std::string LastOffence() const;
+  void OfferLastUsed();
 
-  std::vector<const Field*> inputs_;  // each line of cbxVary
-  RatingRangeRecord before_;          // the range in force when the dialog opened
+  RatingRangeRecord before_;  // the range in force when the dialog opened
   bool accepted_ = false;
 };

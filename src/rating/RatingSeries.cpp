@@ -44,6 +44,22 @@ std::optional<Reason> TryPoint(int varyCode, const std::function<void()>& store)
   }
 }
 
+/// Visits the values of the range in order until `visit` returns false or a step no longer moves them.
+template <class Visit>
+void ForEachValue(const RatingRangeRecord& range, LastValue lastValue, Visit visit) {
+  const double last = range.RangeMax.Number();
+  const double step = range.RangeStep.Number();
+  bool maySnap = lastValue == LastValue::Snapped;
+  for (double x = range.RangeMin.Number(); x <= last;) {
+    if (!visit(x) || !(x + step > x)) return;
+    x += step;
+    if (maySnap && std::abs(x - last) < SnapDistance) {
+      x = last;
+      maySnap = false;
+    }
+  }
+}
+
 /// True for the first value of the range proposed for this input, rounded as the dialog shows it.
 bool IsWhereRangesBegin(const Field& input, double x) {
   const double first = LowestVaried(input);
@@ -130,13 +146,10 @@ RatingOutcome StepRatingSeries(const RatingRangeRecord& range, LastValue lastVal
                                const std::function<bool(int points)>& goesOn) {
   const Field* const input = FindVariedInput(range.VaryCode);
   const double first = range.RangeMin.Number();
-  const double last = range.RangeMax.Number();
-  const double step = range.RangeStep.Number();
-  bool maySnap = lastValue == LastValue::Snapped;
   RatingOutcome outcome;
   std::optional<Reason> atTheBeginning;
   int rows = 0;
-  for (double x = first; x <= last;) {
+  ForEachValue(range, lastValue, [&](double x) {
     if (input != nullptr) ChannelState.*input->Cell = x;
     const std::optional<Reason> gap = TryPoint(range.VaryCode, [&] {
       store(rows + 1);
@@ -148,17 +161,9 @@ RatingOutcome StepRatingSeries(const RatingRangeRecord& range, LastValue lastVal
     } else if (gap) {
       outcome.Gaps.Add(*gap);
     }
-    if (!goesOn(outcome.Points)) {
-      outcome.Cancelled = true;
-      break;
-    }
-    if (!(x + step > x)) break;
-    x += step;
-    if (maySnap && std::abs(x - last) < SnapDistance) {
-      x = last;
-      maySnap = false;
-    }
-  }
+    outcome.Cancelled = !goesOn(outcome.Points);
+    return !outcome.Cancelled;
+  });
   if (atTheBeginning && outcome.Points > 1) {
     --outcome.Points;
   } else if (atTheBeginning) {
@@ -173,6 +178,25 @@ void ProposeRange(int steps) {
   RatingRange.RangeMin = LowestVaried(given);
   RatingRange.RangeMax = ChannelState.*given.Cell;
   RatingRange.RangeStep = (RatingRange.RangeMax.Number() - RatingRange.RangeMin.Number()) / steps;
+}
+
+RatingPlan PlanRatingSeries(const RatingRangeRecord& range, LastValue lastValue) {
+  const ChannelRecord before = ChannelState;
+  const Field* const input = FindVariedInput(range.VaryCode);
+  RatingPlan plan;
+  ForEachValue(range, lastValue, [&](double x) {
+    if (input != nullptr) ChannelState.*input->Cell = x;
+    frmMain::FillPipe();
+    if (IsRatingPointValid(range.VaryCode)) ++plan.Points;
+    plan.ReachesEnd = x == range.RangeMax.Number();
+    return true;
+  });
+  ChannelState = before;
+  return plan;
+}
+
+std::string Counted(int number, const std::string& what) {
+  return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
 }
 
 bool IsRatingPointValid(int varyCode) {

@@ -70,6 +70,18 @@ void ProposeRange(int steps);
 /// How many steps are proposed for a table.
 inline constexpr int ProposedTableSteps = 20;
 
+/// How far a series goes, before anything is solved.
+struct RatingPlan {
+  int Points = 0;           ///< at which the varied input has a value that can be computed
+  bool ReachesEnd = false;  ///< the last value of the range is one of the steps
+};
+
+/// Steps through the range as RunRatingSeries does; the problem record is as before.
+RatingPlan PlanRatingSeries(const RatingRangeRecord& range, LastValue lastValue);
+
+/// "1 row", "19 rows".
+std::string Counted(int number, const std::string& what);
+
 /// True when the problem record can be solved at the present value of the varied input. EngineFault for an
 /// irregular section without points.
 bool IsRatingPointValid(int varyCode);

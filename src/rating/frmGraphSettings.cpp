@@ -1,25 +1,7 @@
 // See frmGraphSettings.h.
 #include "rating/frmGraphSettings.h"
 
-#include <vector>
-
-#include "app/Declarations.h"
-#include "app/main/Fields.h"
-
-namespace {
-
-constexpr int Steps = 200;
-
-/// What can be plotted, headed by the quantity solved for.
-std::vector<const Field*> PlottedResults() {
-  std::vector<const Field*> results;
-  for (const Field& field : Fields()) {
-    if (field.IsResult() && field.ListName != nullptr) results.push_back(&field);
-  }
-  return results;
-}
-
-}  // namespace
+#include "rating/PlotList.h"
 
 frmGraphSettings::frmGraphSettings() : RangeSettings("frmGraphSettings") {
   Caption = "Rating Graph Settings";
@@ -29,23 +11,20 @@ frmGraphSettings::frmGraphSettings() : RangeSettings("frmGraphSettings") {
 }
 
 void frmGraphSettings::Form_Load() {
-  std::vector<std::string> names;
-  int plotted = -1;
-  for (const Field* const each : PlottedResults()) {
-    if (each->RatingColumn == RatingRange.GraphYColumn) plotted = static_cast<int>(names.size());
-    names.emplace_back(each->ListName);
-  }
-  cbxY.Items = names;
   RangeSettings::Form_Load();
-  cbxY.ListIndex = plotted;
+  ShowPlotInForce(cbxY);
 }
 
 void frmGraphSettings::cbxY_Click() {
-  RatingRange.GraphYColumn = PlottedResults()[static_cast<std::size_t>(cbxY.ListIndex)]->RatingColumn;
+  RatingRange.GraphYColumn = PlottedColumn(cbxY);
   EnableOK();
 }
 
+std::string frmGraphSettings::Extent() const {
+  return GraphExtent(InGraphSteps(TypedRange()));
+}
+
 void frmGraphSettings::cmdOK_Click() {
-  RatingRange.RangeStep = (Internal(tbMax) - Internal(tbMin)) / Steps;
+  RatingRange.RangeStep = InGraphSteps(TypedRange()).RangeStep;
   RangeSettings::cmdOK_Click();
 }

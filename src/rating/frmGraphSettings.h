@@ -15,4 +15,7 @@ class frmGraphSettings : public RangeSettings {
 
  protected:
   void Form_Load() override;
+
+ private:
+  std::string Extent() const override;
 };

@@ -6,6 +6,7 @@
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "engine/NumberText.h"
+#include "rating/RatingSeries.h"
 
 namespace {
 
@@ -24,6 +25,7 @@ frmTableSettings::frmTableSettings() : RangeSettings("frmTableSettings") {
   Label4.Caption = "Vary";
   RefuseLongTexts(tbIncrement);
   tbIncrement.Change = [this] { EnableOK(); };
+  checked_.push_back(&tbIncrement);
 }
 
 void frmTableSettings::Form_Load() {
@@ -33,6 +35,20 @@ void frmTableSettings::Form_Load() {
 
 void frmTableSettings::cbxVary_Click() {
   RangeSettings::cbxVary_Click();
+  ProposeStep();
+}
+
+void frmTableSettings::cmdLastUsed_Click() {
+  const std::optional<double> step = UsedForInput()->Step;
+  RangeSettings::cmdLastUsed_Click();
+  if (step) {
+    tbIncrement.Text = ShownWhole(*step);
+  } else {
+    ProposeStep();
+  }
+}
+
+void frmTableSettings::ProposeStep() {
   const double step = (NumberIn(tbMax) - NumberIn(tbMin)) / DefaultSteps;  // already in the unit on display
   tbIncrement.Text = ShownNumber(step, Units::Dimensionless, HasFixedDecimals());
 }
@@ -48,6 +64,14 @@ std::string frmTableSettings::StepOffence() const {
   // Also when the range is too wide for a number of steps.
   const bool tooMany = !((NumberIn(tbMax) - NumberIn(tbMin)) / step <= MostSteps);
   return tooMany ? "Step must be greater: the range has more than 10000 steps" : "";
+}
+
+std::string frmTableSettings::Extent() const {
+  RatingRangeRecord range = TypedRange();
+  range.RangeStep = Internal(tbIncrement);
+  const RatingPlan plan = PlanRatingSeries(range, LastValue::Snapped);
+  const std::string rows = Counted(plan.Points, "row");
+  return plan.ReachesEnd ? rows : rows + "; " + tbMax.Text.Get() + " is not reached";
 }
 
 void frmTableSettings::cmdOK_Click() {

@@ -11,12 +11,16 @@ class frmTableSettings : public RangeSettings {
   TextBox tbIncrement{this, "tbIncrement"};
 
   void cbxVary_Click() override;
+  void cmdLastUsed_Click() override;
   void cmdOK_Click() override;
 
  protected:
   void Form_Load() override;
 
  private:
+  void ProposeStep();
   bool MarkStep() override;
+  std::optional<double> TypedStep() const override { return Internal(tbIncrement); }
+  std::string Extent() const override;
   std::string StepOffence() const;
 };

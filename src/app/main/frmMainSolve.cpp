@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/Declarations.h"
+#include "app/LastUsed.h"
 #include "app/NoteSpelling.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
@@ -29,6 +30,7 @@ double FactorOf(int quantity) {
 }  // namespace
 
 void frmMain::CheckInputs() {
+  LastUsed();  // forgets what was used for another channel type
   std::string whyNone = MarkOffences();
   solved_ = false;
   if (whyNone.empty()) {

@@ -10,6 +10,7 @@
 
 GraphSettingsView::GraphSettingsView(frmGraphSettings& form, QWidget* parent)
     : RangeSettingsView(form, form.Label6, parent) {
+  AddLastUsed();
   QGroupBox* const plot = Bind::Group(form.Frame2, this, "p");
   auto* const inside = new QVBoxLayout(plot);
   QComboBox* const list = Bind::Combo(form.cbxY, plot);

@@ -11,7 +11,7 @@
 #include "desktop/kit/Text.h"
 
 RangeSettingsView::RangeSettingsView(RangeSettings& form, Label& vary, QWidget* parent)
-    : FormDialog(form, parent), form_(form), reason_(new QLabel(this)) {
+    : FormDialog(form, parent), form_(form) {
   QLabel* const heading = Bind::Caption(form.lblSolveFor, this);
   QFont bold = heading->font();
   bold.setBold(true);
@@ -41,7 +41,6 @@ void RangeSettingsView::AddRow(Label& caption, TextBox& box, const char* letters
   range_->addWidget(label, row, 0);
   range_->addWidget(edit, row, 1);
   range_->addWidget(unit, row, 2);
-  boxes_.push_back(&box);
   Label& unitControl = form_.lblunits[0];
   const auto describe = [&unitControl, &box, edit, unit] {
     unit->setText(Printed(unitControl.Caption.Get()));
@@ -58,19 +57,15 @@ QLabel* RangeSettingsView::SameUnit() {
   return new QLabel(group_);
 }
 
-void RangeSettingsView::Finish() {
-  reason_->setWordWrap(true);
-  // Its room is kept, so that the dialog does not jump while a number is typed.
-  reason_->setMinimumHeight(2 * fontMetrics().lineSpacing());
-  Column().addWidget(reason_);
-  for (TextBox* const box : boxes_) Bind::Follow(box->ToolTip, reason_, [this] { TellReason(); });
-  AddButtons(Bind::Push(form_.cmdOK, this), Bind::Push(form_.cmdCancel, this));
+void RangeSettingsView::AddLastUsed() {
+  range_->addWidget(Bind::Push(form_.cmdLastUsed, group_, "u"), range_->rowCount(), 1, 1, 2);
 }
 
-void RangeSettingsView::TellReason() {
-  QString reason;
-  for (const TextBox* const box : boxes_) {
-    if (reason.isEmpty()) reason = ToQt(box->ToolTip.Get());
-  }
-  reason_->setText(reason);
+void RangeSettingsView::Finish() {
+  QLabel* const extent = Bind::Caption(form_.lblRange, this);
+  extent->setWordWrap(true);
+  // Its room is kept, so that the dialog does not jump while a number is typed.
+  extent->setMinimumHeight(2 * fontMetrics().lineSpacing());
+  Column().addWidget(extent);
+  AddButtons(Bind::Push(form_.cmdOK, this), Bind::Push(form_.cmdCancel, this));
 }

@@ -16,15 +16,13 @@ class RangeSettingsView : public FormDialog {
   void AddRow(Label& caption, TextBox& box, const char* letters, QLabel* unit);
   /// The unit of the range once more.
   QLabel* SameUnit();
-  /// What keeps OK off, and the buttons.
+  /// The range last used, below the rows of the range.
+  void AddLastUsed();
+  /// What keeps OK off or how far the range goes, and the buttons.
   void Finish();
 
  private:
-  void TellReason();
-
   RangeSettings& form_;
   QGroupBox* group_;
   QGridLayout* range_;
-  std::vector<TextBox*> boxes_;
-  QLabel* reason_;
 };

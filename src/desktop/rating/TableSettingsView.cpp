@@ -4,5 +4,6 @@
 TableSettingsView::TableSettingsView(frmTableSettings& form, QWidget* parent)
     : RangeSettingsView(form, form.Label4, parent) {
   AddRow(form.Label3, form.tbIncrement, "s", SameUnit());
+  AddLastUsed();
   Finish();
 }
