@@ -60,6 +60,8 @@ class FlexGrid : public FocusControl {
   Property<std::vector<int>> ColWidths;  ///< twips
   /// A cell whose text cannot be used as it is: the view tints it. None in row 0.
   Property<GridCell> Offending;
+  /// A row that stands out; 0: none. Set before the rows are loaded.
+  Property<int> MarkedRow{0};
 
   std::function<void()> Press;  ///< a mouse button goes down on a cell, before it becomes the current one
   std::function<void()> DblClick;

@@ -122,9 +122,10 @@ ColumnPositions TablePositions(int right, int lastColumn) {
 
 class TableWriter {
  public:
-  TableWriter(Printer& printer, const frmMain& main, const FlexGrid& grid)
+  TableWriter(Printer& printer, const frmMain& main, const FlexGrid& grid, const std::string& note)
       : printer_(printer),
         grid_(grid),
+        note_(note),
         page_(printer, main),
         x_(TablePositions(page_.Right(), grid.Cols() - 1)) {}
 
@@ -142,6 +143,10 @@ class TableWriter {
 
  private:
   void Heads() {
+    if (!note_.empty()) {
+      page_.SetFont(TableFont);
+      page_.EndLine(page_.Cell(Layout::LeftMargin, page_.Right(), note_, PrintedAs::Name) + 1);
+    }
     page_.SetFont(TableHeadFont);
     Row(0);
     page_.SetFont(TableFont);
@@ -158,6 +163,7 @@ class TableWriter {
 
   Printer& printer_;
   const FlexGrid& grid_;
+  const std::string& note_;
   PageWriter page_;
   const ColumnPositions x_;
 };
@@ -198,8 +204,8 @@ Document Graph(const frmMain& main, const XYChart& chart) {
   }};
 }
 
-Document Table(const frmMain& main, const FlexGrid& grid) {
-  return {[&main, &grid](Printer& printer) { TableWriter(printer, main, grid).Write(); }, true};
+Document Table(const frmMain& main, const FlexGrid& grid, const std::string& note) {
+  return {[&main, &grid, note](Printer& printer) { TableWriter(printer, main, grid, note).Write(); }, true};
 }
 
 void ToPrinter(const Document& document) {

@@ -32,8 +32,8 @@ Document Report(const frmMain& main, const Appendix& appendix = {});
 /// The inputs and the picture of a chart.
 Document Graph(const frmMain& main, const XYChart& chart);
 /// A grid with its heads on every page, the columns behind the leading one of equal width. At most 20 of
-/// them, else std::out_of_range.
-Document Table(const frmMain& main, const FlexGrid& grid);
+/// them, else std::out_of_range. `note` stands above the heads of every page; empty: none.
+Document Table(const frmMain& main, const FlexGrid& grid, const std::string& note = {});
 
 /// Asks for a printer and prints; nothing when the person cancels. A failure is told in a message box.
 void ToPrinter(const Document& document);

@@ -15,6 +15,8 @@ struct RatingColumn {
 
   /// Caption and unit; of a column without values the caption alone.
   std::string Header() const;
+  /// Caption, this value and unit: "Depth 1.250 m".
+  std::string Told(const std::string& value) const;
   /// The record's value as the table shows it; "-" where there are no values. EngineFault when the value is
   /// too large for the unit.
   std::string Text() const;

@@ -19,9 +19,8 @@ std::string Joined(const std::vector<std::string>& fields, char separator) {
 
 }  // namespace
 
-std::string RatingTableAsCsv(const std::vector<RatingNumbers>& rows) {
+std::string RatingTableAsCsv(const RatingColumns& columns, const std::vector<RatingNumbers>& rows) {
   const char separator = CurrentNumberLocale().DecimalSign == "," ? ';' : ',';
-  const RatingColumns columns = CurrentRatingColumns();
   const auto line = [&](const auto& field) {
     std::vector<std::string> fields;
     for (std::size_t column = 0; column < columns.size(); ++column) {

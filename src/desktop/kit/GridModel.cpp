@@ -1,6 +1,7 @@
 // See GridModel.h.
 #include "desktop/kit/GridModel.h"
 
+#include <QApplication>
 #include <QPointer>
 
 #include "desktop/kit/Text.h"
@@ -39,6 +40,11 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) return ToQt(grid_.Text(index.row() + 1, index.column() + 1));
   if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  if (role == Qt::FontRole && index.row() + 1 == grid_.MarkedRow) {
+    QFont bold = QApplication::font("QTableView");
+    bold.setBold(true);
+    return bold;
+  }
   return {};
 }
 

@@ -39,6 +39,10 @@ class CellDelegate : public QStyledItemDelegate {
                           Appearance::Mixed(colours.color(QPalette::Base), highlight, 0.25));
     cell.palette.setColor(QPalette::HighlightedText, colours.color(QPalette::Text));
     cell.state.setFlag(QStyle::State_HasFocus, false);
+    if (index.row() + 1 == grid_.MarkedRow) {
+      painter->fillRect(option.rect, Appearance::Mixed(colours.color(QPalette::Base),
+                                                       Appearance::WaterSurface(colours), 0.25));
+    }
     if (current || offending) {
       cell.state.setFlag(QStyle::State_Selected, false);
       painter->fillRect(option.rect,

@@ -13,13 +13,20 @@ TableView::TableView(frmTable& form, QWidget* parent) : RatingView(form, parent)
   table->setAccessibleName(tr("Rating table"));
   table->setContextMenuPolicy(Qt::ActionsContextMenu);
   table->addAction(CopyAction());
-  SetContent(table);
+  QLabel* const hidden = Bind::Caption(form.lblHidden, this);
+  hidden->setWordWrap(true);
+  hidden->setContentsMargins(Below());
+  SetContent(table)->insertWidget(1, hidden);
+  AddMenu(tr("&View"), {{&form.mnuViewHideConstant, "h", {}}})->actions().first()->setCheckable(true);
 
   auto* const count = new QLabel(this);
   statusBar()->addWidget(count);
-  const auto tell = [table, count] {
+  const auto tell = [table, count, &form] {
     const int rows = table->model()->rowCount();
-    count->setText(rows == 1 ? tr("1 row") : tr("%L1 rows").arg(rows));
+    const int marked = form.MSFlexGrid1.MarkedRow;
+    QString text = rows == 1 ? tr("1 row") : tr("%L1 rows").arg(rows);
+    if (marked > 0) text += tr("; row %L1 is the problem as typed").arg(marked);
+    count->setText(text);
   };
   connect(table->model(), &QAbstractItemModel::modelReset, count, tell);
   tell();

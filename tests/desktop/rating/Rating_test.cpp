@@ -42,7 +42,13 @@ TEST_F(Rating, TheTableHasRoomForItsTextsAndTellsItsRows) {
       EXPECT_GE(table.columnWidth(column),
                 table.horizontalHeader()->sectionSizeHint(column) - table.fontMetrics().height());
     }
-    EXPECT_TRUE(hands_.Window(form).findChild<QStatusBar*>()->findChild<QLabel*>()->text().startsWith(u"20"));
+    EXPECT_EQ(hands_.Window(form).findChild<QStatusBar*>()->findChild<QLabel*>()->text(),
+              u"20 rows; row 20 is the problem as typed");
+    const auto isBold = [&table](int row) {
+      return table.model()->index(row, 3).data(Qt::FontRole).value<QFont>().bold();
+    };
+    EXPECT_TRUE(isBold(19));
+    EXPECT_FALSE(isBold(18));
   });
 }
 
