@@ -16,6 +16,12 @@ struct ChartStretch {
   bool operator==(const ChartStretch&) const = default;
 };
 
+/// A marked point, in words as well.
+struct ChartPoint {
+  double X = 0, Y = 0;
+  std::string Text;
+};
+
 /// Extent of a chart's picture, in any one unit: its proportions are what counts.
 struct ChartSize {
   int Width = 0;
@@ -26,6 +32,16 @@ class XYChart : public Control {
  public:
   using Control::Control;
   using Row = std::vector<std::optional<double>>;
+
+  /// A line beside those of the rows.
+  struct Curve {
+    std::string Name;
+    std::vector<Row> Points;           ///< a pair of x and y each
+    std::vector<ChartStretch> Marked;  ///< as of the rows
+    int Colour = 0;                    ///< 0: as the first line of the rows; equal numbers, equal colours
+    bool Dashed = false;
+    bool NamedAtEnd = true;
+  };
 
   const std::vector<Row>& Rows() const { return rows_; }
   int Cols() const { return cols_; }
@@ -41,6 +57,12 @@ class XYChart : public Control {
   Property<bool> UniformAxis{false};  ///< one scale for both axes: a circle is drawn round
   /// Parts of the lines that are drawn so that they stand out.
   Property<std::vector<ChartStretch>> Marked;
+
+  // What is drawn beside the rows, from the next loading on.
+  std::vector<std::string> Heading;  ///< lines above the axes
+  std::string RowsName;              ///< of the first line of the rows, at its end; empty: none
+  std::vector<Curve> Curves;
+  std::optional<ChartPoint> Present;  ///< marked, and its words beside it
 
   // Set by the view.
   ChartSize Size{4, 3};  ///< as shown; without a view the proportions of an old screen

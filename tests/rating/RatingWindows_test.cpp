@@ -1,6 +1,7 @@
 // The windows of table and graph where no conversation reaches: long series, marks, pictures and files.
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <filesystem>
 
 #include "app/Declarations.h"
@@ -81,6 +82,85 @@ TEST_P(RatingWindows, TheGraphMarksWhereTheFlowFalls) {
     EXPECT_EQ(marked.Last, static_cast<int>(rows.size()) - 1);
     EXPECT_TRUE(graph.lblMarked.Visible);
   });
+}
+
+TEST_P(RatingWindows, TheGraphShowsProjectProblemAndCriticalDepth) {
+  TypeRectangle();
+  Main.tbProjName.Text = "Mill race";
+  OpenGraph([this](frmGraph& graph) {
+    const XYChart& chart = graph.MSChart1;
+    EXPECT_THAT(chart.Heading,
+                testing::ElementsAre("Mill race", "Rectangular Channel: b 10 ft, n " + Spelled("0.013") +
+                                                      ", S " + Spelled("0.001")));
+    ASSERT_TRUE(chart.Present);
+    EXPECT_EQ(chart.Present->Text, Spelled("Depth 2.000 ft\nFlow 91.7 cfs"));
+    EXPECT_NEAR(chart.Present->Y, 91.696, 0.001);
+    ASSERT_EQ(chart.Curves.size(), 1U);
+    EXPECT_EQ(chart.Curves[0].Name, "Critical Depth");
+    EXPECT_TRUE(chart.Curves[0].Dashed);
+    for (const XYChart::Row& point : chart.Curves[0].Points)
+      ASSERT_NEAR(*point[0], std::cbrt(*point[1] * *point[1] / 100 / 32.174), 1e-4);
+    graph.mnuViewSwap_Click();
+    EXPECT_NEAR(chart.Present->X, 91.696, 0.001);
+    EXPECT_EQ(chart.Present->Text, Spelled("Flow 91.7 cfs\nDepth 2.000 ft"));
+    EXPECT_NEAR(*chart.Curves[0].Points.back()[1], 1.37, 0.01);
+    graph.cbxY.ListIndex = 1;  // a velocity
+    EXPECT_THAT(chart.Curves, IsEmpty());
+    Type(graph.tbMax, "1.5");
+    EXPECT_FALSE(chart.Present) << "it is beyond the range";
+  });
+}
+
+TEST_P(RatingWindows, EachCurveOfAFamilyIsTheGraphOfItsValueAlone) {
+  struct Case {
+    MenuItem& Type;
+    bool SolveForFlow;
+    int Vary;
+    const char* Last;
+    int Family;
+    TextBox& Box;
+    std::vector<std::string> Values;  // the first is that of the problem
+  };
+  const Case cases[] = {{Main.mnuOptionsRect, true, 0, "3", 3, Main.tbBaseWidth, {"10", "8", "12.5"}},
+                        {Main.mnuOptionsRect, false, 0, "40", 2, Main.tbMann, {"0.013", "0.011", "0.015"}},
+                        {Main.mnuOptionsCircular, true, 0, "4", 2, Main.tbMann, {"0.013", "0.011", "0.015"}},
+                        {Main.mnuOptionsCircular, false, 1, "0.1", 1, Main.tbFlow, {"40", "20", "30"}}};
+  TypeRectangle();
+  TypePipe("48", "3");
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.Type.Caption.Get() + each.Last);
+    each.Type.Click();
+    each.SolveForFlow ? Main.mnuSolveForFlow_Click() : Main.mnuSolveForDepth_Click();
+    Type(each.SolveForFlow ? Main.tbDepth : Main.tbFlow, each.SolveForFlow ? "3" : "40");
+    std::vector<XYChart::Curve> family;
+    const auto draw = [&](const std::string& values) {
+      XYChart::Curve own;
+      OpenGraph([&](frmGraph& graph) {
+        graph.cbxVary.ListIndex = each.Vary;
+        Type(graph.tbMax, each.Last);
+        if (!values.empty()) {
+          graph.cbxFamily.ListIndex = each.Family;
+          Type(graph.tbFamily, values);
+          family = graph.MSChart1.Curves;
+        }
+        own.Points = graph.MSChart1.Rows();
+        own.Marked = graph.MSChart1.Marked;
+      });
+      return own;
+    };
+    const XYChart::Curve alone = draw("");
+    EXPECT_EQ(draw(each.Values[0] + ";" + each.Values[1] + "; " + each.Values[2]).Points, alone.Points);
+    std::erase_if(family, [](const XYChart::Curve& curve) { return curve.Dashed; });
+    ASSERT_EQ(family.size(), 2U) << "the problem's own is that of the rows";
+    for (const std::size_t i : {1, 2}) {
+      Type(each.Box, each.Values[i]);
+      const XYChart::Curve single = draw("");
+      EXPECT_THAT(family[i - 1].Name, HasSubstr(" = " + Spelled(each.Values[i])));
+      EXPECT_EQ(family[i - 1].Points, single.Points);
+      EXPECT_EQ(family[i - 1].Marked, single.Marked);
+    }
+    Type(each.Box, each.Values[0]);
+  }
 }
 
 TEST_P(RatingWindows, TheTableIsWrittenUnrounded) {

@@ -68,6 +68,7 @@ ChartPlot::ChartPlot(const XYChart& chart, QWidget* parent) : QCustomPlot(parent
   }
   setInteractions(QCP::iRangeDrag);
   setAutoAddPlottableToLegend(false);
+  connect(this, &QCustomPlot::afterLayout, this, [this] { PlaceNotes(); });
   Load();
 }
 
@@ -101,56 +102,73 @@ void ChartPlot::Load() {
   clearPlottables();
   lines_.clear();
   points_.clear();
-  for (int pair = 0; pair < chart_.Cols() / 2; ++pair) LoadLine(pair);
+  lineOf_.clear();
+  const int count = RowLines() + static_cast<int>(chart_.Curves.size());
+  for (int line = 0; line < count; ++line) LoadLine(line);
   marked_ = AddCurve();
-  LoadMarked();
+  LoadMarked(0, chart_.Marked.Get());
+  for (int line = RowLines(); line < count; ++line) LoadMarked(line, CurveOf(line)->Marked);
   xAxis->setLabel(Printed(chart_.XTitle.Get()));
   yAxis->setLabel(Printed(chart_.YTitle.Get()));
+  LoadNotes();
   Restyle();
   ShowWhole();
 }
 
-std::optional<QPointF> ChartPlot::PointAt(std::size_t row, int pair) const {
-  const auto column = 2 * static_cast<std::size_t>(pair);
-  const auto& x = chart_.Rows()[row][column];
-  const auto& y = chart_.Rows()[row][column + 1];
+const XYChart::Curve* ChartPlot::CurveOf(int line) const {
+  return line < RowLines() ? nullptr : &chart_.Curves[static_cast<std::size_t>(line - RowLines())];
+}
+
+QString ChartPlot::LineName(int line) const {
+  if (const XYChart::Curve* const curve = CurveOf(line)) return Printed(curve->Name);
+  return line == 0 && names_.isEmpty() ? Printed(chart_.RowsName) : names_.value(line);
+}
+
+std::optional<QPointF> ChartPlot::Drawable(const std::optional<double>& x,
+                                           const std::optional<double>& y) const {
   if (!x || !y || (IsLogarithmic() && (*x <= 0 || *y <= 0))) return std::nullopt;
   return QPointF(*x, *y);
 }
 
-ChartPlot::Breaking ChartPlot::PointsOf(int pair) const {
-  if (const auto replaced = replaced_.find(pair); replaced != replaced_.end()) return replaced->second;
+ChartPlot::Breaking ChartPlot::PointsOf(int line) const {
+  if (const auto replaced = replaced_.find(line); replaced != replaced_.end()) return replaced->second;
+  const XYChart::Curve* const curve = CurveOf(line);
+  const std::size_t column = curve == nullptr ? 2 * static_cast<std::size_t>(line) : 0;
   Breaking points;
-  for (std::size_t row = 0; row < chart_.Rows().size(); ++row) points.push_back(PointAt(row, pair));
+  for (const XYChart::Row& row : curve == nullptr ? chart_.Rows() : curve->Points)
+    points.push_back(Drawable(row[column], row[column + 1]));
   return points;
 }
 
-void ChartPlot::LoadLine(int pair) {
-  const auto circle = circles_.find(pair);
-  const Line line{circle == circles_.end() ? AddCurve() : AddCurve<CircleCurve>(circle->second), AddCurve()};
-  line.Lonely->setLineStyle(QCPCurve::lsNone);
-  if (pair < names_.size()) {
-    line.Curve->setName(names_[pair]);
-    line.Curve->addToLegend();
+void ChartPlot::LoadLine(int line) {
+  const auto circle = circles_.find(line);
+  const Line drawn{circle == circles_.end() ? AddCurve() : AddCurve<CircleCurve>(circle->second), AddCurve()};
+  drawn.Lonely->setLineStyle(QCPCurve::lsNone);
+  if (line < names_.size()) {
+    drawn.Curve->setName(names_[line]);
+    drawn.Curve->addToLegend();
   }
-  const Breaking points = PointsOf(pair);
+  const Breaking points = PointsOf(line);
   const auto empty = [&points](std::size_t row) { return row >= points.size() || !points[row]; };
   for (std::size_t row = 0; row < points.size(); ++row) {
     const auto& point = points[row];
     const auto order = static_cast<double>(row);
-    line.Curve->addData(order, point ? point->x() : NaN, point ? point->y() : NaN);
+    drawn.Curve->addData(order, point ? point->x() : NaN, point ? point->y() : NaN);
     if (!point) continue;
     points_.append(*point);
-    if (empty(row - 1) && empty(row + 1)) line.Lonely->addData(order, point->x(), point->y());
+    lineOf_.append(line);
+    if (empty(row - 1) && empty(row + 1)) drawn.Lonely->addData(order, point->x(), point->y());
   }
-  lines_.push_back(line);
+  lines_.push_back(drawn);
 }
 
-void ChartPlot::LoadMarked() {
-  double order = 0;
-  for (const ChartStretch& stretch : chart_.Marked.Get()) {
+void ChartPlot::LoadMarked(int line, const std::vector<ChartStretch>& stretches) {
+  if (stretches.empty()) return;
+  const Breaking points = PointsOf(line);
+  auto order = static_cast<double>(marked_->dataCount());
+  for (const ChartStretch& stretch : stretches) {
     for (int row = stretch.First; row <= stretch.Last; ++row) {
-      const auto point = PointAt(static_cast<std::size_t>(row), 0);
+      const auto& point = points[static_cast<std::size_t>(row)];
       marked_->addData(order++, point ? point->x() : NaN, point ? point->y() : NaN);
     }
     marked_->addData(order++, NaN, NaN);
@@ -162,6 +180,8 @@ QCPRange ChartPlot::Whole(bool across) const {
   const auto value = [across](const QPointF& point) { return across ? point.x() : point.y(); };
   QCPRange range(value(points_.first()), value(points_.first()));
   for (const QPointF& point : points_) range.expand(value(point));
+  if (const auto& present = chart_.Present; present && Drawable(present->X, present->Y))
+    range.expand(value({present->X, present->Y}));
   return IsLogarithmic() ? LogarithmicallyPadded(range) : Padded(range, names_.isEmpty());
 }
 
@@ -186,9 +206,11 @@ void ChartPlot::Zoom(double steps, QPointF around) {
 
 void ChartPlot::LayOut(QSize size) {
   setViewport(QRect({}, size));
+  FitHeading();
   // Twice: the numbers of an axis depend on its length, and the length on the room that the numbers take.
   updateLayout();
   updateLayout();
+  PlaceNotes();
 }
 
 void ChartPlot::resizeEvent(QResizeEvent* event) {
@@ -252,8 +274,9 @@ QPen ChartPlot::MarkedPen(const QPalette& palette, double em) {
 void ChartPlot::AddLegend() {
   axisRect()->insetLayout()->take(legend);
   auto* const below = new QCPLayoutGrid;
-  plotLayout()->addElement(1, 0, below);
-  plotLayout()->setRowStretchFactor(1, 0.001);
+  const int row = plotLayout()->rowCount();
+  plotLayout()->addElement(row, 0, below);
+  plotLayout()->setRowStretchFactor(row, 0.001);
   below->addElement(0, 0, legend);
   below->addElement(0, 1, new QCPLayoutElement);  // takes the rest of the row
   below->setColumnStretchFactor(0, 0.001);
@@ -308,11 +331,19 @@ void ChartPlot::Restyle() {
   legend->setTextColor(ink);
   legend->setBrush(Qt::NoBrush);
   legend->setIconSize(static_cast<int>(3 * em), static_cast<int>(em));
-  for (std::size_t i = 0; i < lines_.size(); ++i) {
-    const bool isGround = i == 0 && !names_.isEmpty();
-    const QColor colour = isGround ? ink : Appearance::WaterSurface(colours_);
-    lines_[i].Curve->setPen(QPen(colour, 0.13 * em, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    lines_[i].Lonely->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, colour, colour, 0.45 * em));
+  for (int line = 0; line < static_cast<int>(lines_.size()); ++line) {
+    const Line& drawn = lines_[static_cast<std::size_t>(line)];
+    const XYChart::Curve* const curve = CurveOf(line);
+    const QColor colour = LineColour(line);
+    QPen pen(colour, 0.13 * em, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (curve != nullptr && curve->Dashed) {
+      pen.setWidthF(0.09 * em);
+      pen.setCapStyle(Qt::FlatCap);
+      pen.setDashPattern({6, 4});
+    }
+    drawn.Curve->setPen(pen);
+    drawn.Lonely->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, colour, colour, 0.45 * em));
   }
   marked_->setPen(MarkedPen(colours_, em));
+  RestyleNotes();
 }

@@ -32,8 +32,9 @@ class ChartPlot : public QCustomPlot {
   /// Names the lines of a section in words below the axes: its outline, which is drawn as ground, and its
   /// water.
   void NameLines(const QStringList& names);
-  /// Empty for a line without a name.
-  QString LineName(int pair) const { return names_.value(pair); }
+  /// Of a line of the chart's rows, by the number of its pair of columns, or behind them of a curve beside
+  /// them; empty for a line without a name.
+  QString LineName(int line) const;
   /// The points of a line, which breaks where there is none.
   using Breaking = std::vector<std::optional<QPointF>>;
   /// Draws these in the place of a line of the chart, by the number of its pair of columns.
@@ -45,7 +46,11 @@ class ChartPlot : public QCustomPlot {
 
   /// The points drawn, line after line, each in the order of the chart's rows.
   const QList<QPointF>& Points() const { return points_; }
-  Breaking PointsOf(int pair) const;
+  /// The line of one of them.
+  int LineOf(qsizetype point) const { return lineOf_[point]; }
+  Breaking PointsOf(int line) const;
+  /// Where a text of this size hides the fewest points, at one of the corners of a pixel, `gap` away from it.
+  QPointF PlaceBeside(QPointF pixel, QSizeF size, double gap) const;
   const QPalette& Colours() const { return colours_; }
 
   static QPen MarkedPen(const QPalette& palette, double em);
@@ -61,6 +66,11 @@ class ChartPlot : public QCustomPlot {
     QCPCurve* Curve;
     QCPCurve* Lonely;  ///< points without a neighbour, which no line would show
   };
+  /// The name of a line at its last point.
+  struct EndName {
+    QCPItemText* Text;
+    int Line;
+  };
   struct Circle {
     QPointF Centre;
     double Radius;
@@ -68,10 +78,27 @@ class ChartPlot : public QCustomPlot {
   class CircleCurve;
   template <class Curve = QCPCurve, class... Shape>
   Curve* AddCurve(Shape... shape);
-  void LoadLine(int pair);
+  int RowLines() const { return chart_.Cols() / 2; }
+  /// The curve beside the rows that this line is; null for a line of the rows.
+  const XYChart::Curve* CurveOf(int line) const;
+  void LoadLine(int line);
   void AddLegend();
-  void LoadMarked();
-  std::optional<QPointF> PointAt(std::size_t row, int pair) const;
+  void LoadMarked(int line, const std::vector<ChartStretch>& stretches);
+  /// Nothing for a point that the axes cannot show.
+  std::optional<QPointF> Drawable(const std::optional<double>& x, const std::optional<double>& y) const;
+  // Heading, names at the ends and the present point (ChartPlotNotes.cpp).
+  void LoadNotes();
+  void LoadHeading();
+  QCPItemText* AddText(const QString& text);
+  void RestyleNotes();
+  void FitHeading();
+  void PlaceNotes();
+  void PlaceEndNames();
+  void PlacePresent();
+  QSizeF SizeOf(const QCPItemText& text) const;
+  double Hidden(const QRectF& place) const;
+  QPointF Pixel(const QPointF& point) const;
+  QColor LineColour(int line) const;
   QCPRange Whole(bool across) const;
   void Restyle();
   /// Where one scale serves both axes, widens the range of the one that has room to spare.
@@ -82,6 +109,12 @@ class ChartPlot : public QCustomPlot {
   std::vector<Line> lines_;
   QCPCurve* marked_ = nullptr;
   QList<QPointF> points_;
+  QList<int> lineOf_;
+  std::vector<QCPTextElement*> heading_;
+  std::vector<EndName> endNames_;
+  QCPItemTracer* present_ = nullptr;
+  QCPItemText* presentText_ = nullptr;
+  QList<QRectF> taken_;  // by the names at the ends
   QStringList names_;
   std::map<int, Breaking> replaced_;
   std::map<int, Circle> circles_;

@@ -71,8 +71,8 @@ class ChartReader : public QAccessibleWidget, public QAccessibleTableInterface {
     return cell == nullptr ? -1 : cell->rowIndex() * columnCount() + cell->columnIndex();
   }
 
-  int rowCount() const override { return static_cast<int>(chart_.Chart().Rows().size()); }
-  int columnCount() const override { return chart_.Chart().Cols(); }
+  int rowCount() const override { return chart_.RowCount(); }
+  int columnCount() const override { return chart_.ColumnCount(); }
   QString columnDescription(int column) const override { return chart_.ColumnTitle(column); }
   QString rowDescription(int) const override { return {}; }
   QAccessibleInterface* cellAt(int row, int column) const override {

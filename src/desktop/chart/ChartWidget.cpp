@@ -196,6 +196,12 @@ void ChartWidget::changeEvent(QEvent* event) {
   plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
+bool ChartWidget::HasMarked() const {
+  return !chart_.Marked.Get().empty() || std::ranges::any_of(chart_.Curves, [](const XYChart::Curve& curve) {
+    return !curve.Marked.empty();
+  });
+}
+
 /// What a person sees at a glance.
 QString ChartWidget::Content() const {
   const QList<QPointF>& points = plot_->Points();
@@ -206,7 +212,14 @@ QString ChartWidget::Content() const {
   QStringList parts{tr("%n points", "", static_cast<int>(points.size())),
                     range(chart_.XTitle, extent_.left(), extent_.right()),
                     range(chart_.YTitle, extent_.top(), extent_.bottom())};
-  if (!chart_.Marked.Get().empty()) parts << marked_;
+  QStringList curves;
+  for (const XYChart::Curve& curve : chart_.Curves) curves << Printed(curve.Name);
+  if (!curves.isEmpty()) parts << tr("beside: %1").arg(curves.join(QLatin1String(", ")));
+  if (chart_.Present) {
+    QString present = Printed(chart_.Present->Text);
+    parts << tr("present problem: %1").arg(present.replace(u'\n', QLatin1String(", ")));
+  }
+  if (HasMarked()) parts << marked_;
   return parts.join(QLatin1String("; "));
 }
 
@@ -219,7 +232,9 @@ void ChartWidget::Describe() {
 QString ChartWidget::Reading() const {
   if (read_ < 0) return {};
   const QPointF point = plot_->Points()[read_];
-  return AxisTitle(chart_.XTitle).With(Number(point.x(), extent_.width())) + u'\n' +
+  const QString line = chart_.Curves.empty() ? QString() : plot_->LineName(plot_->LineOf(read_));
+  return (line.isEmpty() ? line : line + u'\n') +
+         AxisTitle(chart_.XTitle).With(Number(point.x(), extent_.width())) + u'\n' +
          AxisTitle(chart_.YTitle).With(Number(point.y(), extent_.height()));
 }
 
@@ -229,9 +244,23 @@ QString ChartWidget::ColumnTitle(int column) const {
   return line.isEmpty() ? title : line + QLatin1String(": ") + title;
 }
 
+int ChartWidget::RowCount() const {
+  std::size_t rows = chart_.Rows().size();
+  for (const XYChart::Curve& curve : chart_.Curves) rows = std::max(rows, curve.Points.size());
+  return static_cast<int>(rows);
+}
+
+int ChartWidget::ColumnCount() const {
+  return chart_.Cols() + 2 * static_cast<int>(chart_.Curves.size());
+}
+
 QString ChartWidget::PointText(int row, int column) const {
-  if (row >= static_cast<int>(chart_.Rows().size()) || column >= chart_.Cols()) return {};
-  const auto& value = chart_.Rows()[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+  if (column >= ColumnCount()) return {};
+  const int beside = column - chart_.Cols();
+  const auto& rows = beside < 0 ? chart_.Rows() : chart_.Curves[static_cast<std::size_t>(beside / 2)].Points;
+  if (row >= static_cast<int>(rows.size())) return {};
+  const auto& value =
+      rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(beside < 0 ? column : beside % 2)];
   return value ? Number(*value, column % 2 == 0 ? extent_.width() : extent_.height()) : QString();
 }
 
@@ -256,29 +285,11 @@ void ChartWidget::PlaceReader() {
     item->setVisible(read_ >= 0);
   }
   if (read_ < 0) return;
-  const QPointF point = ring_->position->pixelPosition();
-  const QMarginsF padding = tag_->padding();
-  const QSizeF size =
-      QRectF(QFontMetrics(font()).boundingRect(QRect(), 0, tag_->text())).marginsAdded(padding).size();
-  double leastHidden = std::numeric_limits<double>::infinity();
+  const QSizeF size = QRectF(QFontMetrics(font()).boundingRect(QRect(), 0, tag_->text()))
+                          .marginsAdded(tag_->padding())
+                          .size();
   tag_->setPositionAlignment(Qt::AlignLeft | Qt::AlignTop);
-  for (const QPointF way : {QPointF(1, 1), QPointF(-1, -1), QPointF(1, -1), QPointF(-1, 1)}) {
-    const QPointF corner = point + way * ring_->size();
-    QRectF place(corner, size);
-    if (way.x() < 0) place.moveRight(corner.x());
-    if (way.y() < 0) place.moveBottom(corner.y());
-    const double hidden = Hidden(place);
-    if (hidden >= leastHidden) continue;
-    leastHidden = hidden;
-    tag_->position->setCoords(place.topLeft());
-  }
-}
-
-/// The number of points that something in this place hides; too many where there is no room for it.
-double ChartWidget::Hidden(const QRectF& place) const {
-  if (!QRectF(plot_->viewport()).contains(place)) return std::numeric_limits<double>::max();
-  return static_cast<double>(std::ranges::count_if(
-      plot_->Points(), [&](const QPointF& point) { return place.contains(Place(point)); }));
+  tag_->position->setCoords(plot_->PlaceBeside(ring_->position->pixelPosition(), size, ring_->size()));
 }
 
 QPointF ChartWidget::Place(const QPointF& point) const {

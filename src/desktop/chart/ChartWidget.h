@@ -40,7 +40,10 @@ class ChartWidget : public QWidget {
 
   ChartPlot& Plot() const { return *plot_; }
   const XYChart& Chart() const { return chart_; }
-  /// A column of the chart and a value in it as texts; the latter is empty where a line breaks.
+  /// The table of the chart: its rows and, behind their columns, the curves beside them.
+  int RowCount() const;
+  int ColumnCount() const;
+  /// A column and a value in it as texts; the latter is empty where a line breaks.
   QString ColumnTitle(int column) const;
   QString PointText(int row, int column) const;
   /// The point read off, in words; empty when there is none.
@@ -60,11 +63,11 @@ class ChartWidget : public QWidget {
   void Restyle();
   void Describe();
   QString Content() const;
+  bool HasMarked() const;
   void Read(qsizetype index);
   void ReadNear(QPointF place);
   void BringIntoView(QPointF point);
   void PlaceReader();
-  double Hidden(const QRectF& place) const;
   QPointF Place(const QPointF& point) const;
   void Copy() const;
   std::string Picture(const std::string& extension) const;

@@ -94,7 +94,7 @@ void ChartWidget::Paint(QCPPainter& painter, QSize size, const QFont& font) cons
   }
   paper.LayOut(size);
   paper.ShowAs(*plot_);
-  if (!chart_.Marked.Get().empty()) paper.ShowLegend(marked_);
+  if (HasMarked()) paper.ShowLegend(marked_);
   paper.LayOut(size);
   painter.setModes(QCPPainter::PainterModes(QCPPainter::pmNoCaching) | QCPPainter::pmVectorized);
   paper.toPainter(&painter, size.width(), size.height());

@@ -109,6 +109,29 @@ TEST_F(Chart, MarkedStretchesAreDrawnOnceMore) {
   EXPECT_TRUE(widget_->accessibleDescription().endsWith(QStringLiteral("It falls.")));
 }
 
+TEST_F(Chart, WhatStandsBesideTheRowsIsDrawnReadAndTold) {
+  chart_.Heading = {"Mill race", "b 3 m"};
+  chart_.RowsName = "n = 0.013";
+  chart_.Curves = {{"n = 0.011", {{1, 10}, {2, 60}}, {{0, 1}}, 1},
+                   {"Critical Depth", {{1, 4}, Gap, {3, 9}}, {}, 0, true}};
+  chart_.Present = {1.5, 70, "Depth 1.5 ft"};
+  Show({{1, 5}, {2, 20}});
+  EXPECT_TRUE(Plot().yAxis->range().contains(70));
+  EXPECT_EQ(Drawn(Plot(), 2), "1,10 2,60 ");
+  EXPECT_EQ(Drawn(Plot(), 6), "1,10 2,60 - ") << "marked";
+  EXPECT_EQ(ReadingAfter("Right"), "n = 0.013\nDepth 1.000 ft\nFlow 5.000 m\u00B3/s");
+  EXPECT_EQ(ReadingAfter("PgUp"), "Critical Depth\nDepth 3.000 ft\nFlow 9.000 m\u00B3/s");
+  QAccessibleTableInterface* const table =
+      QAccessible::queryAccessibleInterface(widget_.get())->tableInterface();
+  ASSERT_EQ(table->rowCount() * 10 + table->columnCount(), 36);
+  EXPECT_EQ(table->columnDescription(4), QStringLiteral("Critical Depth: Depth, ft"));
+  EXPECT_EQ(table->cellAt(2, 5)->text(QAccessible::Name), QStringLiteral("9.000"));
+  EXPECT_EQ(table->cellAt(2, 1)->text(QAccessible::Name), QString());
+  const std::string drawing = chart_.PictureView("svg");
+  for (const char* const text : {"Mill race", "b 3 m", "n = 0.013", "n = 0.011", "Critical Depth", "1.5 ft"})
+    EXPECT_THAT(drawing, testing::HasSubstr(text));
+}
+
 TEST_F(Chart, KeysReadOffOnePointAfterTheOther) {
   Show({{0.5, 2}, Gap, {1, 1234.5678}, {1.5, 3}});
   EXPECT_EQ(Reading(), "");
