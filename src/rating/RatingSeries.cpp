@@ -124,6 +124,12 @@ void RatingGaps::Add(const RatingGaps& others) {
   for (const Gap& gap : others.gaps_) Add(gap.Why, gap.Points);
 }
 
+RatingGaps RatingGaps::OfMany() const {
+  RatingGaps many = *this;
+  for (Gap& gap : many.gaps_) gap.Why.Text = gap.Why.OfMany;
+  return many;
+}
+
 std::string RatingGaps::Text(int points) const {
   std::string text;
   for (const Gap& gap : gaps_) {

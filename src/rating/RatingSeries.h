@@ -28,6 +28,8 @@ class RatingGaps {
  public:
   void Add(const Reason& why, int points = 1);
   void Add(const RatingGaps& others);
+  /// The same without the numbers of one problem, for several that differ in them.
+  RatingGaps OfMany() const;
   /// "161 of 201 points: the channel does not carry this flow within 998 ft", for each reason; empty where
   /// every point has a result.
   std::string Text(int points) const;

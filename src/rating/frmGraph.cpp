@@ -140,7 +140,7 @@ bool frmGraph::LoadGraph() {
     RatingCurve curve = TraceCurve(main_, RatingRange, axes);
     outcome.Cancelled |= curve.Outcome.Cancelled;
     outcome.Points += curve.Outcome.Points;
-    outcome.Gaps.Add(curve.Outcome.Gaps);
+    outcome.Gaps.Add(family_.Members.empty() ? curve.Outcome.Gaps : curve.Outcome.Gaps.OfMany());
     return curve;
   };
   int colour = 0;

@@ -96,6 +96,8 @@ class ChartPlot : public QCustomPlot {
   void PlaceEndNames();
   void PlacePresent();
   QSizeF SizeOf(const QCPItemText& text) const;
+  QPointF LeastHiding(const std::vector<QPointF>& places, QSizeF size) const;
+  QRectF Room() const;
   double Hidden(const QRectF& place) const;
   QPointF Pixel(const QPointF& point) const;
   QColor LineColour(int line) const;
@@ -114,6 +116,7 @@ class ChartPlot : public QCustomPlot {
   std::vector<EndName> endNames_;
   QCPItemTracer* present_ = nullptr;
   QCPItemText* presentText_ = nullptr;
+  QCPItemLine* leader_ = nullptr;
   QList<QRectF> taken_;  // by the names at the ends
   QStringList names_;
   std::map<int, Breaking> replaced_;

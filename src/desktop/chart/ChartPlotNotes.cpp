@@ -43,12 +43,17 @@ void ChartPlot::LoadNotes() {
     if (named) endNames_.push_back({AddText(LineName(line)), line});
   }
   if (present_ != nullptr) {
+    removeItem(leader_);
     removeItem(present_);
     removeItem(presentText_);
     present_ = nullptr;
   }
   const auto& present = chart_.Present;
   if (!present || !Drawable(present->X, present->Y)) return;
+  leader_ = new QCPItemLine(this);
+  leader_->setLayer(QStringLiteral("legend"));
+  leader_->setSelectable(false);
+  for (QCPItemPosition* const end : {leader_->start, leader_->end}) end->setType(QCPItemPosition::ptAbsolute);
   present_ = new QCPItemTracer(this);
   present_->setLayer(QStringLiteral("legend"));
   present_->setSelectable(false);
@@ -103,6 +108,7 @@ void ChartPlot::RestyleNotes() {
   axisRect()->setMinimumMargins(
       {LeastMargin, LeastMargin, std::max(LeastMargin, qRound(widest + em / 4)), LeastMargin});
   if (present_ == nullptr) return;
+  leader_->setPen(QPen(Appearance::Mixed(ground, ink, 0.4), 1));
   present_->setPen(QPen(ink, 0.1 * em));
   present_->setBrush(Appearance::WaterSurface(colours_));
   present_->setSize(0.6 * em);
@@ -129,10 +135,10 @@ void ChartPlot::PlaceNotes() {
   PlacePresent();
 }
 
-/// Each to the right of the last point in sight; below the names that are there already.
+/// Each beside the last point in sight, where it hides the fewest points.
 void ChartPlot::PlaceEndNames() {
   taken_.clear();
-  const double gap = 0.55 * QFontMetricsF(font()).height();  // clear of the mark of the present point
+  const double gap = 0.7 * QFontMetricsF(font()).height();  // clear of the mark of the present point
   for (const EndName& name : endNames_) {
     const Breaking points = PointsOf(name.Line);
     const auto inSight = [this](const std::optional<QPointF>& point) {
@@ -142,19 +148,16 @@ void ChartPlot::PlaceEndNames() {
     name.Text->setVisible(last != points.rend());
     if (last == points.rend()) continue;
     const QPointF end = Pixel(**last);
-    QRectF place({}, SizeOf(*name.Text));
-    place.moveCenter(end);
-    place.moveLeft(std::min(end.x() + gap, viewport().right() - place.width()));
-    for (bool moved = true; moved;) {
-      moved = false;
-      for (const QRectF& other : taken_) {
-        if (!other.intersects(place)) continue;
-        place.moveTop(other.bottom() + 1);
-        moved = true;
-      }
+    const QSizeF size = SizeOf(*name.Text);
+    std::vector<QPointF> places;
+    for (const int lines : {0, 1, -1, 2, -2, 3, -3}) {
+      const double top = end.y() + (lines - 0.5) * size.height();
+      places.emplace_back(end.x() + gap, top);
+      places.emplace_back(end.x() - gap - size.width(), top);
     }
-    taken_.append(place);
-    name.Text->position->setCoords(place.topLeft());
+    const QPointF best = LeastHiding(places, size);
+    taken_.append(QRectF(best, size));
+    name.Text->position->setCoords(best);
   }
 }
 
@@ -164,31 +167,48 @@ void ChartPlot::PlacePresent() {
   const bool inSight = axisRect()->rect().contains(at.toPoint());
   present_->setVisible(inSight);
   presentText_->setVisible(inSight);
-  presentText_->position->setCoords(PlaceBeside(at, SizeOf(*presentText_), present_->size()));
+  const QRectF place(PlaceBeside(at, SizeOf(*presentText_), present_->size()), SizeOf(*presentText_));
+  presentText_->position->setCoords(place.topLeft());
+  // From the mark to the nearest corner of its words.
+  leader_->setVisible(inSight);
+  leader_->start->setCoords(at);
+  leader_->end->setCoords(at.x() < place.center().x() ? place.left() : place.right(),
+                          at.y() < place.center().y() ? place.top() : place.bottom());
 }
 
 QPointF ChartPlot::PlaceBeside(QPointF pixel, QSizeF size, double gap) const {
-  double leastHidden = std::numeric_limits<double>::infinity();
-  QPointF best;
-  for (const QPointF way : {QPointF(1, 1), QPointF(-1, -1), QPointF(1, -1), QPointF(-1, 1)}) {
-    const QPointF corner = pixel + way * gap;
-    QRectF place(corner, size);
-    if (way.x() < 0) place.moveRight(corner.x());
-    if (way.y() < 0) place.moveBottom(corner.y());
-    const double hidden = Hidden(place);
-    if (hidden >= leastHidden) continue;
-    leastHidden = hidden;
-    best = place.topLeft();
+  std::vector<QPointF> places;
+  for (const double away : {gap, 4 * gap, 8 * gap}) {
+    for (const QPointF way : {QPointF(1, 1), QPointF(-1, -1), QPointF(1, -1), QPointF(-1, 1)}) {
+      QRectF place(pixel + way * away, size);
+      if (way.x() < 0) place.moveRight(pixel.x() - away);
+      if (way.y() < 0) place.moveBottom(pixel.y() - away);
+      const QPointF free = place.topLeft();
+      place.moveRight(std::min(place.right(), Room().right()));
+      place.moveLeft(std::max(place.left(), Room().left()));
+      places.push_back(place.contains(pixel) ? free : place.topLeft());
+    }
   }
-  return best;
+  return LeastHiding(places, size);
+}
+
+/// The first of the best places.
+QPointF ChartPlot::LeastHiding(const std::vector<QPointF>& places, QSizeF size) const {
+  return *std::ranges::min_element(places, {}, [&](const QPointF& place) { return Hidden({place, size}); });
+}
+
+/// Where texts may stand.
+QRectF ChartPlot::Room() const {
+  const double air = QFontMetricsF(font()).height() / 2;
+  QRectF room = QRectF(axisRect()->rect()).adjusted(0, -air, 0, 0);
+  room.setRight(viewport().right() - air / 4);
+  return room;
 }
 
 /// The number of points that something in this place hides; a name counts as many, and too many where there
 /// is no room for it.
 double ChartPlot::Hidden(const QRectF& place) const {
-  constexpr double Edge = 4;  // pixels
-  if (!QRectF(viewport()).adjusted(Edge, Edge, -Edge, -Edge).contains(place))
-    return std::numeric_limits<double>::max();
+  if (!Room().contains(place)) return std::numeric_limits<double>::max();
   constexpr double PointsOfName = 1000;
   const auto hides = [&](const QPointF& point) { return place.contains(Pixel(point)); };
   const auto covers = [&](const QRectF& name) { return name.intersects(place); };
