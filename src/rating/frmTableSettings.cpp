@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int DefaultSteps = 20;
 constexpr int MostSteps = 10000;
 
 double NumberIn(const TextBox& box) {
@@ -49,7 +48,7 @@ void frmTableSettings::cmdLastUsed_Click() {
 }
 
 void frmTableSettings::ProposeStep() {
-  const double step = (NumberIn(tbMax) - NumberIn(tbMin)) / DefaultSteps;  // already in the unit on display
+  const double step = (NumberIn(tbMax) - NumberIn(tbMin)) / ProposedTableSteps;  // already in the unit on display
   tbIncrement.Text = ShownNumber(step, Units::Dimensionless, HasFixedDecimals());
 }
 
