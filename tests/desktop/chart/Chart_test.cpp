@@ -130,6 +130,19 @@ TEST_F(Chart, WhatStandsBesideTheRowsIsDrawnReadAndTold) {
   const std::string drawing = chart_.PictureView("svg");
   for (const char* const text : {"Mill race", "b 3 m", "n = 0.013", "n = 0.011", "Critical Depth", "1.5 ft"})
     EXPECT_THAT(drawing, testing::HasSubstr(text));
+  // Lines that end at one point, beside the one marked: their words keep clear of each other.
+  chart_.Curves[0].Points[1] = {2, 20};
+  chart_.Present = {2, 20, "Depth 2 ft"};
+  chart_.Load({{1, 5}, {2, 20}}, 2);
+  QList<QRectF> words;
+  for (int i = 0; i < Plot().itemCount(); ++i) {
+    const auto* const text = qobject_cast<QCPItemText*>(Plot().item(i));
+    if (text == nullptr || !text->visible()) continue;
+    const QRectF place(text->topLeft->pixelPosition(), text->bottomRight->pixelPosition());
+    for (const QRectF& other : words) EXPECT_FALSE(place.intersects(other)) << text->text().toStdString();
+    words << place;
+  }
+  EXPECT_EQ(words.size(), 4);
 }
 
 TEST_F(Chart, KeysReadOffOnePointAfterTheOther) {
