@@ -111,7 +111,7 @@ std::string FamilyControls::FamilyOffence() const {
   const std::vector<std::string> pieces = Pieces(tbFamily.Text);
   if (pieces.size() > MostMembers) return "No more than six values";
   for (const std::string& typed : pieces) {
-    if (!IsNumeric(typed)) return FormStuff::MustBeNumber("Each value", typed);
+    if (!IsNumeric(typed)) return FormStuff::WhyNoNumber("Each value", typed);
     const bool within = input->IsElevation() || FormStuff::Within(LeadingNumber(typed), input->RatedBounds);
     if (!within) return std::string(input->ListName) + " must be" + FormStuff::RangeText(input->RatedBounds);
   }

@@ -34,6 +34,7 @@ frmGraph::frmGraph(const frmMain& main)
   lblVary.Caption = "Vary";
   mnuViewSwap.Caption = "Swap Axes";
   checked_.push_back(&tbFamily);
+  RefuseLongTexts(tbFamily);
   mnuViewSwap.Click = [this] { mnuViewSwap_Click(); };
   cbxVary.Click = [this] { cbxVary_Click(); };
   cbxFamily.Click = [this] { cbxFamily_Click(); };
@@ -73,6 +74,7 @@ void frmGraph::cbxVary_Click() {
   const Field* const before = FamilyInput();
   ListFamilies(Varied());
   if (FamilyInput() != before) ProposeFamily(main_);
+  ForgetEdits();
   filling_ = filled;
   Redraw();
 }
@@ -81,6 +83,7 @@ void frmGraph::cbxFamily_Click() {
   if (filling_) return;
   filling_ = true;
   ProposeFamily(main_);
+  ForgetEdits();
   filling_ = false;
   Redraw();
 }

@@ -139,6 +139,11 @@ void ChartPlot::PlaceNotes() {
 void ChartPlot::PlaceEndNames() {
   taken_.clear();
   const double gap = 0.7 * QFontMetricsF(font()).height();  // clear of the mark of the present point
+  struct End {
+    QPointF At;
+    QCPItemText* Text;
+  };
+  std::vector<End> ends;
   for (const EndName& name : endNames_) {
     const Breaking points = PointsOf(name.Line);
     const auto inSight = [this](const std::optional<QPointF>& point) {
@@ -146,9 +151,12 @@ void ChartPlot::PlaceEndNames() {
     };
     const auto last = std::find_if(points.rbegin(), points.rend(), inSight);
     name.Text->setVisible(last != points.rend());
-    if (last == points.rend()) continue;
-    const QPointF end = Pixel(**last);
-    const QSizeF size = SizeOf(*name.Text);
+    if (last != points.rend()) ends.push_back({Pixel(**last), name.Text});
+  }
+  // From the top, so that names below each other stand in the order of their curves.
+  std::ranges::sort(ends, {}, [](const End& end) { return end.At.y(); });
+  for (const auto& [end, text] : ends) {
+    const QSizeF size = SizeOf(*text);
     std::vector<QPointF> places;
     for (const int lines : {0, 1, -1, 2, -2, 3, -3}) {
       const double top = end.y() + (lines - 0.5) * size.height();
@@ -157,7 +165,7 @@ void ChartPlot::PlaceEndNames() {
     }
     const QPointF best = LeastHiding(places, size);
     taken_.append(QRectF(best, size));
-    name.Text->position->setCoords(best);
+    text->position->setCoords(best);
   }
 }
 
