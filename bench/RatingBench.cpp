@@ -31,7 +31,7 @@ void Series(benchmark::State& state) {
   for (auto _ : state) RunRatingSeries(EmptyWindow(), RatingRange, LastValue::Snapped, [](int) {});
 }
 
-/// Also tells the bytes that the table holds.
+/// Also reports the bytes that the table holds.
 void Table(benchmark::State& state) {
   const std::size_t before = mallinfo2().uordblks + mallinfo2().hblkhd;
   frmTable table(EmptyWindow());

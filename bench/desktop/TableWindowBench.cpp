@@ -1,4 +1,4 @@
-// What a person waits for at a rating table of 10 000 rows: the series, the window's first picture, and every
+// What a user waits for at a rating table of 10 000 rows: the series, the window's first picture, and every
 // page on the way from the first row to the last.
 #include <QAbstractItemModel>
 #include <QApplication>

@@ -1,4 +1,4 @@
-// The variables that the windows share: the project in work, where its file lies, and how numbers are shown.
+// The variables that the windows share: the current project, where its file lies, and how numbers are shown.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 #include "engine/EngineValue.h"
 #include "platform/Property.h"
 
-/// The rating curve in work: which input is varied, over which range, and what is plotted against it. The
+/// The current rating curve: which input is varied, over which range, and what is plotted against it. The
 /// range is in feet and seconds.
 struct RatingRangeRecord {
   int VaryCode = 0;      ///< the varied input, by its row of the unit table (Units::Quantity)

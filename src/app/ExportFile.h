@@ -1,4 +1,4 @@
-// Handing what a window shows to other programs: as a file of their kind, and charts on the clipboard too.
+// Export of a window's content: to files of common kinds, and charts to the clipboard too.
 #pragma once
 
 #include <functional>
@@ -12,8 +12,8 @@ struct ExportKind {
   std::string Extension;  ///< of the name proposed, without "."
 };
 
-/// Asks for a file and writes `content`, which is told the extension chosen, in lower case without ".". The
-/// file is there whole or not at all; a failure, an empty content included, is told in one message box.
+/// Asks for a file and writes `content`, a function of the extension chosen, in lower case without ".". The
+/// file is there whole or not at all; a failure, an empty content included, is reported in one message box.
 void ExportFile(const ExportKind& kind,
                 const std::function<std::string(const std::string& extension)>& content);
 

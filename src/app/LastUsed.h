@@ -1,4 +1,4 @@
-// What a person last chose for the inputs that rating curves vary, offered again beside what is proposed.
+// What the user last chose for the inputs that rating curves vary, offered again beside what is proposed.
 #pragma once
 
 #include <map>
@@ -17,7 +17,7 @@ struct UsedChoices {
   std::map<int, std::vector<double>> Families;  ///< the values of a family of curves, in feet and seconds
 };
 
-/// Those made for the channel type in work. A call after the type has changed forgets all of them.
+/// Those made for the current channel type. A call after the type has changed forgets all of them.
 UsedChoices& LastUsed();
 
 /// As at the start of the program.

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int SeenDigits = 15;  // of a double, as a person sees it in decimals
+constexpr int SeenDigits = 15;  // of a double, as the user sees it in decimals
 
 /// The digits of |x| in units of 10^-decimals, halves rounded away from zero, at least one before the point.
 std::string ScaledDigits(double x, int decimals) {

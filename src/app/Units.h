@@ -1,4 +1,4 @@
-// Unit captions and conversion factors: the engine computes in feet and seconds, a person reads either
+// Unit captions and conversion factors: the engine computes in feet and seconds, the user reads either
 // system.
 #pragma once
 
@@ -28,6 +28,6 @@ std::string WithRaisedExponents(std::string text);
 /// std::out_of_range as above.
 double UnitFactor(int units, int row);
 
-/// Decimals of a typed number that is rewritten in this unit system; nothing for a quantity that a person
+/// Decimals of a typed number that is rewritten in this unit system; nothing for a quantity that the user
 /// never types or that is the same number in every system. std::out_of_range as above.
 std::optional<int> TypedDecimals(int units, int row);

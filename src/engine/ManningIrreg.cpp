@@ -34,8 +34,8 @@ struct Inputs {
   double S = Finite(ChannelState.Slope.Number());
 };
 
-// The last midpoint up to 999 ft above the lowest point. known(W) tells whether the water surface W (ft) lies
-// below the one searched for, or nothing; ask(W) tells in any case.
+// The last midpoint up to 999 ft above the lowest point. known(W) says whether the water surface W (ft) lies
+// below the one searched for, or nothing; ask(W) always answers.
 template <typename Known, typename Ask>
 double SearchLevel(const Ground& ground, Known known, Ask ask) {
   const double low = ground.low;

@@ -18,7 +18,7 @@ namespace ManningIrreg {
 // The lowest elevation (ft). Faults unless there are 1 to 101 points.
 double IrregLowPoint(const PointTable& points, int count);
 
-// Geometry of the water below the elevation W (ft), added up over all wet stretches: area (ft^2), wetted
+// Geometry of the water below the elevation W (ft), summed over all wet segments: area (ft^2), wetted
 // perimeter (ft), top width (ft). They fault unless there are 2 to 101 points, and when a number is not
 // finite.
 double IrregArea(const PointTable& points, int count, double W);

@@ -99,7 +99,7 @@ ScannedNumber ScanWhole(std::string_view text, const NumberLocale& locale) {
   return WithoutLeadingBlanks(text.substr(number.end)).empty() ? number : ScannedNumber{};
 }
 
-// from_chars reports "out of range" for both ends. The power of ten of the first digit that counts tells
+// from_chars reports "out of range" for both ends. The power of ten of the first significant digit shows
 // them apart; an exponent that no integer holds decides alone.
 bool TooLarge(std::string_view spelling) {
   const size_t exponentAt = std::min(spelling.find('e'), spelling.size());

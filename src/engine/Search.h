@@ -78,7 +78,7 @@ double GuessRoot(double x, SidesAt sidesAt) {
   return x;
 }
 
-// The last midpoint between lo and hi (ft) for an f that rises as told above, by a guess of its root.
+// The last midpoint between lo and hi (ft) for an f that rises as described above, by a guess of its root.
 template <typename Below>
 double Jump(double lo, double hi, double guess, Below below) {
   const Halving last = Bisect(lo, hi, [&](double y) { return y < guess; });

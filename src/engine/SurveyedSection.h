@@ -55,7 +55,7 @@ class SurveyedSection {
   }
 
   // Is the flow (ft^3/s) at the water surface W (ft) below Q? Is the section factor below Z (ft^2.5)? Nothing
-  // where only the segments themselves can tell.
+  // where only the segments themselves can decide.
   std::optional<bool> FlowIsBelow(double W, double rootS, double Q) {
     const Piece* piece = Search::Ordinary(rootS, Q) ? At(W) : nullptr;
     if (piece == nullptr) return std::nullopt;

@@ -1,4 +1,4 @@
-// Whose a file is and who may use it, beside its content.
+// Owner, access rights and extended attributes of a file.
 #pragma once
 
 #include <map>

@@ -1,4 +1,4 @@
-// Files of a person's work: read whole or not at all, and replaced whole or not at all.
+// The user's files: read whole or not at all, and replaced whole or not at all.
 #pragma once
 
 #include <cstddef>

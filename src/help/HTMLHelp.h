@@ -3,7 +3,7 @@
 
 #include "platform/Form.h"
 
-/// Each opening tells in a message when there is no help file that can be read.
+/// Each shows a message when there is no readable help file.
 class HTMLHelp {
  public:
   /// Lies beside the program.

@@ -58,7 +58,7 @@ struct Label : Control, HasCaption {
   using Control::Control;
 };
 
-/// What a person can press.
+/// What the user can press.
 struct HasClick {
   virtual ~HasClick() = default;
   std::function<void()> Click;
@@ -89,7 +89,7 @@ struct CheckBox : OptionButton {
   using OptionButton::OptionButton;
 };
 
-/// A stretch of a text, in characters (code points).
+/// A part of a text, in characters (code points).
 struct TextRange {
   int Start = 0;
   int Length = 0;

@@ -1,4 +1,4 @@
-// A value that a view can follow: the way every control tells the screen and its form that it changed.
+// A value that a view can follow: how every control notifies its view and its form of a change.
 #pragma once
 
 #include <functional>

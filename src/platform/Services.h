@@ -44,7 +44,7 @@ struct FileDialogRequest {
 class FileDialog {
  public:
   virtual ~FileDialog() = default;
-  /// The full path chosen, or nothing when the person cancels.
+  /// The full path chosen, or nothing when the user cancels.
   virtual std::optional<std::string> Choose(const FileDialogRequest& request) = 0;
 };
 
@@ -81,7 +81,7 @@ class Printer {
   virtual void Picture(const XYChart& chart, int x, int y, int width, int height) = 0;
   virtual void NewPage() = 0;
   /// Ends the document and sends its pages, telling how far it has come; false when they cannot be printed.
-  /// That the person cancels is no failure.
+  /// That the user cancels is no failure.
   virtual bool End() = 0;
 };
 
@@ -94,11 +94,11 @@ struct PrintRequest {
 class PrinterDialog {
  public:
   virtual ~PrinterDialog() = default;
-  /// The printer chosen, at the start of a document; null when the person cancels.
+  /// The printer chosen, at the start of a document; null when the user cancels.
   virtual Printer* Choose(const PrintRequest& request) = 0;
-  /// The person wants what the last dialog offered.
+  /// The user wants what the last dialog offered.
   virtual bool IsOptionChosen() const = 0;
-  /// Shows on the screen the pages that `write` prints, from where the person may print them.
+  /// Shows on the screen the pages that `write` prints, from where the user may print them.
   virtual void Preview(const PrintRequest& request, const std::function<void(Printer&)>& write) = 0;
   /// The pages that `write` prints as the bytes of a PDF file; empty when it cannot be made.
   virtual std::string Pdf(const PrintRequest& request, const std::function<void(Printer&)>& write) = 0;
@@ -111,11 +111,11 @@ class Clock {
   virtual std::string ShortDate() = 0;
 };
 
-/// Tells how far a long command has come.
+/// Reports the progress of a long command.
 class Progress {
  public:
   virtual ~Progress() = default;
-  /// `done` of `total` steps of what the text names; the last step ends the display. False: the person
+  /// `done` of `total` steps of what the text names; the last step ends the display. False: the user
   /// cancels, and the display has ended.
   virtual bool Show(const std::string& text, int done, int total) = 0;
 };

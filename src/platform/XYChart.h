@@ -10,10 +10,10 @@
 #include "platform/Controls.h"
 
 /// Neighbouring rows of a chart, by index; both ends belong to it.
-struct ChartStretch {
+struct ChartSpan {
   int First = 0;
   int Last = 0;
-  bool operator==(const ChartStretch&) const = default;
+  bool operator==(const ChartSpan&) const = default;
 };
 
 /// A marked point, in words as well.
@@ -36,9 +36,9 @@ class XYChart : public Control {
   /// A line beside those of the rows.
   struct Curve {
     std::string Name;
-    std::vector<Row> Points;           ///< a pair of x and y each
-    std::vector<ChartStretch> Marked;  ///< as of the rows
-    int Colour = 0;                    ///< 0: as the first line of the rows; equal numbers, equal colours
+    std::vector<Row> Points;        ///< a pair of x and y each
+    std::vector<ChartSpan> Marked;  ///< as of the rows
+    int Colour = 0;                 ///< 0: as the first line of the rows; equal numbers, equal colours
     bool Dashed = false;
     bool NamedAtEnd = true;
   };
@@ -56,7 +56,7 @@ class XYChart : public Control {
   Property<std::string> XTitle, YTitle;
   Property<bool> UniformAxis{false};  ///< one scale for both axes: a circle is drawn round
   /// Parts of the lines that are drawn so that they stand out.
-  Property<std::vector<ChartStretch>> Marked;
+  Property<std::vector<ChartSpan>> Marked;
 
   // What is drawn beside the rows, from the next loading on.
   std::vector<std::string> Heading;  ///< lines above the axes

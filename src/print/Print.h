@@ -1,4 +1,4 @@
-// Prints the problem in work: as a report, with its rating graph, or with its rating table.
+// Prints the current problem: as a report, with its rating graph, or with its rating table.
 #pragma once
 
 #include <functional>
@@ -35,14 +35,14 @@ Document Graph(const frmMain& main, const XYChart& chart);
 /// them, else std::out_of_range. `note` stands above the heads of every page; empty: none.
 Document Table(const frmMain& main, const FlexGrid& grid, const std::string& note = {});
 
-/// Asks for a printer and prints; nothing when the person cancels. A failure is told in a message box.
+/// Asks for a printer and prints; nothing when the user cancels. A failure is reported in a message box.
 void ToPrinter(const Document& document);
 /// Shows the pages on the screen.
 void ToPreview(const Document& document);
 /// The pages as a PDF file; empty when it cannot be made.
 std::string ToPdf(const Document& document);
 
-/// Ends the last page and the document; pages that cannot be printed are told in a message box.
+/// Ends the last page and the document; pages that cannot be printed are reported in a message box.
 void End(PageWriter& page, Printer& printer);
 
 }  // namespace Print

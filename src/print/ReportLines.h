@@ -6,7 +6,7 @@
 
 #include "app/main/Fields.h"
 
-/// The inputs of the channel type in work, in the order of the report. The points of a section are none of
+/// The inputs of the current channel type, in the order of the report. The points of a section are none of
 /// them.
 std::vector<const Field*> ReportInputs();
 

@@ -8,9 +8,9 @@
 namespace {
 
 /// The section, then what flows in it.
-constexpr TextBox frmMain::*Told[] = {&frmMain::tbDiameter, &frmMain::tbBaseWidth, &frmMain::tbSSL,
-                                      &frmMain::tbSSR,      &frmMain::tbMann,      &frmMain::tbSlope,
-                                      &frmMain::tbDepth,    &frmMain::tbFlow};
+constexpr TextBox frmMain::*Named[] = {&frmMain::tbDiameter, &frmMain::tbBaseWidth, &frmMain::tbSSL,
+                                       &frmMain::tbSSR,      &frmMain::tbMann,      &frmMain::tbSlope,
+                                       &frmMain::tbDepth,    &frmMain::tbFlow};
 
 /// "b 3 m"; a ratio has no unit.
 std::string InputText(const frmMain& main, const Field& input) {
@@ -26,7 +26,7 @@ std::string InputText(const frmMain& main, const Field& input) {
 std::vector<std::string> GraphHeading(const frmMain& main, const std::vector<const Field*>& varying) {
   const bool equalSides = main.tbSSL.Text.Get() == main.tbSSR.Text.Get();
   std::string inputs;
-  for (TextBox frmMain::*const box : Told) {
+  for (TextBox frmMain::*const box : Named) {
     const Field& input = FieldOf(box);
     if (!CurrentChannelType().AsksFor(input) || std::ranges::find(varying, &input) != varying.end()) continue;
     if (equalSides && box == &frmMain::tbSSR) continue;

@@ -1,4 +1,4 @@
-// Opening a rating window from the main window: a first range for the problem in work, the settings dialog,
+// Opening a rating window from the main window: a first range for the current problem, the settings dialog,
 // and the window unless the dialog was cancelled.
 #pragma once
 

@@ -23,7 +23,7 @@ std::string TwoDecimals(double x) {
   return FixedFormat(x, 1, 2).Text();
 }
 
-/// Rounded to the seven digits that a person types at most: a conversion of units leaves many more.
+/// Rounded to the seven digits that the user types at most: a conversion of units leaves many more.
 double TypedDigits(double x) {
   std::array<char, 32> text{};
   const char* const end =

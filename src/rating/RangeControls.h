@@ -40,7 +40,7 @@ class RangeControls {
   bool MarkEnds();
   /// Puts the offence on the box, as its tool tip and tint; true when it is empty.
   static bool Mark(TextBox& box, const std::string& offence);
-  /// Tells a paste that is too long in the same place.
+  /// Reports a paste that is too long in the same place.
   void RefuseLongTexts(TextBox& box);
   /// Of the boxes that are checked; empty when all can be used.
   std::string FirstOffence() const;
@@ -50,7 +50,7 @@ class RangeControls {
   double Internal(const TextBox& box) const;
   /// A value of the varied input as the boxes show it, from feet and seconds.
   std::string Shown(const EngineValue& value) const;
-  /// Likewise, but with all digits that a person may have typed.
+  /// Likewise, but with all digits that the user may have typed.
   std::string ShownWhole(double value) const;
   /// The varied input is shown with decimals.
   bool HasFixedDecimals() const;

@@ -29,7 +29,7 @@ std::string RatingColumn::Header() const {
   return Cell == nullptr ? Caption : Caption + UnitLabel(ChannelState.UnitsEorM, Quantity);
 }
 
-std::string RatingColumn::Told(const std::string& value) const {
+std::string RatingColumn::NameAndValue(const std::string& value) const {
   std::string text = Header();
   const std::size_t comma = text.find(", ");
   return comma == std::string::npos ? text + ' ' + value : text.replace(comma, 1, ' ' + value);

@@ -16,7 +16,7 @@ struct RatingColumn {
   /// Caption and unit; of a column without values the caption alone.
   std::string Header() const;
   /// Caption, this value and unit: "Depth 1.250 m".
-  std::string Told(const std::string& value) const;
+  std::string NameAndValue(const std::string& value) const;
   /// The record's value as the table shows it; "-" where there are no values. EngineFault when the value is
   /// too large for the unit.
   std::string Text() const;
@@ -25,6 +25,6 @@ struct RatingColumn {
   std::optional<double> Number() const;
 };
 
-/// The columns for the channel type in work. Column 0 is the narrow empty one in front.
+/// The columns for the current channel type. Column 0 is the narrow empty one in front.
 using RatingColumns = std::vector<RatingColumn>;
 RatingColumns CurrentRatingColumns();

@@ -10,7 +10,7 @@ constexpr int MostRows = 250;
 /// Beyond the ends of a range, whose numbers are rounded, the present problem is still a part of it.
 constexpr double RangeMargin = 0.02;
 
-/// The stretches of a series in which the flow falls as the level rises, or the reverse.
+/// The spans of a series in which the flow falls as the level rises, or the reverse.
 class FallingFlow {
  public:
   /// Takes in the record's level and flow as the row `index`; the rows come in order.
@@ -18,18 +18,18 @@ class FallingFlow {
     const double level = ChannelState.Depth.Number();
     const double flow = ChannelState.Flow.Number();
     const bool falls = index > 0 && ((level > level_ && flow < flow_) || (level < level_ && flow > flow_));
-    if (falls && !stretches_.empty() && stretches_.back().Last == index - 1) {
-      stretches_.back().Last = index;
+    if (falls && !spans_.empty() && spans_.back().Last == index - 1) {
+      spans_.back().Last = index;
     } else if (falls) {
-      stretches_.push_back({index - 1, index});
+      spans_.push_back({index - 1, index});
     }
     level_ = level;
     flow_ = flow;
   }
-  const std::vector<ChartStretch>& Stretches() const { return stretches_; }
+  const std::vector<ChartSpan>& Spans() const { return spans_; }
 
  private:
-  std::vector<ChartStretch> stretches_;
+  std::vector<ChartSpan> spans_;
   double level_ = 0, flow_ = 0;
 };
 
@@ -83,7 +83,7 @@ RatingCurve TraceCurve(const frmMain& main, const RatingRangeRecord& range, cons
     falling.Add(row - 1);
   });
   curve.Outcome.Gaps.Add(blanks);
-  curve.Falling = falling.Stretches();
+  curve.Falling = falling.Spans();
   return curve;
 }
 
@@ -94,13 +94,13 @@ std::optional<ChartPoint> PresentPoint(const frmMain& main, const RatingRangeRec
   const double margin = RangeMargin * (last - first);
   const EngineValue typed = ChannelState.*FindVariedInput(range.VaryCode)->Cell;
   if (!(typed.Number() >= first - margin && typed.Number() <= last + margin)) return std::nullopt;
-  const auto told = [](const RatingColumn& column) { return column.Told(column.Text()); };
+  const auto named = [](const RatingColumn& column) { return column.NameAndValue(column.Text()); };
   std::optional<ChartPoint> present;
   RunRatingSeries(main, {range.VaryCode, range.GraphYColumn, typed, typed, 1}, LastValue::AsStepped,
                   [&](int) {
                     const XYChart::Row point = PointOf(axes.Across, axes.Up);
                     if (point[0])
-                      present = ChartPoint{*point[0], *point[1], told(axes.Across) + '\n' + told(axes.Up)};
+                      present = ChartPoint{*point[0], *point[1], named(axes.Across) + '\n' + named(axes.Up)};
                   });
   return present;
 }

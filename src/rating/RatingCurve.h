@@ -23,7 +23,7 @@ struct GraphAxes {
 struct RatingCurve {
   std::vector<XYChart::Row> Points;    ///< both empty where one is blank
   std::vector<XYChart::Row> Critical;  ///< none where no depth is plotted
-  std::vector<ChartStretch> Falling;   ///< where the flow falls as the level rises, or the reverse
+  std::vector<ChartSpan> Falling;      ///< where the flow falls as the level rises, or the reverse
   RatingOutcome Outcome;               ///< with the results that are blank among its gaps
 };
 

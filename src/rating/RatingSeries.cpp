@@ -77,7 +77,7 @@ class SeriesProgress {
   SeriesProgress(const SeriesProgress&) = delete;
   SeriesProgress& operator=(const SeriesProgress&) = delete;
 
-  /// False when the person cancels.
+  /// False when the user cancels.
   bool GoesOn(int points) {
     if (points % PointsPerReport != 0 || points >= total_) return true;
     shown_ = Report(points);

@@ -44,7 +44,7 @@ class RatingGaps {
 
 /// What became of a series.
 struct RatingOutcome {
-  bool Cancelled = false;  ///< by the person; points are missing then
+  bool Cancelled = false;  ///< by the user; points are missing then
   int Points = 0;          ///< how many were tried
   RatingGaps Gaps;
 };

@@ -23,7 +23,7 @@ class RatingWindow : public Form {
  protected:
   RatingWindow(std::string name, const frmMain& main);
   void Form_Load() override;
-  /// Runs the series and shows it. False when the person cancels it: what is shown stays.
+  /// Runs the series and shows it. False when the user cancels it: what is shown stays.
   virtual bool LoadSeries() = 0;
   void ShowMissing(const std::string& text, bool somethingShown);
   /// Opens the settings dialog; returns when it is closed.

@@ -12,7 +12,7 @@ class frmGraph : public RatingWindow, public RangeControls, public FamilyControl
   explicit frmGraph(const frmMain& main);
 
   XYChart MSChart1{this, "MSChart1"};
-  /// Says what the marked stretches of the chart are; hidden when there are none.
+  /// Says what the marked spans of the chart are; hidden when there are none.
   Label lblMarked{this, "lblMarked"};
 
   // What the settings ask for too, in force at once where it can be used.
@@ -21,7 +21,7 @@ class frmGraph : public RatingWindow, public RangeControls, public FamilyControl
   MenuItem mnuViewSwap{this, "mnuViewSwap"};
 
   /// Plots the series; where the flow falls as the level rises the chart's rows are marked. False when the
-  /// person cancels: the chart stays.
+  /// user cancels: the chart stays.
   bool LoadGraph();
 
   void mnuPrint_Click() override;

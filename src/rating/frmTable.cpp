@@ -85,8 +85,8 @@ void frmTable::HideConstants(RatingColumns& columns, Grid& rows, std::vector<Rat
       cells.erase(cells.begin() + static_cast<std::ptrdiff_t>(column));
     };
     if (columns[column].Cell != nullptr) {
-      const std::string told = columns[column].Told(rows[1][column]);
-      hidden = hidden.empty() ? told : told + "; " + hidden;
+      const std::string named = columns[column].NameAndValue(rows[1][column]);
+      hidden = hidden.empty() ? named : named + "; " + hidden;
     }
     erase(columns);
     std::ranges::for_each(rows, erase);

@@ -15,7 +15,7 @@ class frmTable : public RatingWindow {
   /// The columns that are hidden, each with its value.
   Label lblHidden{this, "lblHidden"};
 
-  /// Fills the grid with the series. False when the person cancels: the rows stay.
+  /// Fills the grid with the series. False when the user cancels: the rows stay.
   bool LoadTable();
 
   void mnuPrint_Click() override;
@@ -31,7 +31,7 @@ class frmTable : public RatingWindow {
 
  private:
   using Grid = std::vector<std::vector<std::string>>;
-  /// Takes the columns out of these rows of texts and numbers, and tells them in lblHidden.
+  /// Takes the columns out of these rows of texts and numbers, and names them in lblHidden.
   void HideConstants(RatingColumns& columns, Grid& rows, std::vector<RatingNumbers>& numbers);
 
   RatingColumns columns_;               // that are shown

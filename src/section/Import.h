@@ -1,4 +1,4 @@
-// A survey being imported: what its file holds, what the person chose, and the section that comes of it.
+// A survey being imported: what its file holds, what the user chose, and the section that comes of it.
 #pragma once
 
 #include "section/Mending.h"
@@ -9,7 +9,7 @@ namespace Survey {
 /// The unit of length of what is being imported.
 struct FileUnit {
   std::optional<LengthUnit> X, Z;    ///< as the file names it
-  std::optional<LengthUnit> Chosen;  ///< by the person
+  std::optional<LengthUnit> Chosen;  ///< by the user
   bool Asked = false;                ///< the format has one, and the file does not name it
   bool Named() const { return X || Z; }
 };
@@ -31,7 +31,7 @@ class Import {
   /// What was left out while reading, in sentences.
   std::vector<std::string> Notes() const;
 
-  // What the person chooses. Each works out the result anew. A separator that leaves no sheet is said as the
+  // What the user chooses. Each works out the result anew. A separator that leaves no sheet is said as the
   // reason.
   void ChooseSection(std::size_t index);
   void ChooseSeparator(char separator);

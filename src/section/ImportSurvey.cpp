@@ -25,7 +25,7 @@ void ShowProgress(double share) {
     throw Survey::Cancelled();
 }
 
-/// Asks for the decimal sign where nobody but the person can tell. False: they gave up.
+/// Asks for the decimal sign where only the user can decide. False: the user cancelled.
 bool AskSign(Survey::Import& import) {
   const Survey::Sign sign = import.TheSign();
   if (sign.Doubtful.empty()) return true;

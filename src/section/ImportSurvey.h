@@ -6,8 +6,8 @@
 
 #include "section/IrregTable.h"
 
-/// The points that the person takes over from the bytes of a file or a clipboard; nothing when they cancel.
-/// What cannot be read is told in a message box, and then there is nothing either.
+/// The points that the user takes over from the bytes of a file or a clipboard; nothing when they cancel.
+/// What cannot be read is reported in a message box, and nothing is returned.
 std::optional<IrregTable::Table> ImportedPoints(const std::string& bytes);
 
 /// The same for a file.

@@ -32,7 +32,7 @@ struct Change {
   bool On;  ///< it was made
 };
 
-/// What the person has chosen.
+/// What the user has chosen.
 struct Terms {
   int UnitSystem = 0;              ///< of the point table
   std::optional<LengthUnit> Unit;  ///< of the file, where it is not the one that it names

@@ -40,7 +40,7 @@ std::size_t PlaceBreaks(Section& section, bool insert) {
 
 std::optional<Found> FindStrangeN(const Section& section, const Terms&) {
   const auto isStrange = [](const std::optional<Number>& n) { return n && !(n->Value > 0 && n->Value < 1); };
-  const auto told = [](std::size_t line, const Number& n) {
+  const auto where = [](std::size_t line, const Number& n) {
     return " left out: line " + std::to_string(line) + " has " + PlainNumberInLocale(n.Value) +
            ", and an n lies between 0 and 1.";
   };
@@ -48,9 +48,9 @@ std::optional<Found> FindStrangeN(const Section& section, const Terms&) {
   const auto each = std::ranges::find_if(section.Breaks, isStrange, &Break::N);
   Found found;
   if (point != section.Points.end()) {
-    found.Text = "The column of n" + told(point->Line, *point->N) + " Most likely it is another column.";
+    found.Text = "The column of n" + where(point->Line, *point->N) + " Most likely it is another column.";
   } else if (each != section.Breaks.end()) {
-    found.Text = "Every n of the section" + told(each->Line, each->N);
+    found.Text = "Every n of the section" + where(each->Line, each->N);
   } else {
     return std::nullopt;
   }

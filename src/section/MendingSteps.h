@@ -10,8 +10,8 @@ struct Found {
   std::string Text;
 };
 
-// Each returns the section after its step and the sentences that tell it, or nothing where there is nothing
-// to do.
+// Each returns the section after its step and the sentences that describe it, or nothing where there is
+// nothing to do.
 
 // Lengths.
 std::optional<Found> FindWidthFactor(const Section& section, const Terms& terms);

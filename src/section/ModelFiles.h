@@ -18,7 +18,7 @@ std::vector<Section> HecRasSections(std::string_view text);
 /// The [TRANSECTS] of a SWMM input file. "NC" holds n of the left bank, the right bank and the channel, where
 /// 0 keeps the last one; "X1" name, number of points, stations of the left and right bank, 0, 0, 0, the
 /// length factor, the width factor and the offset of the elevations; "GR" pairs of elevation and station.
-/// FLOW_UNITS tells the unit.
+/// FLOW_UNITS gives the unit.
 std::vector<Section> SwmmSections(std::string_view text);
 
 }  // namespace Survey

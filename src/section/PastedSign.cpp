@@ -36,17 +36,17 @@ std::optional<NumberLocale> OtherSign() {
   return NumberLocale{here.GroupSeparator, here.DecimalSign};
 }
 
-/// The first station or elevation whose sign only a person can tell; empty where there is none.
+/// The first station or elevation whose sign only the user can decide; empty where there is none.
 std::string Doubtful(std::string_view rows, const GridBlock& block, const NumberLocale& other) {
   std::string first;
-  bool told = false;  // by a number with the decimal sign of this locale
+  bool plain = false;  // by a number with the decimal sign of this locale
   ForEachCell(rows, [&](int row, int col, std::string_view cell, char) {
     const bool judged = block.Left() + col <= std::min(block.Right(), IrregTable::Elevation);
-    told = told || (judged && cell.find(other.GroupSeparator) != std::string_view::npos);
+    plain = plain || (judged && cell.find(other.GroupSeparator) != std::string_view::npos);
     if (judged && first.empty() && Survey::MayBeThousands(cell, other)) first = cell;
-    return !told && block.Top() + row <= block.Bottom();
+    return !plain && block.Top() + row <= block.Bottom();
   });
-  return told ? "" : first;
+  return plain ? "" : first;
 }
 
 std::string Respelled(std::string_view rows, const NumberLocale& other) {

@@ -10,7 +10,7 @@ namespace Survey {
 
 namespace {
 
-/// Lines that are looked at to tell commas from blanks: enough to meet every kind of line of a file.
+/// Lines that are examined to distinguish commas from blanks: enough to meet every kind of line of a file.
 constexpr int Sample = 1000;
 /// Rows from one look at the watch to the next.
 constexpr std::size_t WatchEvery = 1 << 14;

@@ -46,7 +46,7 @@ struct Sheet {
 /// closed, where there are no data, and where a number stands behind the last column of the head.
 Sheet ReadSheet(std::shared_ptr<const std::string> text, std::optional<char> separator, const Watch& watch);
 
-/// True for a field that a person would take for a number, well written or not.
+/// True for a field that the user would take for a number, well written or not.
 bool BeginsLikeNumber(std::string_view field);
 
 /// Without blanks, TABs and no-break spaces around it.

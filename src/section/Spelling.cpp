@@ -45,7 +45,7 @@ Evidence EvidenceOf(const Sheet& sheet, const Columns& columns) {
     if (!comma && field.find('.') == std::string_view::npos) return true;
     const auto withPoint = ValueOf(field, DecimalPoint);
     const auto withComma = ValueOf(field, DecimalComma);
-    if (!withPoint && !withComma) return true;  // no number: told where it is read
+    if (!withPoint && !withComma) return true;  // no number: reported where it is read
     evidence.Point = evidence.Point && withPoint;
     evidence.Comma = evidence.Comma && withComma;
     std::string& first = evidence.TwoWays[comma ? 1 : 0];
@@ -85,8 +85,8 @@ bool IsNumberOfSomeSign(std::string_view field) {
 Sign SignOf(const Sheet& sheet, const Columns& columns) {
   const Evidence evidence = EvidenceOf(sheet, columns);
   const bool ownComma = CurrentNumberLocale().DecimalSign == ",";
-  // A text that is neither throughout has numbers of both kinds; the first of the other kind is told as it is
-  // read.
+  // A text that is neither throughout has numbers of both kinds; the first of the other kind is reported as
+  // it is read.
   if (!evidence.Comma || !evidence.Point)
     return {evidence.Point || !evidence.Comma ? DecimalPoint : DecimalComma, ""};
   const std::string& own = evidence.TwoWays[ownComma ? 1 : 0];

@@ -46,7 +46,7 @@ bool MayBeThousands(std::string_view field, const NumberLocale& spelling);
 
 /// The decimal sign of a sheet as its stations, elevations and n show it together. Where each number has one
 /// sign that may also separate thousands ("12.500"), the user's own decimal sign decides, and `Doubtful`
-/// holds the first of them if that makes it a thousand: only a person can tell.
+/// holds the first of them if that makes it a thousand: only the user can decide.
 struct Sign {
   NumberLocale Spelling;
   std::string Doubtful;

@@ -1,4 +1,4 @@
-// A surveyed section on its way from a file to the point table: what a file holds, before and while it is
+// A surveyed section between its file and the point table: what a file holds, before and while it is
 // mended.
 #pragma once
 
@@ -35,7 +35,7 @@ struct Break {
   std::size_t Line;  ///< of the file
 };
 
-/// A length of one unit in feet, and the name by which a person knows it.
+/// A length of one unit in feet, and the name by which the user knows it.
 struct LengthUnit {
   std::string Name;
   double Feet;
@@ -57,7 +57,7 @@ struct Section {
   std::vector<std::string> Notes;          ///< what was left out of it, in sentences
 };
 
-/// The person has cancelled.
+/// The user has cancelled.
 struct Cancelled {};
 
 /// Called now and then with the share that is done; throws Cancelled to end the work.

@@ -253,7 +253,7 @@ void frmImport::ShowDrawing() {
   MSChart1.Load(std::move(rows), 4);
 }
 
-// What the person does.
+// What the user does.
 
 void frmImport::cbxSection_Click() {
   if (showing_ || cbxSection.ListIndex < 0) return;

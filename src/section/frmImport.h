@@ -72,6 +72,6 @@ class frmImport : public Form {
   std::string ColumnName(std::size_t column) const;
 
   Survey::Import& import_;
-  bool showing_ = false;  // the lists are being filled: their events are not the person's
+  bool showing_ = false;  // the lists are being filled: their events are not the user's
   bool accepted_ = false;
 };

@@ -136,7 +136,7 @@ void frmIrreg::Form_Load() {
   MSChart1.XTitle = MSFlexGrid1.Text(0, Station);
   MSChart1.YTitle = MSFlexGrid1.Text(0, Elevation);
   opened_ = Cells();
-  EnableTravel();
+  EnableUndo();
   ShowOffence();
   LoadChart();
 }
@@ -322,11 +322,11 @@ void frmIrreg::Recorded(Edit edit) {
   ShowOffence();
   done_.push_back(std::move(change));
   undone_.clear();
-  EnableTravel();
+  EnableUndo();
 }
 
-void frmIrreg::Travel(std::vector<GridChange>& from, std::vector<GridChange>& to,
-                      std::string CellChange::*text) {
+void frmIrreg::Step(std::vector<GridChange>& from, std::vector<GridChange>& to,
+                    std::string CellChange::*text) {
   CommitEdit();
   if (from.empty()) return;
   to.push_back(std::move(from.back()));
@@ -335,18 +335,18 @@ void frmIrreg::Travel(std::vector<GridChange>& from, std::vector<GridChange>& to
   MSFlexGrid1.SelectCell(to.back().front().Row, to.back().front().Column);
   Declarations::Done.clear();
   ShowOffence();
-  EnableTravel();
+  EnableUndo();
   LoadChart();
 }
 
-void frmIrreg::EnableTravel() {
+void frmIrreg::EnableUndo() {
   mnuEditUndo.Enabled = !done_.empty();
   mnuEditRedo.Enabled = !undone_.empty();
 }
 
 void frmIrreg::mnuEditUndo_Click() {
-  Travel(done_, undone_, &CellChange::Before);
+  Step(done_, undone_, &CellChange::Before);
 }
 void frmIrreg::mnuEditRedo_Click() {
-  Travel(undone_, done_, &CellChange::After);
+  Step(undone_, done_, &CellChange::After);
 }

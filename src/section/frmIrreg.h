@@ -98,8 +98,8 @@ class frmIrreg : public Form {
   template <class Edit>
   void Recorded(Edit edit);
   /// Takes the last change of `from` back, or makes it again, and moves it to `to`.
-  void Travel(std::vector<GridChange>& from, std::vector<GridChange>& to, std::string CellChange::*text);
-  void EnableTravel();
+  void Step(std::vector<GridChange>& from, std::vector<GridChange>& to, std::string CellChange::*text);
+  void EnableUndo();
 
   /// Tints the text that OK would refuse first. What is still missing is no mistake yet.
   void ShowOffence();

@@ -5,7 +5,7 @@
 #include "app/main/frmMain.h"
 #include "working/WorkingLine.h"
 
-/// The lines for the problem in work, in the units in force. With blank results: what is given, and why
+/// The lines for the current problem, in the units in force. With blank results: what is given, and why
 /// nothing follows.
 WorkingLines FormWorking(const frmMain& main);
 

@@ -15,7 +15,7 @@ class frmWorking : public Form {
   MenuItem mnuEditCopy{this, "mnuEditCopy"}, mnuEditFind{this, "mnuEditFind"};
   MenuItem mnuViewNotes{this, "mnuViewNotes"};
 
-  /// Shows the problem in work as it is now; nothing while the window is closed.
+  /// Shows the current problem as it is now; nothing while the window is closed.
   void Follow();
   /// Brings the notes into sight that the status line of the main window counts, when there are any.
   void ShowNotes();

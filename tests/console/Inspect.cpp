@@ -16,17 +16,17 @@ namespace Inspect {
 
 namespace {
 
-std::string Told(bool value) {
+std::string Reply(bool value) {
   return value ? "True" : "False";
 }
-std::string Told(int value) {
+std::string Reply(int value) {
   return std::to_string(value);
 }
-std::string Told(const std::string& value) {
+std::string Reply(const std::string& value) {
   return value;
 }
 
-std::string Told(const EngineValue& value) {
+std::string Reply(const EngineValue& value) {
   if (value.IsFalse()) return "false";
   if (value.IsText()) return "t:" + value.Text();
   std::array<char, 64> buffer{};
@@ -35,17 +35,17 @@ std::string Told(const EngineValue& value) {
 }
 
 template <class T>
-std::string Told(const Property<T>& property) {
-  return Told(property.Get());
+std::string Reply(const Property<T>& property) {
+  return Reply(property.Get());
 }
 
 std::optional<std::string> TextBoxProperty(const TextBox& box, std::string_view property) {
-  if (property == "Text") return Told(box.Text);
-  if (property == "Locked") return Told(box.Locked);
-  if (property == "Bold") return Told(box.Bold);
-  if (property == "BackColor") return Told(box.BackColor);
-  if (property == "SelStart") return Told(box.Selection.Get().Start);
-  if (property == "SelLength") return Told(box.Selection.Get().Length);
+  if (property == "Text") return Reply(box.Text);
+  if (property == "Locked") return Reply(box.Locked);
+  if (property == "Bold") return Reply(box.Bold);
+  if (property == "BackColor") return Reply(box.BackColor);
+  if (property == "SelStart") return Reply(box.Selection.Get().Start);
+  if (property == "SelLength") return Reply(box.Selection.Get().Length);
   if (property == "SelText") return box.SelectedText();
   return std::nullopt;
 }
@@ -57,46 +57,46 @@ std::optional<std::string> PointCell(const PointTable& points, const std::vector
   std::from_chars(words[1].data(), words[1].data() + words[1].size(), row);
   std::from_chars(words[2].data(), words[2].data() + words[2].size(), column);
   if (row >= points.size() || column >= points[row].size()) return std::nullopt;
-  return Told(points[row][column]);
+  return Reply(points[row][column]);
 }
 
 std::optional<std::string> RatingRangeField(std::string_view name) {
-  if (name == "VaryCode") return Told(RatingRange.VaryCode);
-  if (name == "GraphYColumn") return Told(RatingRange.GraphYColumn);
-  if (name == "RangeMin") return Told(RatingRange.RangeMin);
-  if (name == "RangeMax") return Told(RatingRange.RangeMax);
-  if (name == "RangeStep") return Told(RatingRange.RangeStep);
-  if (name == "RatingCancelled") return Told(RatingRange.RatingCancelled);
+  if (name == "VaryCode") return Reply(RatingRange.VaryCode);
+  if (name == "GraphYColumn") return Reply(RatingRange.GraphYColumn);
+  if (name == "RangeMin") return Reply(RatingRange.RangeMin);
+  if (name == "RangeMax") return Reply(RatingRange.RangeMax);
+  if (name == "RangeStep") return Reply(RatingRange.RangeStep);
+  if (name == "RatingCancelled") return Reply(RatingRange.RatingCancelled);
   return std::nullopt;
 }
 
 }  // namespace
 
 std::optional<std::string> ControlProperty(const Control& control, std::string_view property) {
-  if (property == "Enabled") return Told(control.Enabled);
-  if (property == "Visible") return Told(control.Visible);
-  if (property == "ToolTip") return Told(control.ToolTip);
+  if (property == "Enabled") return Reply(control.Enabled);
+  if (property == "Visible") return Reply(control.Visible);
+  if (property == "ToolTip") return Reply(control.ToolTip);
   if (const auto* captioned = dynamic_cast<const HasCaption*>(&control); captioned && property == "Caption") {
-    return Told(captioned->Caption);
+    return Reply(captioned->Caption);
   }
   if (const auto* item = dynamic_cast<const MenuItem*>(&control); item && property == "Checked") {
-    return Told(item->Checked);
+    return Reply(item->Checked);
   }
   if (const auto* option = dynamic_cast<const OptionButton*>(&control); option && property == "Value") {
-    return Told(option->Value);
+    return Reply(option->Value);
   }
   if (const auto* list = dynamic_cast<const ListBox*>(&control); list && property == "ListIndex") {
-    return Told(list->ListIndex);
+    return Reply(list->ListIndex);
   }
   if (const auto* list = dynamic_cast<const ListBox*>(&control); list && property == "Text") {
     const int index = list->ListIndex;
     return index < 0 ? "" : list->Items.Get()[static_cast<std::size_t>(index)];
   }
   if (const auto* grid = dynamic_cast<const FlexGrid*>(&control); grid && property == "Row") {
-    return Told(grid->Selection.Get().Row);
+    return Reply(grid->Selection.Get().Row);
   }
   if (const auto* grid = dynamic_cast<const FlexGrid*>(&control); grid && property == "Col") {
-    return Told(grid->Selection.Get().Col);
+    return Reply(grid->Selection.Get().Col);
   }
   if (const auto* page = dynamic_cast<const TextPage*>(&control); page && property == "Text")
     return page->Text;
@@ -118,23 +118,23 @@ std::optional<std::string> RecordField(const std::vector<std::string>& words) {
   if (name == "points") return PointCell(record.IrregPoints, words);
   if (name == "enginepoints") return PointCell(record.IrregEnginePoints, words);
   const auto* const cell = std::ranges::find(RecordCells, name, &RecordCell::Name);
-  if (cell != RecordCells.end()) return Told(record.*cell->Cell);
+  if (cell != RecordCells.end()) return Reply(record.*cell->Cell);
   if (name == "ChannelType") return record.ChannelType;
-  if (name == "SolveForFlow") return Told(record.SolveForFlow);
-  if (name == "UnitsEorM") return Told(record.UnitsEorM);
-  if (name == "IrregPointCount") return Told(record.IrregPointCount);
+  if (name == "SolveForFlow") return Reply(record.SolveForFlow);
+  if (name == "UnitsEorM") return Reply(record.UnitsEorM);
+  if (name == "IrregPointCount") return Reply(record.IrregPointCount);
   return std::nullopt;
 }
 
 std::optional<std::string> SharedVariable(std::string_view name) {
   constexpr std::string_view record = "RatingRange.";
   if (name.starts_with(record)) return RatingRangeField(name.substr(record.size()));
-  if (name == "DataChanged") return Told(Declarations::DataChanged);
+  if (name == "DataChanged") return Reply(Declarations::DataChanged);
   if (name == "FilePath") return Declarations::FilePath;
   if (name == "FileTitle") return Declarations::FileTitle;
   if (name == "UserPath") return Declarations::UserPath;
-  if (name == "SigDigs") return Told(Declarations::SigDigs);
-  if (name == "EngDigs") return Told(Declarations::EngDigs);
+  if (name == "SigDigs") return Reply(Declarations::SigDigs);
+  if (name == "EngDigs") return Reply(Declarations::EngDigs);
   return std::nullopt;
 }
 

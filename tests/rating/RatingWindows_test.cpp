@@ -76,7 +76,7 @@ TEST_P(RatingWindows, TheGraphMarksWhereTheFlowFalls) {
   OpenGraph([](frmGraph& graph) {
     const auto& rows = graph.MSChart1.Rows();
     ASSERT_EQ(graph.MSChart1.Marked.Get().size(), 1U);
-    const ChartStretch marked = graph.MSChart1.Marked.Get()[0];
+    const ChartSpan marked = graph.MSChart1.Marked.Get()[0];
     // A pipe carries most at 0.938 of its diameter: 3.752 ft, between the steps of 0.02 ft.
     EXPECT_NEAR(*rows[static_cast<std::size_t>(marked.First)][0], 3.752, 0.011);
     EXPECT_EQ(marked.Last, static_cast<int>(rows.size()) - 1);

@@ -7,10 +7,10 @@
 
 #include "app/main/Fields.h"
 
-/// What a cross-section is made of.
+/// The kind of a cross-section.
 enum class Shape { Prism, Pipe, Survey };
 
-/// What a channel type makes of an input or a result.
+/// How a channel type uses an input or a result.
 enum class Use {
   None,   ///< has no such value: hidden, neither checked nor printed nor varied
   Zero,   ///< has the value 0: shown but not asked for
@@ -28,12 +28,12 @@ struct ChannelType {
   bool IsSurveyed() const { return Is == Shape::Survey; }
   Use UseOf(const Field& field) const;
   bool Has(const Field& field) const { return UseOf(field) != Use::None; }
-  /// The person types it in the mode in force.
+  /// The user types it in the mode in force.
   bool AsksFor(const Field& field) const { return field.IsInput() && UseOf(field) == Use::Asked; }
 };
 
 /// In the order of the menu.
 std::span<const ChannelType> AllChannelTypes();
 
-/// The row of the channel type in work; a row without a name and without any value for an unknown one.
+/// The row of the current channel type; a row without a name and without any value for an unknown one.
 const ChannelType& CurrentChannelType();

@@ -17,11 +17,11 @@ class frmMain;
 struct Wording {
   const char* Usual = "";
   const char* Surveyed = Usual;
-  /// The one for the channel type in work.
+  /// The one for the current channel type.
   const char* Current() const;
 };
 
-/// When the program writes a box; in the other mode a person does.
+/// When the program writes a box; in the other mode the user does.
 enum class ResultWhen { Never, SolvedForFlow, SolvedForDepth, Always };
 
 /// A button that picks the number of a box from a list.

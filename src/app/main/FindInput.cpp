@@ -125,7 +125,7 @@ class Search {
   bool falls_ = false;
 };
 
-/// The number rounded to so many significant digits, as a person types it.
+/// The number rounded to so many significant digits, as the user types it.
 std::string Rounded(double x, int digits) {
   std::array<char, 32> text{};
   const char* const end =

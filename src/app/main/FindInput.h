@@ -13,7 +13,7 @@ struct Findable {
   std::vector<const Field*> Inputs;
 };
 
-/// Those of the channel type in work, in the order of the main window. A surveyed section has its slope
+/// Those of the current channel type, in the order of the main window. A surveyed section has its slope
 /// alone: its n stands in its points.
 std::vector<Findable> FindableInputs();
 

@@ -1,7 +1,7 @@
-// Filling several boxes together.
+// Loading of several boxes at once.
 #pragma once
 
-/// While it lives, boxes are being filled and nothing is computed from half of them.
+/// While it exists, boxes are being filled and no results are computed from an incomplete set.
 class Loading {
  public:
   explicit Loading(bool& loading) : loading_(loading), before_(loading) { loading_ = true; }

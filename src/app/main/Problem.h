@@ -17,7 +17,7 @@ std::string* ItemOf(ProjectFile::Project& project, const Field& field);
 /// that was there. Its inputs stay texts.
 void TakeSetting(const ProjectFile::Project& project);
 
-/// What is wrong with the channel type or the points in work; empty when nothing is.
+/// What is wrong with the channel type or the current points; empty when nothing is.
 std::string OffenceOfSection();
 
 /// What is wrong with the text of an input; empty when nothing is or nobody asks for it.

@@ -10,7 +10,7 @@
 class frmMain;
 
 struct Reason {
-  std::string Text;    ///< for the problem in work; no sentence yet, its numbers in the units on display
+  std::string Text;    ///< for the current problem; no sentence yet, its numbers in the units on display
   std::string OfMany;  ///< the same for problems that differ in these numbers
   TextBox frmMain::*Box = nullptr;  ///< that holds the number to be mended; null where it is not one alone
 };
@@ -23,7 +23,7 @@ Reason WhyNoResult(const std::string& fault);
 /// refuse none.
 std::string WhyRefused(const PointTable& points, int count);
 
-/// A reason as it stands alone: with a capital letter.
+/// A reason as a sentence of its own, with its initial capitalised.
 std::string Sentence(std::string reason);
 
 /// Why this result of a solved problem is blank.

@@ -6,14 +6,14 @@
 
 class StatusLine {
  public:
-  /// In the order in which they are told: the first that there is, the others behind it.
+  /// In the order of the line: the first that has a text, then the others.
   enum Part { FileError, NoResult, Moved, UnitRead, Done, Verdict };
 
-  void Tell(Part part, std::string text) { texts_.at(part) = std::move(text); }
+  void Set(Part part, std::string text) { texts_.at(part) = std::move(text); }
 
-  const std::string& Told(Part part) const { return texts_.at(part); }
+  const std::string& At(Part part) const { return texts_.at(part); }
 
-  /// An input has changed: what was told of the moment before is over.
+  /// An input has changed: messages about the previous step are obsolete.
   void Edited() {
     for (const Part part : {FileError, Moved, UnitRead, Done}) texts_.at(part).clear();
   }

@@ -167,7 +167,7 @@ std::optional<Amount> TypedUnits::Read(std::string_view text, Kind kind) {
 }
 
 std::string TypedUnits::SevenDigits(double x) {
-  constexpr int seen = 15;  // digits of a double that a person sees in decimals
+  constexpr int seen = 15;  // digits of a double that the user sees in decimals
   constexpr int kept = 7;
   std::array<char, 32> text{};  // d.dddddddddddddde+xx
   char* const end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(x),

@@ -1,4 +1,4 @@
-// Typed numbers on their way into the other unit system: rounded as little read as can be, but so that a
+// Typed numbers in the other unit system: rounded to as few decimals as possible, but so that a
 // channel stays what it was.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The unit systems that a person can choose, a row each; their units and factors are in app/Units.
+// The unit systems that the user can choose, a row each; their units and factors are in app/Units.
 #pragma once
 
 #include <span>

@@ -58,12 +58,12 @@ class frmMain : public Form {
       lblHRadUnits{this, "lblHRadUnits"}, lblTopWUnits{this, "lblTopWUnits"},
       lblCritdUnits{this, "lblCritdUnits"}, lblCritSUnits{this, "lblCritSUnits"};
 
-  /// How far the problem in the boxes has come: an input is still empty, or cannot be used, or all results
+  /// State of the problem in the boxes: an input is empty, or cannot be used, or all results
   /// are there.
   enum class Progress { Missing, Wrong, Solved };
   Property<Progress> CurrentProgress;
   /// Why there is no result; empty when there is one.
-  const std::string& WhyNone() const { return status_.Told(StatusLine::NoResult); }
+  const std::string& WhyNone() const { return status_.At(StatusLine::NoResult); }
   /// What was found beside the results, and what there is to say of it; nothing without results.
   const Findings& Found() const { return found_; }
   const std::vector<Note>& Notes() const { return notes_; }
@@ -71,7 +71,7 @@ class frmMain : public Form {
   /// What went wrong with a file, why there is no result, what was written, what was solved.
   Label lblStatus{this, "lblStatus"};
   /// True while it begins with what went wrong.
-  bool TellsFailure() const { return !status_.Told(StatusLine::FileError).empty(); }
+  bool TellsFailure() const { return !status_.At(StatusLine::FileError).empty(); }
   /// The notes that the verdict only counts; opens the working at them.
   Button cmdNotes{this, "cmdNotes"};
 
@@ -134,19 +134,19 @@ class frmMain : public Form {
   void ResetForm();
 
   // Project (frmMainFile.cpp).
-  /// True when the project in work may be let go: unchanged, saved, or given up by the person.
+  /// True when the current project may be discarded: unchanged, saved, or given up by the user.
   bool ChecknSave();
   /// True when the project was written to its file.
   bool FileSave();
-  /// Asks for a name and saves. False when the person cancels or the file cannot be written: then everything
+  /// Asks for a name and saves. False when the user cancels or the file cannot be written: then everything
   /// is as before.
   bool SaveAsDialog();
   /// Fills the boxes from a project file. False, with a message and nothing changed, when it is no whole
   /// project.
   bool FileOpen(const std::string& path);
-  /// Opens a file as the project in work, in place of the one before.
+  /// Opens a file as the current project, in place of the one before.
   void OpenProject(const std::string& path);
-  /// Likewise, when the project before may be let go: a file dropped on the window.
+  /// The same, once the project before may be discarded: a file dropped on the window.
   void OpenInstead(const std::string& path);
   /// Takes up unsaved work that was kept. Its first save offers the file `origin` (empty: none) that it came
   /// from.
@@ -240,8 +240,8 @@ class frmMain : public Form {
   UndoStep Now() const;
   void GoTo(const UndoStep& step);
   /// Goes to the last of the steps that differs from what is there, which is kept among the others.
-  void Travel(std::vector<UndoStep>& from, std::vector<UndoStep>& to);
-  /// The project's file holds the problem in work.
+  void Step(std::vector<UndoStep>& from, std::vector<UndoStep>& to);
+  /// The project's file holds the current problem.
   bool IsInFile() const;
   void SelectChannelType(const ChannelType& type);
   void SelectSolveForFlow(bool solveForFlow);
@@ -257,11 +257,11 @@ class frmMain : public Form {
   /// A change that is no edit of a box counts as one when the project has a file to differ from.
   void MarkProjectChanged();
 
-  /// Computes and shows the results, or tells why there are none.
+  /// Computes and shows the results, or states why there are none.
   std::string Solve();
   /// Puts the status line together, the most urgent part first.
   void ShowStatus();
-  /// The project changes: what went wrong with a file, or was written, is news no more.
+  /// The project changes: messages about reading and writing files are obsolete.
   void ForgetNews();
   void TellFailure(const std::string& failure);
   /// Says in a box that something failed, and in the status line with which file and why.

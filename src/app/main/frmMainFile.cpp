@@ -1,4 +1,4 @@
-// The project in work: new, opened, saved or let go. See frmMain.h.
+// The current project: new, opened, saved or discarded. See frmMain.h.
 #include <algorithm>
 #include <exception>
 #include <filesystem>

@@ -47,7 +47,7 @@ std::optional<TypedUnits::Amount> frmMain::Unread(const Field& field) const {
 }
 
 bool frmMain::ReadUnits() {
-  std::string told;
+  std::string read;
   for (const Field& field : Fields()) {
     const auto amount = Unread(field);
     if (!amount) continue;
@@ -55,12 +55,12 @@ bool frmMain::ReadUnits() {
     const std::string typed = box.Text;
     const std::string unit = UnitLabel(ChannelState.UnitsEorM, field.Quantity);
     box.Text = TypedUnits::SevenDigits(amount->Value / UnitFactor(ChannelState.UnitsEorM, field.Quantity));
-    told += (told.empty() ? "Read " : ", ") + typed;
-    if (*amount->Which != '\0') told += " (" + std::string(amount->Which) + ")";
-    told += " as " + box.Text.Get() + (unit.empty() ? field.Suffix : " " + unit);
+    read += (read.empty() ? "Read " : ", ") + typed;
+    if (*amount->Which != '\0') read += " (" + std::string(amount->Which) + ")";
+    read += " as " + box.Text.Get() + (unit.empty() ? field.Suffix : " " + unit);
   }
-  if (told.empty()) return false;
-  status_.Tell(StatusLine::UnitRead, told);
+  if (read.empty()) return false;
+  status_.Set(StatusLine::UnitRead, read);
   ShowStatus();
   return true;
 }

@@ -53,8 +53,8 @@ void frmMain::CheckInputs() {
     verdict = ::Verdict(found_, notes_);
     if (const std::string& note = tbCritS.ToolTip; !note.empty()) verdict += ". " + note;
   }
-  status_.Tell(StatusLine::NoResult, whyNone);
-  status_.Tell(StatusLine::Verdict, verdict);
+  status_.Set(StatusLine::NoResult, whyNone);
+  status_.Set(StatusLine::Verdict, verdict);
   ShowStatus();
   cmdNotes.Caption = NoteCount(notes_);
   cmdNotes.Visible = !cmdNotes.Caption.Get().empty();
@@ -63,7 +63,7 @@ void frmMain::CheckInputs() {
 }
 
 void frmMain::ShowStatus() {
-  status_.Tell(StatusLine::Done, Declarations::Done);
+  status_.Set(StatusLine::Done, Declarations::Done);
   lblStatus.Caption = status_.Text();
 }
 
@@ -78,7 +78,7 @@ void frmMain::ShowNotesOnBoxes() {
 }
 
 void frmMain::TellFailure(const std::string& failure) {
-  status_.Tell(StatusLine::FileError, failure);
+  status_.Set(StatusLine::FileError, failure);
   ShowStatus();
 }
 

@@ -99,7 +99,7 @@ bool frmMain::IsInFile() const {
   }
 }
 
-void frmMain::Travel(std::vector<UndoStep>& from, std::vector<UndoStep>& to) {
+void frmMain::Step(std::vector<UndoStep>& from, std::vector<UndoStep>& to) {
   UndoStep now = Now();
   while (!from.empty() && from.back() == now) from.pop_back();
   if (from.empty()) return;
@@ -110,9 +110,9 @@ void frmMain::Travel(std::vector<UndoStep>& from, std::vector<UndoStep>& to) {
 }
 
 void frmMain::mnuEditUndo_Click() {
-  if (!EditABox(*this, &TextBox::Undo, &TextBox::Redo)) Travel(done_, undone_);
+  if (!EditABox(*this, &TextBox::Undo, &TextBox::Redo)) Step(done_, undone_);
 }
 
 void frmMain::mnuEditRedo_Click() {
-  if (!EditABox(*this, &TextBox::Redo, &TextBox::Undo)) Travel(undone_, done_);
+  if (!EditABox(*this, &TextBox::Redo, &TextBox::Undo)) Step(undone_, done_);
 }

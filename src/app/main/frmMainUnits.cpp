@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Rounding that a person should know of, as a part of the number.
+/// Rounding that the user should know of, as a part of the number.
 constexpr double NotableRounding = 0.01;
 
 bool IsNotable(const Rewritten& number) {
@@ -20,7 +20,7 @@ bool IsNotable(const Rewritten& number) {
          std::abs(number.Number() - number.Exact()) > NotableRounding * std::abs(number.Exact());
 }
 
-/// The column of the points in work; none where the first has no station.
+/// The column of the current points; none where the first has no station.
 std::vector<Rewritten> ColumnOfPoints(std::size_t column, const Rewritten& like) {
   std::vector<Rewritten> numbers;
   if (ChannelState.IrregPoints[1][1] == EngineValue("")) return numbers;
@@ -83,5 +83,5 @@ void frmMain::ConvertInput(int before) {
     }
     (this->*field->Box).Text = number.Text().Text();
   }
-  if (!moved.empty()) status_.Tell(StatusLine::Moved, "Rounded by more than 1 %: " + moved);
+  if (!moved.empty()) status_.Set(StatusLine::Moved, "Rounded by more than 1 %: " + moved);
 }

@@ -1,4 +1,4 @@
-// The spelling of numbers in a project file: "." and "," in every country, so that a project may travel.
+// The spelling of numbers in a project file: "." and "," in every locale, so that projects can be exchanged.
 #pragma once
 
 #include <string>

@@ -55,7 +55,7 @@ class Records {
 
   void AddText(std::string_view text) { Add(ProjectItems::Quoted(text)); }
 
-  /// What a person typed where a number belongs.
+  /// What the user typed where a number belongs.
   void AddTyped(const std::string& typed, const char* end = EndOfLine) {
     const std::string spelled = FileNumber::FromUser(typed);
     Add(ProjectItems::Quoted(spelled), end);

@@ -72,7 +72,7 @@ ChartPlot::ChartPlot(const XYChart& chart, QWidget* parent) : QCustomPlot(parent
   Load();
 }
 
-/// Its points are what is read off; its line is round however near one looks.
+/// Readings come from its points; its line stays round at any zoom.
 class ChartPlot::CircleCurve : public QCPCurve {
  public:
   CircleCurve(QCPAxis* x, QCPAxis* y, const Circle& circle) : QCPCurve(x, y), circle_(circle) {}
@@ -143,7 +143,7 @@ ChartPlot::Breaking ChartPlot::PointsOf(int line) const {
 void ChartPlot::LoadLine(int line) {
   const auto circle = circles_.find(line);
   const Line drawn{circle == circles_.end() ? AddCurve() : AddCurve<CircleCurve>(circle->second), AddCurve()};
-  drawn.Lonely->setLineStyle(QCPCurve::lsNone);
+  drawn.Isolated->setLineStyle(QCPCurve::lsNone);
   if (line < names_.size()) {
     drawn.Curve->setName(names_[line]);
     drawn.Curve->addToLegend();
@@ -157,17 +157,17 @@ void ChartPlot::LoadLine(int line) {
     if (!point) continue;
     points_.append(*point);
     lineOf_.append(line);
-    if (empty(row - 1) && empty(row + 1)) drawn.Lonely->addData(order, point->x(), point->y());
+    if (empty(row - 1) && empty(row + 1)) drawn.Isolated->addData(order, point->x(), point->y());
   }
   lines_.push_back(drawn);
 }
 
-void ChartPlot::LoadMarked(int line, const std::vector<ChartStretch>& stretches) {
-  if (stretches.empty()) return;
+void ChartPlot::LoadMarked(int line, const std::vector<ChartSpan>& spans) {
+  if (spans.empty()) return;
   const Breaking points = PointsOf(line);
   auto order = static_cast<double>(marked_->dataCount());
-  for (const ChartStretch& stretch : stretches) {
-    for (int row = stretch.First; row <= stretch.Last; ++row) {
+  for (const ChartSpan& span : spans) {
+    for (int row = span.First; row <= span.Last; ++row) {
       const auto& point = points[static_cast<std::size_t>(row)];
       marked_->addData(order++, point ? point->x() : NaN, point ? point->y() : NaN);
     }
@@ -342,7 +342,7 @@ void ChartPlot::Restyle() {
       pen.setDashPattern({6, 4});
     }
     drawn.Curve->setPen(pen);
-    drawn.Lonely->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, colour, colour, 0.45 * em));
+    drawn.Isolated->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, colour, colour, 0.45 * em));
   }
   marked_->setPen(MarkedPen(colours_, em));
   RestyleNotes();

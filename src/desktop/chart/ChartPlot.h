@@ -23,9 +23,9 @@ class ChartPlot : public QCustomPlot {
   bool IsLogarithmic() const { return xAxis->scaleType() == QCPAxis::stLogarithmic; }
   void ShowWhole();
   /// Zooms in by `steps`, out when they are negative, around a place in pixels. Dragging, the wheel and a
-  /// double click, which shows the whole, do what they do everywhere.
+  /// double click, which shows the whole, behave as usual.
   void Zoom(double steps, QPointF around);
-  /// Finds every part its place on `size` pixels.
+  /// Lays out every part on `size` pixels.
   void LayOut(QSize size);
   /// The part that another plot of the same chart shows.
   void ShowAs(const ChartPlot& other);
@@ -41,7 +41,7 @@ class ChartPlot : public QCustomPlot {
   void ReplaceLine(int pair, Breaking points);
   /// Draws a line of the chart as the circle of which it has points; they stay what is read off.
   void DrawAsCircle(int pair, const QPointF& centre, double radius);
-  /// Says in words, below the axes, what the marked stretches are.
+  /// Says in words, below the axes, what the marked spans are.
   void ShowLegend(const QString& marked);
 
   /// The points drawn, line after line, each in the order of the chart's rows.
@@ -64,7 +64,7 @@ class ChartPlot : public QCustomPlot {
  private:
   struct Line {
     QCPCurve* Curve;
-    QCPCurve* Lonely;  ///< points without a neighbour, which no line would show
+    QCPCurve* Isolated;  ///< points without a neighbour, which no line would show
   };
   /// The name of a line at its last point.
   struct EndName {
@@ -83,7 +83,7 @@ class ChartPlot : public QCustomPlot {
   const XYChart::Curve* CurveOf(int line) const;
   void LoadLine(int line);
   void AddLegend();
-  void LoadMarked(int line, const std::vector<ChartStretch>& stretches);
+  void LoadMarked(int line, const std::vector<ChartSpan>& spans);
   /// Nothing for a point that the axes cannot show.
   std::optional<QPointF> Drawable(const std::optional<double>& x, const std::optional<double>& y) const;
   // Heading, names at the ends and the present point (ChartPlotNotes.cpp).

@@ -1,4 +1,4 @@
-// What a screen reader is told of a chart: the table of its points.
+// What a screen reader reads of a chart: the table of its points.
 #pragma once
 
 #include <QAccessible>

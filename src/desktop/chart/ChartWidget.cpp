@@ -33,7 +33,7 @@ struct AxisTitle {
   QString Name, Unit;
 };
 
-/// As many digits as tell neighbours apart on an axis whose values lie `spread` apart.
+/// As many digits as distinguish neighbours on an axis whose values lie `spread` apart.
 QString Number(double x, double spread) {
   const int digits = std::max(4, Declarations::SigDigs);
   constexpr double None = -std::numeric_limits<double>::infinity();
@@ -144,9 +144,9 @@ void ChartWidget::SetTexts(const QString& whyEmpty, const QString& marked) {
   Load();
 }
 
-void ChartWidget::Dress(std::function<void(ChartPlot&)> dress) {
-  dress_ = std::move(dress);
-  dress_(*plot_);
+void ChartWidget::Style(std::function<void(ChartPlot&)> style) {
+  style_ = std::move(style);
+  style_(*plot_);
   Load();
 }
 
@@ -160,10 +160,10 @@ void ChartWidget::Load() {
   plot_->replot();
   extent_ = QPolygonF(plot_->Points()).boundingRect();
   if (!plot_->Points().isEmpty()) {
-    note_->Tell(QString());
+    note_->Explain(QString());
   } else {
-    note_->Tell(plot_->IsLogarithmic() ? tr("Logarithmic axes show only points above 0: there are none.")
-                                       : whyEmpty_);
+    note_->Explain(plot_->IsLogarithmic() ? tr("Logarithmic axes show only points above 0: there are none.")
+                                          : whyEmpty_);
   }
   QAccessibleTableModelChangeEvent changed(this, QAccessibleTableModelChangeEvent::ModelReset);
   QAccessible::updateAccessibility(&changed);
@@ -202,7 +202,7 @@ bool ChartWidget::HasMarked() const {
   });
 }
 
-/// What a person sees at a glance.
+/// What the user sees at a glance.
 QString ChartWidget::Content() const {
   const QList<QPointF>& points = plot_->Points();
   if (points.isEmpty()) return note_->text();
@@ -225,8 +225,8 @@ QString ChartWidget::Content() const {
 
 void ChartWidget::Describe() {
   setAccessibleDescription(read_ < 0 ? Content() : Reading());
-  QAccessibleEvent told(this, QAccessible::DescriptionChanged);
-  QAccessible::updateAccessibility(&told);
+  QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+  QAccessible::updateAccessibility(&changed);
 }
 
 QString ChartWidget::Reading() const {

@@ -21,11 +21,11 @@ class ChartWidget : public QWidget {
  public:
   ChartWidget(XYChart& chart, QWidget* parent);
 
-  /// Says in words why the chart has no points, and what its marked stretches are.
+  /// Says in words why the chart has no points, and what its marked spans are.
   void SetTexts(const QString& whyEmpty, const QString& marked);
   /// Adds to the drawing, on the screen and in every picture of it.
-  void Dress(std::function<void(ChartPlot&)> dress);
-  /// A sample of a marked stretch, to stand before these words.
+  void Style(std::function<void(ChartPlot&)> style);
+  /// A sample of a marked span, shown before these words.
   static QWidget* MarkedSample(QWidget* parent);
 
   /// Commands of the view itself, for a menu: logarithmic axes; then larger, smaller and whole.
@@ -80,7 +80,7 @@ class ChartWidget : public QWidget {
   QCPItemText* tag_ = nullptr;
   QAction* logarithmic_ = nullptr;
   QList<QAction*> zooms_;
-  std::function<void(ChartPlot&)> dress_;
+  std::function<void(ChartPlot&)> style_;
   QString whyEmpty_, marked_;
   QRectF extent_;        // of the points
   qsizetype read_ = -1;  // the point read off

@@ -88,8 +88,8 @@ void ChartWidget::Paint(QCPPainter& painter, QSize size, const QFont& font) cons
   ChartPlot paper(chart_, nullptr);
   paper.setFont(font);
   paper.SetColours(Appearance::Paper());
-  if (dress_) {
-    dress_(paper);
+  if (style_) {
+    style_(paper);
     paper.Load();
   }
   paper.LayOut(size);

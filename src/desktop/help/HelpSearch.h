@@ -18,7 +18,7 @@ class HelpSearch {
   /// The file must outlive the search.
   explicit HelpSearch(const HelpFile& file) : file_(file) {}
 
-  /// The words of what a person typed: blanks part them, and upper and lower case are the same.
+  /// The words of what the user typed: blanks part them, and upper and lower case are the same.
   static QStringList Words(const QString& typed);
   /// The pages that have every word, whole or as a part of one, the best first; none without a word.
   QList<HelpHit> Find(const QStringList& words);

@@ -30,7 +30,7 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file)
   setWindowTitle(tr("Flumewise Help"));
   tabs_->setDocumentMode(true);
   tabs_->setUsesScrollButtons(false);  // but room for all titles
-  // Its letters choose a tab, which then has the keyboard.
+  // Its mnemonics choose a tab, which then has the keyboard.
   tabs_->setFocusPolicy(Qt::NoFocus);
   tabs_->tabBar()->setFocusPolicy(Qt::NoFocus);
   MakeContents();
@@ -122,7 +122,7 @@ void HelpWindow::MakeSearch() {
     QList<HelpTopic> topics;
     for (const HelpHit& hit : search_.Find(words)) topics.append({hit.Title, hit.Page});
     hits_->Show(topics);
-    note->Tell(topics.isEmpty() && !words.isEmpty() ? tr("No page has all of these words.") : QString());
+    note->Explain(topics.isEmpty() && !words.isEmpty() ? tr("No page has all of these words.") : QString());
   });
   AddTab(tr("&Search"), tr("&Words"), words_, hits_);
 }
@@ -201,7 +201,7 @@ void HelpWindow::ShowPage(const QString& page, const QString& place) {
   page_->setFocus();
 }
 
-/// A tab that is chosen, by its letter or the mouse, has the keyboard, also when it was in front already.
+/// A tab that is chosen, by its mnemonic or the mouse, has the keyboard, also when it was in front already.
 bool HelpWindow::eventFilter(QObject* tabBar, QEvent* event) {
   if (event->type() == QEvent::Shortcut || event->type() == QEvent::MouseButtonRelease)
     QTimer::singleShot(0, this, [this] { entries_[tabs_->currentIndex()]->setFocus(); });

@@ -17,9 +17,9 @@ namespace Bind {
 namespace {
 
 template <class Widget>
-Widget* Captioned(HasCaption& control, Widget* widget, std::string_view letters) {
+Widget* Captioned(HasCaption& control, Widget* widget, std::string_view mnemonics) {
   Join(control.Caption, widget,
-       [letters](Widget& w, const std::string& caption) { w.setText(WithMnemonic(caption, letters)); });
+       [mnemonics](Widget& w, const std::string& caption) { w.setText(WithMnemonic(caption, mnemonics)); });
   return widget;
 }
 
@@ -37,11 +37,11 @@ Widget* Checkable(OptionButton& option, Widget* made) {
 
 }  // namespace
 
-QString WithMnemonic(std::string_view caption, std::string_view letters) {
+QString WithMnemonic(std::string_view caption, std::string_view mnemonics) {
   const QString text = Printed(caption);
   qsizetype mnemonic = -1;
-  for (const char letter : letters) {
-    mnemonic = text.indexOf(QLatin1Char(letter), 0, Qt::CaseInsensitive);
+  for (const char candidate : mnemonics) {
+    mnemonic = text.indexOf(QLatin1Char(candidate), 0, Qt::CaseInsensitive);
     if (mnemonic >= 0) break;
   }
   QString result;
@@ -56,17 +56,17 @@ BoxEdit* Box(TextBox& box, QWidget* parent) {
   return Adopt(box, new BoxEdit(box, parent));
 }
 
-QLabel* Caption(Label& label, QWidget* parent, std::string_view letters) {
-  auto* const widget = Captioned(label, Named(label, new QLabel(parent)), letters);
+QLabel* Caption(Label& label, QWidget* parent, std::string_view mnemonics) {
+  auto* const widget = Captioned(label, Named(label, new QLabel(parent)), mnemonics);
   widget->setTextFormat(Qt::PlainText);
   return widget;
 }
 
-QPushButton* Push(Button& button, QWidget* parent, std::string_view letters) {
-  auto* const widget = Captioned(button, Adopt(button, new QPushButton(parent)), letters);
+QPushButton* Push(Button& button, QWidget* parent, std::string_view mnemonics) {
+  auto* const widget = Captioned(button, Adopt(button, new QPushButton(parent)), mnemonics);
   widget->setAutoDefault(true);  // Return presses it in every window, not in dialogs alone
   QObject::connect(widget, &QPushButton::clicked, widget, [&button, widget] {
-    widget->setFocus();  // its letter presses a button too, and that must end the edit of a box
+    widget->setFocus();  // its mnemonic presses a button too, and that must end the edit of a box
     Press(button);
   });
   return widget;
@@ -110,15 +110,16 @@ QComboBox* Combo(ComboBox& list, QWidget* parent) {
   return widget;
 }
 
-QGroupBox* Group(Label& label, QWidget* parent, std::string_view letters) {
+QGroupBox* Group(Label& label, QWidget* parent, std::string_view mnemonics) {
   auto* const widget = Named(label, new QGroupBox(parent));
-  Join(label.Caption, widget,
-       [letters](QGroupBox& w, const std::string& caption) { w.setTitle(WithMnemonic(caption, letters)); });
+  Join(label.Caption, widget, [mnemonics](QGroupBox& w, const std::string& caption) {
+    w.setTitle(WithMnemonic(caption, mnemonics));
+  });
   return widget;
 }
 
-QAction* Item(MenuItem& item, QWidget* parent, std::string_view letters) {
-  auto* const action = Captioned(item, Named(item, new QAction(parent)), letters);
+QAction* Item(MenuItem& item, QWidget* parent, std::string_view mnemonics) {
+  auto* const action = Captioned(item, Named(item, new QAction(parent)), mnemonics);
   Join(item.Checked, action, [](QAction& a, bool checked) { a.setChecked(checked); });
   QObject::connect(action, &QAction::triggered, action, [&item, action] {
     // Qt has toggled the check mark already; whether it stays is the command's business.

@@ -1,5 +1,5 @@
-// Joins a control with its widget both ways: the widget shows the control's properties, the control hears
-// what the person does. The compare in Property ends every loop between them.
+// Binds a control to its widget both ways: the widget shows the control's properties, the control is notified
+// of what the user does. The compare in Property ends every loop between them.
 #pragma once
 
 #include <QPointer>
@@ -43,7 +43,7 @@ void Follow(Property<T>& property, QObject* owner, std::function<void()> follow)
   };
 }
 
-/// Makes the widget or action that of the control: its name, and whether it is enabled and visible.
+/// Attaches the widget or action to the control: its name, and whether it is enabled and visible.
 template <class Widget>
 Widget* Named(Control& control, Widget* widget) {
   widget->setObjectName(ToQt(control.Name()));
@@ -55,7 +55,7 @@ Widget* Named(Control& control, Widget* widget) {
 
 constexpr const char* ControlProperty = "control";  ///< of a widget that can have the keyboard
 
-/// Makes the widget that of a control that can have the keyboard.
+/// Attaches the widget to a control that can take the focus.
 template <class Widget>
 Widget* Adopt(FocusControl& control, Widget* widget) {
   widget->setProperty(ControlProperty, QVariant::fromValue(static_cast<void*>(&control)));
@@ -65,20 +65,20 @@ Widget* Adopt(FocusControl& control, Widget* widget) {
   return Named(control, widget);
 }
 
-/// The caption with the first of `letters` that it has as its mnemonic.
-QString WithMnemonic(std::string_view caption, std::string_view letters);
+/// The caption with the first of `mnemonics` that it has as its mnemonic.
+QString WithMnemonic(std::string_view caption, std::string_view mnemonics);
 
-// Each makes the widget of a control, under the control's name. `letters`: candidates for the mnemonic.
+// Each makes the widget of a control, under the control's name. `mnemonics`: candidates for the mnemonic.
 BoxEdit* Box(TextBox& box, QWidget* parent);
-QLabel* Caption(Label& label, QWidget* parent, std::string_view letters = "");
-QPushButton* Push(Button& button, QWidget* parent, std::string_view letters = "");
+QLabel* Caption(Label& label, QWidget* parent, std::string_view mnemonics = "");
+QPushButton* Push(Button& button, QWidget* parent, std::string_view mnemonics = "");
 QRadioButton* Option(OptionButton& option, QWidget* parent);
 QCheckBox* Check(CheckBox& box, QWidget* parent);
 QListWidget* List(ListBox& list, QWidget* parent);
 QComboBox* Combo(ComboBox& list, QWidget* parent);
 /// The frame that a label heads.
-QGroupBox* Group(Label& label, QWidget* parent, std::string_view letters = "");
-QAction* Item(MenuItem& item, QWidget* parent, std::string_view letters);
+QGroupBox* Group(Label& label, QWidget* parent, std::string_view mnemonics = "");
+QAction* Item(MenuItem& item, QWidget* parent, std::string_view mnemonics);
 QAction* Tool(ToolButton& tool, QWidget* parent);
 
 /// The control whose widget this is and that can have the keyboard; null for any other widget.

@@ -97,7 +97,7 @@ void BoxEdit::ShowText() {
     selectAll();
     insert(wanted);
   }
-  // The beginning of a long text tells more than its end.
+  // The beginning of a long text says more than its end.
   if (!hasFocus()) setCursorPosition(0);
 }
 

@@ -1,4 +1,4 @@
-// The widget of a text box: a line edit that shows the box and tells it what is typed and selected.
+// The widget of a text box: a line edit that shows the box and passes on what is typed and selected.
 #pragma once
 
 #include <QLineEdit>

@@ -24,10 +24,10 @@ bool DecimalColumn::eventFilter(QObject* box, QEvent* event) {
 
 void DecimalColumn::Measure(Number& number) {
   const QString text = number.Box->text();
-  const QFontMetrics letters = number.Box->fontMetrics();
+  const QFontMetrics font = number.Box->fontMetrics();
   const qsizetype sign = text.indexOf(ToQt(CurrentNumberLocale().DecimalSign));
-  number.Width = letters.horizontalAdvance(text);
-  number.Fraction = sign < 0 ? 0 : letters.horizontalAdvance(text.mid(sign));
+  number.Width = font.horizontalAdvance(text);
+  number.Fraction = sign < 0 ? 0 : font.horizontalAdvance(text.mid(sign));
 }
 
 void DecimalColumn::Measure(const QObject* box) {

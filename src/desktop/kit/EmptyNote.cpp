@@ -13,7 +13,7 @@ EmptyNote::EmptyNote(QWidget* over) : QLabel(over) {
   hide();
 }
 
-void EmptyNote::Tell(const QString& why) {
+void EmptyNote::Explain(const QString& why) {
   setText(why);
   Place();
   setVisible(!why.isEmpty());

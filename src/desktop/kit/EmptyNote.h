@@ -7,7 +7,7 @@ class EmptyNote : public QLabel {
  public:
   explicit EmptyNote(QWidget* over);
   /// Hidden while there is no text.
-  void Tell(const QString& why);
+  void Explain(const QString& why);
 
  protected:
   bool eventFilter(QObject* over, QEvent* event) override;

@@ -52,7 +52,7 @@ int FieldPanel::Row() const {
 
 BoxEdit* FieldPanel::AddField(const Field& field) {
   const int row = Row();
-  QLabel* const caption = Bind::Caption(field.Caption, this, field.Letters);
+  QLabel* const caption = Bind::Caption(field.Caption, this, field.Mnemonics);
   BoxEdit* const box = Bind::Box(field.Box, this);
   caption->setBuddy(box);
   box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -95,7 +95,7 @@ void FieldPanel::AddUnderBox(QWidget* widget) {
 }
 
 void FieldPanel::KeepRoom(int unitWidth) {
-  // The widest comes and goes with its caption; drawn, it is wider than its letters by a pixel or so.
+  // The widest comes and goes with its caption; drawn, it is wider than its text by a pixel or so.
   int symbolWidth = fontMetrics().horizontalAdvance(QStringLiteral("Wc "));
   for (int row = 1; row < Row(); ++row) {
     if (const QLayoutItem* const item = grid_->itemAtPosition(row, SymbolColumn)) {

@@ -15,12 +15,12 @@ class FieldPanel : public QWidget {
   struct Field {
     Label& Caption;
     TextBox& Box;
-    Label* Unit;               ///< null: the unit is `FixedUnit`
-    const char* FixedUnit;     ///< in the place of a unit, for example ":1"
-    Wording Symbol;            ///< as in Symbol.h
-    std::string_view Letters;  ///< candidates for the mnemonic
-    Wording Captions;          ///< that it may have
-    QWidget* Switch;           ///< behind the caption; null: none
+    Label* Unit;                 ///< null: the unit is `FixedUnit`
+    const char* FixedUnit;       ///< in the place of a unit, for example ":1"
+    Wording Symbol;              ///< as in Symbol.h
+    std::string_view Mnemonics;  ///< candidates for the mnemonic
+    Wording Captions;            ///< that it may have
+    QWidget* Switch;             ///< behind the caption; null: none
   };
   BoxEdit* AddField(const Field& field);
   /// A row of its own under the boxes.

@@ -21,7 +21,7 @@ QMenu* FormWindow::AddMenu(const QString& title, const std::initializer_list<Ite
       menu->addSeparator();
       continue;
     }
-    QAction* const action = Bind::Item(*item.Command, menu, item.Letters);
+    QAction* const action = Bind::Item(*item.Command, menu, item.Mnemonics);
     action->setShortcut(item.Shortcut);
     menu->addAction(action);
   }

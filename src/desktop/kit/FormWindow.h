@@ -13,7 +13,7 @@ class FormWindow : public QMainWindow {
 
   struct Item {
     MenuItem* Command;  ///< null: a separator
-    const char* Letters;
+    const char* Mnemonics;
     QKeySequence Shortcut;
   };
   QMenu* AddMenu(const QString& title, const std::initializer_list<Item>& items);

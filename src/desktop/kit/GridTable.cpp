@@ -110,7 +110,7 @@ void GridTable::ShowLoaded() {
   FitColumns();
   ShowSelection();
   const bool empty = model()->rowCount() == 0;
-  note_->Tell(empty ? whyEmpty_ : QString());
+  note_->Explain(empty ? whyEmpty_ : QString());
   if (!whyEmpty_.isEmpty()) setAccessibleDescription(note_->text());
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr double IndexScale = 0.75;
 
-QString Letter(const QString& symbol) {
+QString Base(const QString& symbol) {
   return symbol.section(QLatin1Char('_'), 0, 0);
 }
 
@@ -28,21 +28,21 @@ QString SymbolLetters(const QString& symbol) {
 }
 
 QString SymbolAsRichText(const QString& symbol) {
-  return QStringLiteral("<i>%1</i><sub>%2</sub>").arg(Letter(symbol).toHtmlEscaped(), Index(symbol));
+  return QStringLiteral("<i>%1</i><sub>%2</sub>").arg(Base(symbol).toHtmlEscaped(), Index(symbol));
 }
 
 double SymbolWidth(const QString& symbol, const QFont& font) {
   const QFontMetricsF italic(Italic(font, symbol));
-  return italic.horizontalAdvance(Letter(symbol)) + IndexScale * italic.horizontalAdvance(Index(symbol));
+  return italic.horizontalAdvance(Base(symbol)) + IndexScale * italic.horizontalAdvance(Index(symbol));
 }
 
 void DrawSymbol(QPainter& painter, const QPointF& from, const QString& symbol) {
   painter.save();
   painter.setFont(Italic(painter.font(), symbol));
   painter.translate(from);
-  painter.drawText(QPointF(), Letter(symbol));
+  painter.drawText(QPointF(), Base(symbol));
   const QFontMetricsF italic(painter.font());
-  painter.translate(italic.horizontalAdvance(Letter(symbol)), 0.2 * italic.height());
+  painter.translate(italic.horizontalAdvance(Base(symbol)), 0.2 * italic.height());
   painter.scale(IndexScale, IndexScale);
   painter.drawText(QPointF(), Index(symbol));
   painter.restore();

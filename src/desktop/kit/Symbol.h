@@ -8,7 +8,7 @@
 class QPainter;
 class QPointF;
 
-/// Its letters in one line, for whoever hears or searches them: "yc".
+/// As plain text, for screen readers and searches: "yc".
 QString SymbolLetters(const QString& symbol);
 
 /// For a label.

@@ -1,4 +1,4 @@
-// Texts on their way between the calculator (UTF-8, positions in characters) and Qt (UTF-16 units).
+// Conversion of texts between the calculator (UTF-8, positions in characters) and Qt (UTF-16 units).
 #pragma once
 
 #include <QString>

@@ -1,4 +1,4 @@
-// The tool bar that a window of ours has, and what the toolkit's own lack for a person without a screen.
+// The tool bar that a window of ours has, and what the toolkit's own lack for screen readers.
 #pragma once
 
 class QMainWindow;

@@ -15,12 +15,12 @@ struct Row {
   Label& Name;
   TextBox& Box;
   Label& Unit;
-  const char* Letters;
+  const char* Mnemonics;
 };
 
 void AddRow(QGridLayout& grid, const Row& row, QWidget* parent) {
   const int at = grid.rowCount();
-  QLabel* const name = Bind::Caption(row.Name, parent, row.Letters);
+  QLabel* const name = Bind::Caption(row.Name, parent, row.Mnemonics);
   BoxEdit* const box = Bind::Box(row.Box, parent);
   box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   name->setBuddy(box);

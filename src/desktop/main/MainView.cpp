@@ -31,7 +31,7 @@
 namespace {
 
 /// The room that the widest unit takes.
-int UnitWidth(const QFontMetrics& letters) {
+int UnitWidth(const QFontMetrics& font) {
   QStringList units;
   for (int system = Units::English; system <= Units::Last; ++system) {
     for (int quantity = Units::Length; quantity <= Units::Dimensionless; ++quantity) {
@@ -40,7 +40,7 @@ int UnitWidth(const QFontMetrics& letters) {
   }
   units.removeDuplicates();
   int width = 0;
-  for (const QString& unit : units) width = std::max(width, letters.horizontalAdvance(unit));
+  for (const QString& unit : units) width = std::max(width, font.horizontalAdvance(unit));
   return width + 1;
 }
 
@@ -199,7 +199,7 @@ QWidget* MainView::StatusLine() {
     sign->setPixmap(LineIcon(status.Icon, status.Colour(palette())).pixmap(em * 5 / 4));
     sign->setAccessibleName(QLatin1String(status.Words));
   };
-  // The same reason is told of a box that is empty and of one that holds a wrong number.
+  // The same reason applies to a box that is empty and of one that holds a wrong number.
   Bind::Follow(form_.CurrentProgress, sign, show);
   Bind::Follow(form_.lblStatus.Caption, sign, show);
   return line;

@@ -25,7 +25,7 @@ constexpr MenuItem frmMain::*Separator = nullptr;
 
 struct ItemRow {
   MenuItem frmMain::*Item;
-  const char* Letters = "";
+  const char* Mnemonics = "";
   QKeySequence Shortcut = {};
   Kind Is = Kind::Command;
 };
@@ -48,7 +48,7 @@ QMenu* MakeMenu(frmMain& form, QMenuBar* bar, const char* title, const std::vect
       continue;
     }
     MenuItem& item = form.*row.Item;
-    QAction* const action = Bind::Item(item, menu, row.Letters);
+    QAction* const action = Bind::Item(item, menu, row.Mnemonics);
     if (row.Is != Kind::Command) {
       if (choices == nullptr) choices = new QActionGroup(menu);
       action->setCheckable(true);

@@ -12,8 +12,8 @@
 
 namespace {
 
-/// How much a drawing gains from its room: channels are wider than high.
-int Worth(int width, int height) {
+/// The usable size of a drawing in its space: channels are wider than high.
+int Score(int width, int height) {
   return std::min(width, height * 9 / 5);
 }
 
@@ -45,7 +45,7 @@ ReflowArea::Flow ReflowArea::Best(QSize room) const {
   const int below = room.height() - fieldHeight - gap;
   const bool three = beside >= drawing.width() && room.height() >= fieldHeight;
   const bool two = room.width() >= fields + (below >= drawing.height() ? 0 : scrollBar);
-  if (three && (below < drawing.height() || Worth(beside, room.height()) >= Worth(room.width(), below))) {
+  if (three && (below < drawing.height() || Score(beside, room.height()) >= Score(room.width(), below))) {
     return Flow::Three;
   }
   return two ? Flow::Two : Flow::One;

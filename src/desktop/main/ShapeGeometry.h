@@ -1,4 +1,4 @@
-// The cross-section of the channel in work as it is drawn beside its inputs, in the channel's own units: x to
+// The cross-section of the current channel as it is drawn beside its inputs, in the channel's own units: x to
 // the right, y upwards. What nobody has typed yet is drawn as usual for the type.
 #pragma once
 

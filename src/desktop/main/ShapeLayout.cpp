@@ -12,7 +12,7 @@
 namespace {
 
 QSizeF SizeOf(const ShapeLabel& label, const QFontMetricsF& font) {
-  // A letter of room for what is set in italics.
+  // A character's width of room for what is set in italics.
   return {font.horizontalAdvance(label.Plain()) + font.horizontalAdvance(QLatin1Char('n')), font.height()};
 }
 
@@ -330,8 +330,8 @@ class Layout {
     for (const Outline::Subsection& part : shape_.Parts) NamePart(part, bounds.bottom());
   }
 
-  /// The part's n below it, in the first of two rows where it meets no other, under a bar that tells it from
-  /// its neighbours.
+  /// The part's n below it, in the first of two rows where it meets no other, under a bar that separates it
+  /// from its neighbours.
   void NamePart(const Outline::Subsection& part, double bottom) {
     const double left = At({part.From, 0}).x();
     const double right = At({part.To, 0}).x();

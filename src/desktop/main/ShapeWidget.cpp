@@ -143,7 +143,7 @@ bool ShapeWidget::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-/// What it shows is told at once, what it looks like is worked out when it is painted.
+/// Its content is taken at once, its layout is computed when it is painted.
 void ShapeWidget::Refresh() {
   const ShapeLabels labels = LabelsOf(form_);
   QStringList parts{ToQt(ChannelState.ChannelType)};

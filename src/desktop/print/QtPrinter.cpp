@@ -35,7 +35,7 @@ constexpr double TwipsOfInch = 1440;
 constexpr double MillimetresOfInch = 25.4;
 constexpr int TwipsOfPoint = 20;
 constexpr int TwipsOfPixel = 15;      // of a screen of 96 dots to the inch, as which a picture is laid out
-constexpr int PicturePixels = 12;     // size of its letters
+constexpr int PicturePixels = 12;     // size of its text
 constexpr double SmallLetters = 0.7;  // size of exponents and indices
 
 int Twips(double millimetres) {
@@ -70,7 +70,7 @@ QStringList Wrapped(const QString& text, const QFont& font, int width, Qt::TextE
   return {text.left(line.textLength()), QFontMetricsF(font).elidedText(rest, ellipsis, width)};
 }
 
-/// Asks the file itself, as Qt does not tell when the disk is full.
+/// Asks the file itself, as Qt does not report a full disk.
 bool IsWhole(const QString& name) {
   QFile file(name);
   return file.open(QIODevice::ReadOnly) && file.readAll().trimmed().endsWith("%%EOF");
@@ -246,7 +246,7 @@ void QtPrinterDialog::Preview(const PrintRequest& request, const std::function<v
   dialog.exec();
 }
 
-// On the paper that the person printed on last, without asking the system for its printers.
+// On the paper that the user printed on last, without asking the system for its printers.
 std::string QtPrinterDialog::Pdf(const PrintRequest& request, const std::function<void(Printer&)>& write) {
   QBuffer file;
   file.open(QIODevice::WriteOnly);

@@ -60,7 +60,7 @@ class QtPrinterDialog : public PrinterDialog {
  private:
   static QString Title();
   /// Made when first needed, as asking the system for its printers takes its time; later it knows what the
-  /// person chose last.
+  /// user chose last.
   QPrinter& Device(const PrintRequest& request);
 
   std::unique_ptr<QPrinter> device_;

@@ -18,7 +18,7 @@
 
 namespace {
 
-/// What the marked stretches are, after a sample of one.
+/// What the marked spans are, after a sample of one.
 QWidget* Legend(frmGraph& form, const QMargins& margins, QWidget* parent) {
   auto* const legend = new QWidget(parent);
   auto* const row = new QHBoxLayout(legend);
@@ -50,16 +50,16 @@ class Choices : public QWidget {
  private:
   enum class UnitPlace { None, Beside, Above };
 
-  void AddList(Label& caption, const char* letters, ComboBox& list) {
+  void AddList(Label& caption, const char* mnemonics, ComboBox& list) {
     QComboBox* const widget = Bind::Combo(list, this);
     widget->setAccessibleDescription(ToQt(caption.Caption.Get()));
-    Add(caption, letters, widget, UnitPlace::None);
+    Add(caption, mnemonics, widget, UnitPlace::None);
   }
   /// The unit stands beside the box, or above it, where the box takes all the room.
-  void AddBox(Label& caption, const char* letters, TextBox& box, Label& unit,
+  void AddBox(Label& caption, const char* mnemonics, TextBox& box, Label& unit,
               UnitPlace place = UnitPlace::Beside) {
     BoxEdit* const edit = Bind::Box(box, this);
-    const int row = Add(caption, letters, edit, place);
+    const int row = Add(caption, mnemonics, edit, place);
     rows_->addWidget(Bind::Caption(unit, this), place == UnitPlace::Above ? row : row + 1, 1);
     const auto describe = [&unit, &box, edit] {
       QStringList parts{Printed(unit.Caption.Get()), ToQt(box.ToolTip.Get())};
@@ -69,8 +69,8 @@ class Choices : public QWidget {
     Bind::Follow(unit.Caption, edit, describe);
     Bind::Follow(box.ToolTip, edit, describe);
   }
-  int Add(Label& caption, const char* letters, QWidget* widget, UnitPlace place) {
-    QLabel* const label = Bind::Caption(caption, this, letters);
+  int Add(Label& caption, const char* mnemonics, QWidget* widget, UnitPlace place) {
+    QLabel* const label = Bind::Caption(caption, this, mnemonics);
     label->setBuddy(widget);
     const int row = rows_->rowCount();
     rows_->addWidget(label, row, 0, 1, place == UnitPlace::Above ? 1 : 2);
@@ -98,10 +98,10 @@ GraphView::GraphView(frmGraph& form, QWidget* parent) : RatingView(form, parent)
   chart->Plot().setMinimumSize(10 * em, 8 * em);
   row->addWidget(chart, 1);
   SetContent(content)->insertWidget(1, Legend(form, Below(), this));
-  const auto tell = [this, &form, chart] {
+  const auto explain = [this, &form, chart] {
     chart->SetTexts(WhyNothing(), ToQt(form.lblMarked.Caption.Get()));
   };
-  Bind::Follow(form.lblMissing.Caption, chart, tell);
+  Bind::Follow(form.lblMissing.Caption, chart, explain);
 
   QMenu* const view = AddMenu(tr("&View"), {{&form.mnuViewSwap, "s", {}}});
   view->actions().first()->setCheckable(true);

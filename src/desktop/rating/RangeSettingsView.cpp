@@ -32,9 +32,9 @@ RangeSettingsView::RangeSettingsView(RangeSettings& form, Label& vary, QWidget* 
   AddRow(form.Label2, form.tbMax, "l", Bind::Caption(form.lblunits[1], group_));
 }
 
-void RangeSettingsView::AddRow(Label& caption, TextBox& box, const char* letters, QLabel* unit) {
+void RangeSettingsView::AddRow(Label& caption, TextBox& box, const char* mnemonics, QLabel* unit) {
   const int row = range_->rowCount();
-  QLabel* const label = Bind::Caption(caption, group_, letters);
+  QLabel* const label = Bind::Caption(caption, group_, mnemonics);
   BoxEdit* const edit = Bind::Box(box, group_);
   edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   label->setBuddy(edit);

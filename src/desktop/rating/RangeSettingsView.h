@@ -13,7 +13,7 @@ class RangeSettingsView : public FormDialog {
   RangeSettingsView(RangeSettings& form, Label& vary, QWidget* parent);
 
   /// A row of the range; its unit is that of the range's ends.
-  void AddRow(Label& caption, TextBox& box, const char* letters, QLabel* unit);
+  void AddRow(Label& caption, TextBox& box, const char* mnemonics, QLabel* unit);
   /// The unit of the range once more.
   QLabel* SameUnit();
   /// The range last used, below the rows of the range.

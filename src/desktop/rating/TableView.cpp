@@ -21,15 +21,15 @@ TableView::TableView(frmTable& form, QWidget* parent) : RatingView(form, parent)
 
   auto* const count = new QLabel(this);
   statusBar()->addWidget(count);
-  const auto tell = [table, count, &form] {
+  const auto show = [table, count, &form] {
     const int rows = table->model()->rowCount();
     const int marked = form.MSFlexGrid1.MarkedRow;
     QString text = rows == 1 ? tr("1 row") : tr("%L1 rows").arg(rows);
     if (marked > 0) text += tr("; row %L1 is the problem as typed").arg(marked);
     count->setText(text);
   };
-  connect(table->model(), &QAbstractItemModel::modelReset, count, tell);
-  tell();
+  connect(table->model(), &QAbstractItemModel::modelReset, count, show);
+  show();
   Bind::Follow(form.lblMissing.Caption, table, [this, table] { table->SetEmptyText(WhyNothing()); });
   table->setFocus();
   SetSize({84, 38});

@@ -41,11 +41,11 @@ class ReadTable : public GridTable {
 struct Choice {
   Label& Caption;
   FocusControl& Control;
-  std::string_view Letters;
+  std::string_view Mnemonics;
 };
 
 void AddChoice(QGridLayout& grid, const Choice& choice, QWidget* parent) {
-  QLabel* const caption = Bind::Caption(choice.Caption, parent, choice.Letters);
+  QLabel* const caption = Bind::Caption(choice.Caption, parent, choice.Mnemonics);
   QWidget* widget = nullptr;
   if (auto* const list = dynamic_cast<ComboBox*>(&choice.Control)) {
     QComboBox* const combo = Bind::Combo(*list, parent);
@@ -107,7 +107,7 @@ QWidget* ImportView::ReadPart(frmImport& form) {
 QWidget* ImportView::DrawingPart(frmImport& form) {
   ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, this));
   chart->SetTexts(tr("Nothing can be drawn yet."), {});
-  chart->Dress([](ChartPlot& plot) { plot.NameLines({tr("Before"), tr("After")}); });
+  chart->Style([](ChartPlot& plot) { plot.NameLines({tr("Before"), tr("After")}); });
   chart->LogarithmicAction()->setEnabled(false);
   chart->Plot().setMinimumSize(QSize(14, 11) * fontMetrics().height());
   return chart;

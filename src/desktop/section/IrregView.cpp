@@ -47,7 +47,7 @@ ChartPlot::Breaking Ground(const frmIrreg& form) {
 ChartWidget* Drawing(frmIrreg& form, QWidget* page) {
   ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, page));
   chart->SetTexts(IrregView::tr("The section is drawn here as its points are entered."), {});
-  chart->Dress([&form](ChartPlot& plot) {
+  chart->Style([&form](ChartPlot& plot) {
     plot.NameLines({IrregView::tr("Ground")});
     plot.ReplaceLine(0, Ground(form));
     new SectionBackdrop(  // the plot owns it
@@ -112,6 +112,6 @@ void IrregView::dragEnterEvent(QDragEnterEvent* event) {
 void IrregView::dropEvent(QDropEvent* event) {
   const std::string path = FromQt(DraggedFile(*event->mimeData()));
   event->acceptProposedAction();
-  // Afterwards: the dialog waits for the person, and the program dragged from for the drop to end.
+  // Afterwards: the dialog waits for the user, and the program dragged from for the drop to end.
   QTimer::singleShot(0, this, [this, path] { form_.ImportFile(path); });
 }

@@ -1,4 +1,4 @@
-// The point table on the screen: a small spreadsheet, worked by the keys and the mouse that a person knows
+// The point table on the screen: a small spreadsheet, worked by the keys and the mouse that the user knows
 // from large ones. A cell is edited in the form's own box, which floats over it.
 #pragma once
 

@@ -34,7 +34,7 @@ SectionView::SectionView(frmSection& form, QWidget* parent) : FormWindow(parent)
   QMenu* const edit = AddMenu(tr("&Edit"), {{&form.mnuEditCopy, "c", QKeySequence::Copy}});
   ChartWidget* const chart = Bind::Named(form.MSChart1, new ChartWidget(form.MSChart1, this));
   const SectionDrawing& drawing = form.Drawing();
-  chart->Dress([&drawing](ChartPlot& plot) {
+  chart->Style([&drawing](ChartPlot& plot) {
     const bool isSurveyed = !drawing.Subsections.empty();
     plot.NameLines({drawing.Pipe ? tr("Pipe wall")
                     : isSurveyed ? tr("Ground")

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Every line end as CR LF: other programs put lone LFs on the clipboard and take a lone CR for a letter.
+/// Every line end as CR LF: other programs put lone LFs on the clipboard and take a lone CR for a character.
 QString WithCrLf(QString text) {
   const QLatin1String crLf("\r\n");
   return text.replace(crLf, QLatin1String("\n")).replace(u'\r', u'\n').replace(QLatin1String("\n"), crLf);

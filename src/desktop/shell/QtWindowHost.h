@@ -1,4 +1,4 @@
-// Shows forms in windows of the desktop: one view for each form, focus and closing told to the form.
+// Shows forms in windows of the desktop: one view for each form, focus and closing passed on to the form.
 #pragma once
 
 #include <QObject>
@@ -19,7 +19,7 @@ class QtWindowHost : public WindowHost {
   QWidget* WindowOf(const Form& form) const;
 
  protected:
-  /// Returns when the form is unloaded; until then the person goes on working.
+  /// Returns when the form is unloaded; until then the user goes on working.
   virtual void WaitUntilUnloaded(Form& form);
 
  private:

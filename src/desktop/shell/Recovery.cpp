@@ -43,7 +43,7 @@ void SetAside(KeptCopy& copy, const std::exception& failure) {
   try {
     now = copy.SetAside();
   } catch (const std::exception&) {
-    // It stays where it is and is told of again at the next start.
+    // It stays where it is and is reported again at the next start.
   }
   QMessageBox box(
       QMessageBox::Warning, QString::fromLatin1(Declarations::AppTitle),

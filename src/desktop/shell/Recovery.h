@@ -23,7 +23,7 @@ class Recovery {
   Recovery& operator=(const Recovery&) = delete;
 
   /// Asks about each copy that a program left, the latest first, until one is opened. One that cannot be
-  /// opened is set aside, and the user told.
+  /// opened is set aside, and the user informed.
   void OfferLeftCopies();
 
   /// Brings the copy up to date.
@@ -34,7 +34,7 @@ class Recovery {
  private:
   void Keep(ProjectFile::Project work);
   void Drop();
-  /// True when the copy became the project in work.
+  /// True when the copy became the current project.
   bool Offer(const std::filesystem::path& path);
 
   frmMain& main_;
