@@ -24,6 +24,7 @@ std::vector<const Field*> PlottedResults() {
 void ShowPlotInForce(ComboBox& list) {
   const auto results = PlottedResults();
   std::vector<std::string> names;
+  names.reserve(results.size());
   for (const Field* const each : results) names.emplace_back(each->ListName);
   list.Items = names;
   const auto plotted = std::ranges::find(results, RatingRange.GraphYColumn, &Field::RatingColumn);

@@ -48,7 +48,8 @@ void frmTableSettings::cmdLastUsed_Click() {
 }
 
 void frmTableSettings::ProposeStep() {
-  const double step = (NumberIn(tbMax) - NumberIn(tbMin)) / ProposedTableSteps;  // already in the unit on display
+  const double step =
+      (NumberIn(tbMax) - NumberIn(tbMin)) / ProposedTableSteps;  // already in the unit on display
   tbIncrement.Text = ShownNumber(step, Units::Dimensionless, HasFixedDecimals());
 }
 

@@ -125,8 +125,7 @@ std::vector<Exchange> InLocale(const NumberLocale& locale, const std::vector<Exc
     const bool read = exchange.Line.starts_with("get tb") || exchange.Line.starts_with("get frmMain.tb") ||
                       exchange.Line.starts_with("get lst") || exchange.Line.starts_with("get frmWorking.") ||
                       exchange.Line.starts_with("get lbl") || exchange.Line.starts_with("get cmd") ||
-                      exchange.Line.starts_with("cell ") ||
-                      exchange.Line == "printed" ||
+                      exchange.Line.starts_with("cell ") || exchange.Line == "printed" ||
                       (exchange.Line.starts_with("record points") && exchange.Reply.starts_with("t:")) ||
                       exchange.Line.starts_with("clipboard");
     respelled.push_back({typed ? Respelled(locale, exchange.Line) : exchange.Line,
