@@ -52,15 +52,16 @@ struct Field {
   int PageQuantity = Quantity;                       ///< and on pages, in rating tables and graphs
   TypedUnits::Kind Typed = TypedUnits::Kind::Plain;  ///< the units that may be typed behind the number
   bool FixedDecimals = false;                        ///< shown with decimals, not with significant digits
+  bool KeptByNew = false;                            ///< New leaves the text in the box
   ResultWhen Result = ResultWhen::Never;
+
+  int FileItem = -1;     ///< place among the inputs of a project file
+  int ReportLine = -1;   ///< place among the inputs of the report
+  int RatingColumn = 0;  ///< place in rating tables; 0: none
 
   FormStuff::Range Bounds = {};  ///< of an input
   /// What is wrong with the text as a water-surface elevation; null: `Bounds` hold for it too.
   std::string (*SurveyedOffence)(const std::string& typed) = nullptr;
-  bool KeptByNew = false;  ///< New leaves the text in the box
-  int FileItem = -1;       ///< place among the inputs of a project file
-  int ReportLine = -1;     ///< place among the inputs of the report
-  int RatingColumn = 0;    ///< place in rating tables; 0: none
 
   const char* ListName = nullptr;  ///< in the lists of what to vary and to plot; null: in neither
   Wording RatingHead = {};

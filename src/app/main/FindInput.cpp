@@ -187,7 +187,7 @@ std::vector<Findable> FindableInputs() {
 
 FoundInput FindInput(const Findable& wanted, const TypedText& typed) {
   const KeptRecord kept;
-  const FoundInput offence = OffenceOfGiven(wanted, typed);
+  FoundInput offence = OffenceOfGiven(wanted, typed);
   if (!offence.WhyNone.empty()) return offence;
   const Field& flowField = FieldOf(&frmMain::tbFlow);
   const double flow = LeadingNumber(typed(flowField)) * FactorOf(flowField);
