@@ -23,13 +23,18 @@ QSize FormDialog::Room() const {
   return screen()->availableSize() - QSize(em / 2, 2 * em);
 }
 
-void FormDialog::AddButtons(QPushButton* ok, QPushButton* cancel) {
+void FormDialog::AddButtons(QPushButton* ok, QPushButton* cancel, QWidget* why) {
   cancel_ = cancel == nullptr ? ok : cancel;
   ok->setDefault(true);
   auto* const row = new QDialogButtonBox(this);
   row->addButton(ok, QDialogButtonBox::AcceptRole);
   if (cancel != nullptr) row->addButton(cancel, QDialogButtonBox::RejectRole);
-  ScrollPage::Fill(this, page_, row);
+  auto* const ending = new QWidget(this);
+  auto* const lines = new QVBoxLayout(ending);
+  lines->setContentsMargins({});
+  if (why != nullptr) lines->addWidget(why);
+  lines->addWidget(row);
+  ScrollPage::Fill(this, page_, ending);
 }
 
 // By now the parts know their sizes. Large texts take more than the share of the screen that a dialog is

@@ -19,8 +19,9 @@ class FormDialog : public QDialog {
   /// Where all but the buttons goes.
   QVBoxLayout& Column() { return *column_; }
   /// Puts the buttons below the column, which is complete by then; Enter is `ok` unless another button has
-  /// the focus. Without `cancel` Escape is `ok` too.
-  void AddButtons(QPushButton* ok, QPushButton* cancel = nullptr);
+  /// the focus. Without `cancel` Escape is `ok` too. `why` says what keeps `ok` off, always in sight above
+  /// them.
+  void AddButtons(QPushButton* ok, QPushButton* cancel = nullptr, QWidget* why = nullptr);
 
   void showEvent(QShowEvent* event) override;
 

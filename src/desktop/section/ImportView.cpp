@@ -77,8 +77,7 @@ ImportView::ImportView(frmImport& form, QWidget* parent) : FormDialog(form, pare
   reason->setFont(bold);
   // Its room is kept, so that the dialog does not jump while something is chosen.
   reason->setMinimumHeight(fontMetrics().lineSpacing());
-  Column().addWidget(reason);
-  AddButtons(Bind::Push(form.cmdOK, this, "o"), Bind::Push(form.cmdCancel, this, "a"));
+  AddButtons(Bind::Push(form.cmdOK, this, "o"), Bind::Push(form.cmdCancel, this, "a"), reason);
   resize(46 * fontMetrics().height(), 0);  // at least, for the drawing
 }
 
