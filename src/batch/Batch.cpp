@@ -63,6 +63,7 @@ int RunInParts(const std::string& program, const std::vector<std::string>& argum
   }
   // Read at the same time: a part whose pipe is full would wait for those before it.
   std::vector<std::future<ChildProgram::Ending>> endings;
+  endings.reserve(children.size());
   for (ChildProgram& child : children) {
     endings.push_back(std::async(std::launch::async, [&child] { return child.Wait(); }));
   }

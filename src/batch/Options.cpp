@@ -61,8 +61,7 @@ RatingRequest RangeOf(const std::string& text) {
   bool numbers = words.size() == 4;
   for (const std::string& word : std::span(words).subspan(1)) numbers = numbers && IsNumeric(word);
   if (!numbers) Refuse("--rating=" + text, "a range is FIELD,FIRST,LAST,STEP");
-  const RatingRequest range{words[0], LeadingNumber(words[1]), LeadingNumber(words[2]),
-                            LeadingNumber(words[3])};
+  RatingRequest range{words[0], LeadingNumber(words[1]), LeadingNumber(words[2]), LeadingNumber(words[3])};
   if (!(range.Last > range.First && range.Step > 0))
     Refuse("--rating=" + text, "the last value must be greater than the first, and the step than 0");
   return range;

@@ -111,7 +111,9 @@ void AppendRating(std::string& sheet, const Answer& answer, const RatingRequest*
   }
   RatingOutcome outcome;
   std::string gaps;
-  if (CurrentChannelType().AsksFor(*point.Varied)) {
+  if (range != nullptr && !CurrentChannelType().AsksFor(*point.Varied)) {
+    gaps = range->Input + " is no input of this problem";
+  } else {
     outcome = StepRatingSeries(
         RatingRange, LastValue::Snapped,
         [&](int) {
@@ -120,8 +122,6 @@ void AppendRating(std::string& sheet, const Answer& answer, const RatingRequest*
         },
         [](int) { return true; });
     gaps = outcome.Gaps.Text(outcome.Points);
-  } else {
-    gaps = range->Input + " is no input of this problem";
   }
   if (gaps.empty()) return;
   Answer none = answer;
