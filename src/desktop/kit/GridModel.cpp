@@ -2,6 +2,7 @@
 #include "desktop/kit/GridModel.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QPointer>
 
 #include "desktop/kit/Text.h"

@@ -125,12 +125,16 @@ class Layout {
   /// The mark as large as the channel holds it, in a pipe at its middle; none where it could not be seen.
   void MarkSurface(const QLineF& surface) {
     const double y = surface.y1();
-    for (double half = 0.3 * em_; half >= 2; half *= 0.8) {
+    double half = 0.3 * em_;
+    while (half >= 2) {
       const double x =
           shape_.Wall ? surface.center().x() : surface.x1() + std::max(0.15 * surface.dx(), half + 0.1 * em_);
       const double top = y - 1.6 * half - 1;
       const bool inside = shape_.Wall ? Holds({x + half, top}) : surface.dx() > 2 * half + 0.2 * em_;
-      if (!inside) continue;
+      if (!inside) {
+        half *= 0.8;
+        continue;
+      }
       result_.SurfaceMark = QPolygonF({{x, y - 1}, {x - half, top}, {x + half, top}});
       const bool room = shape_.Wall ? Holds({x + 0.4 * half, y + 8}) : surface.length() >= 4 * em_;
       if (!room) return;

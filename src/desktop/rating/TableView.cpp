@@ -3,7 +3,9 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 #include "desktop/kit/Bind.h"
 #include "desktop/kit/GridTable.h"
