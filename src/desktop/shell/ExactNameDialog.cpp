@@ -31,7 +31,7 @@ void ExactNameDialog::TakeQuoted(const QString& typed) {
     path += u'.' + defaultSuffix();
   if (!MayTake(path)) return;
   quoted_ = path;
-  QDialog::accept();
+  done(Accepted);
 }
 
 bool ExactNameDialog::MayTake(const QString& path) {
