@@ -3,19 +3,17 @@
 
 #include <algorithm>
 #include <exception>
-#include <filesystem>
 #include <stdexcept>
 
 #include "app/Declarations.h"
+#include "files/PathText.h"
 #include "files/WholeFile.h"
 #include "platform/Services.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
 std::string ExtensionOf(const std::string& path) {
-  std::string extension = fs::path(path).extension().string();
+  std::string extension = TextOf(PathOf(path).extension());
   if (!extension.empty()) extension.erase(0, 1);
   std::ranges::transform(extension, extension.begin(),
                          [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
@@ -26,7 +24,7 @@ std::string ExtensionOf(const std::string& path) {
 
 void ExportFile(const ExportKind& kind,
                 const std::function<std::string(const std::string& extension)>& content) {
-  const std::string proposed = fs::path(Declarations::FileTitle).stem().string() + "." + kind.Extension;
+  const std::string proposed = TextOf(PathOf(Declarations::FileTitle).stem()) + "." + kind.Extension;
   const Services& services = TheServices();
   const auto path =
       services.fileDialog.Choose({true, kind.Title, Declarations::UserPath, kind.Filter, proposed});
@@ -35,7 +33,7 @@ void ExportFile(const ExportKind& kind,
     const std::string bytes = content(ExtensionOf(*path));
     if (bytes.empty()) throw std::runtime_error("no file of this kind can be made");
     WholeFile::Write(*path, bytes);
-    Declarations::Done = "Exported " + fs::path(*path).filename().string();
+    Declarations::Done = "Exported " + TextOf(PathOf(*path).filename());
   } catch (const std::exception& failure) {
     services.messageBox.Show("Cannot write " + *path + ": " + WholeFile::ReasonOf(failure),
                              Declarations::AppTitle, BoxIcon::Exclamation, BoxButtons::Ok);

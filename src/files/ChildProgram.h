@@ -1,6 +1,7 @@
 // Another program at work, its standard output read by this one.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -21,5 +22,5 @@ class ChildProgram {
   Ending Wait();
 
  private:
-  int process_ = -1, output_ = -1;
+  std::intptr_t process_ = -1, output_ = -1;
 };

@@ -1,14 +1,13 @@
 // See KeptCopy.h.
 #include "files/KeptCopy.h"
 
-#include <fcntl.h>
-
 #include <algorithm>
 #include <random>
 #include <sstream>
 #include <stdexcept>
 #include <system_error>
 
+#include "files/PathText.h"
 #include "files/SafeReplace.h"
 #include "files/UserFolders.h"
 
@@ -39,7 +38,7 @@ fs::path NewPath() {
 }
 
 OpenFile OpenLock(const fs::path& path) {
-  return {LockOf(path), O_RDWR | O_CREAT | O_NONBLOCK, 0600};
+  return {LockOf(path), OpenFile::For::ChangingOrMaking};
 }
 
 }  // namespace
@@ -65,7 +64,7 @@ std::optional<KeptCopy> KeptCopy::TakeOver(const fs::path& path) {
     copy.lock_.emplace(OpenLock(path));
     if (!copy.lock_->Lock(LockOf(path))) return std::nullopt;
     std::string origin = copy.lock_->Read();
-    if (fs::path(origin).is_absolute()) copy.origin_ = std::move(origin);
+    if (PathOf(origin).is_absolute()) copy.origin_ = std::move(origin);
   } catch (const std::system_error&) {
     // A lock that cannot be opened is held by nobody.
   }

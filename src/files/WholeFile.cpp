@@ -1,15 +1,13 @@
 // See WholeFile.h.
 #include "files/WholeFile.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <filesystem>
 #include <stdexcept>
 #include <system_error>
 
 #include "files/KeptCopy.h"
 #include "files/OpenFile.h"
+#include "files/PathText.h"
 #include "files/SafeReplace.h"
 
 namespace fs = std::filesystem;
@@ -27,15 +25,15 @@ fs::path FollowLinks(fs::path path) {
 
 void RequireWritable(const fs::path& file) {
   if (!fs::is_regular_file(file)) throw std::runtime_error("not a regular file");
-  if (faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0) FailStep("write");
+  const OpenFile opens(file, OpenFile::For::Changing);
 }
 
 /// While this runs the copy has the new content whole; it stays where a kill, or a disk that takes neither
 /// the new content nor the old one, leaves the file damaged.
 void WriteInPlace(const fs::path& file, std::string_view bytes) {
-  const OpenFile target(file, O_RDWR);
+  const OpenFile target(file, OpenFile::For::Changing);
   if (!target.Lock(file)) throw std::runtime_error("another program is saving the file");
-  KeptCopy copy(fs::absolute(file).string(), bytes);
+  KeptCopy copy(TextOf(fs::absolute(file)), bytes);
   const std::string before = target.Read();
   try {
     target.Write(bytes);
@@ -43,7 +41,7 @@ void WriteInPlace(const fs::path& file, std::string_view bytes) {
     try {
       target.Write(before);
     } catch (const std::exception&) {
-      throw std::runtime_error("the file is damaged; what was to be saved is " + copy.Path().string());
+      throw std::runtime_error("the file is damaged; what was to be saved is " + TextOf(copy.Path()));
     }
     copy.Remove();
     throw;
@@ -56,17 +54,18 @@ void WriteInPlace(const fs::path& file, std::string_view bytes) {
 namespace WholeFile {
 
 std::string Read(const std::string& path, std::size_t most) {
+  const fs::path file = PathOf(path);
   // Opening a pipe would wait, and opening a device can set it going: ask first.
-  const fs::file_status status = fs::status(path);
+  const fs::file_status status = fs::status(file);
   if (!fs::exists(status)) throw std::runtime_error("there is no such file");
   if (!fs::is_regular_file(status)) throw std::runtime_error("not a regular file");
-  if (fs::file_size(path) > most) throw std::runtime_error("the file is too large");
-  return OpenFile(path, O_RDONLY | O_NONBLOCK).Read();
+  if (fs::file_size(file) > most) throw std::runtime_error("the file is too large");
+  return OpenFile(file, OpenFile::For::Reading).Read();
 }
 
 bool IsStill(const std::string& path, std::string_view bytes) {
   std::error_code error;
-  if (fs::status(path, error).type() == fs::file_type::not_found) return true;
+  if (fs::status(PathOf(path), error).type() == fs::file_type::not_found) return true;
   try {
     return Read(path) == bytes;
   } catch (const std::runtime_error&) {
@@ -75,7 +74,7 @@ bool IsStill(const std::string& path, std::string_view bytes) {
 }
 
 void Write(const std::string& path, std::string_view bytes) {
-  const fs::path file = FollowLinks(path);
+  const fs::path file = FollowLinks(PathOf(path));
   if (!file.has_filename()) throw std::runtime_error("there is no file name");
   if (fs::exists(file)) RequireWritable(file);
   if (!SafeReplace(file, bytes)) WriteInPlace(file, bytes);
@@ -83,7 +82,7 @@ void Write(const std::string& path, std::string_view bytes) {
 
 std::string ReasonOf(const std::exception& failure) {
   const auto* const system = dynamic_cast<const std::system_error*>(&failure);
-  return system == nullptr ? failure.what() : system->code().message();
+  return system == nullptr ? failure.what() : system->code().default_error_condition().message();
 }
 
 }  // namespace WholeFile

@@ -6,6 +6,7 @@
 
 #include "app/Declarations.h"
 #include "engine/ChannelState.h"
+#include "files/PathText.h"
 #include "files/WholeFile.h"
 #include "platform/Services.h"
 #include "section/PastedSign.h"
@@ -56,7 +57,7 @@ std::optional<IrregTable::Table> ImportedPoints(const std::string& bytes) {
 
 std::optional<IrregTable::Table> PointsOfFile(const std::string& path) {
   std::error_code ignored;
-  if (std::filesystem::file_size(path, ignored) > Survey::MaxBytes && !ignored) {
+  if (std::filesystem::file_size(PathOf(path), ignored) > Survey::MaxBytes && !ignored) {
     Complain("The file is larger than 64 MiB.");
     return std::nullopt;
   }

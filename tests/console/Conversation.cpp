@@ -159,7 +159,7 @@ std::vector<std::string> Differences(const std::vector<Exchange>& conversation,
 std::vector<std::string> ConversationFiles(const std::string& folder) {
   std::vector<std::string> files;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() == ".txt") files.push_back(entry.path().string());
+    if (entry.path().extension() == ".txt") files.push_back(entry.path().generic_string());
   }
   std::ranges::sort(files);
   return files;

@@ -44,10 +44,13 @@ MAY_INCLUDE = {
 WITH_QT = ["src/desktop/", "tests/desktop/", "bench/desktop/"]
 QT = re.compile(r"Q[A-Z]|Qt|q[a-z]+\.h$|qcustomplot")
 STANDARD = re.compile(r"[a-z_]+")  # headers of the standard library have no suffix
-# The one room that may ask the system itself: the standard library cannot flush a file to the disk, keep its rights or
-# start a program.
-WITH_POSIX = "files"
-POSIX = {"fcntl.h", "spawn.h", "sys/file.h", "sys/stat.h", "sys/wait.h", "sys/xattr.h", "unistd.h"}
+# The one room that may ask the system itself, in sources that are named after it: the standard library cannot flush a
+# file to the disk, keep its rights or start a program.
+WITH_SYSTEM = "files"
+SYSTEMS = {
+    "Posix.cpp": {"fcntl.h", "spawn.h", "sys/file.h", "sys/stat.h", "sys/wait.h", "sys/xattr.h", "unistd.h"},
+    "Windows.cpp": {"fcntl.h", "io.h", "shlobj.h", "windows.h"},
+}
 DIRECTIVE = re.compile(r'^\s*#\s*include\s*(?:<([^>]*)>|"([^"]*)"|(.*))')
 
 
@@ -75,7 +78,8 @@ def fault_of_include(place, system, own):
     if folder.startswith("desktop") and (system is not None or own.endswith(".moc")):
         return None
     if system is not None:
-        if STANDARD.fullmatch(system) or (folder == WITH_POSIX and system in POSIX):
+        asked = [headers for ending, headers in SYSTEMS.items() if folder == WITH_SYSTEM and place.endswith(ending)]
+        if STANDARD.fullmatch(system) or any(system in headers for headers in asked):
             return None
         return f"{folder} stands on the standard library alone, not <{system}>"
     target = room(own)

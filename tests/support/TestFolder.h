@@ -1,10 +1,10 @@
 // A folder of its own for each test: tests run side by side.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 
 /// The whole file; nothing where there is none.
@@ -17,8 +17,9 @@ inline std::string BytesOf(const std::filesystem::path& path) {
 class TestFolder {
  public:
   TestFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "flumewise-XXXXXX").string();
-    path_ = mkdtemp(pattern.data());
+    std::random_device random;
+    do path_ = std::filesystem::temp_directory_path() / ("flumewise-" + std::to_string(random()));
+    while (!std::filesystem::create_directory(path_));
   }
   ~TestFolder() {
     std::error_code error;

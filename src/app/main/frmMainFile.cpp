@@ -10,6 +10,7 @@
 #include "app/main/frmMain.h"
 #include "app/project/ProjectFile.h"
 #include "engine/ChannelState.h"
+#include "files/PathText.h"
 #include "files/WholeFile.h"
 #include "platform/Services.h"
 
@@ -254,7 +255,7 @@ void frmMain::ShowRecentFiles() {
     item.Caption = std::to_string(number) + " " + (i < paths.size() ? NameAndFolder(paths[i]) : "");
     item.Visible = i < paths.size();
     std::error_code error;
-    item.Enabled = i < paths.size() && std::filesystem::exists(paths[i], error);
+    item.Enabled = i < paths.size() && std::filesystem::exists(PathOf(paths[i]), error);
   }
   mnuFileClearRecent.Visible = !paths.empty();
 }

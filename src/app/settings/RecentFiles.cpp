@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "app/settings/SettingsFile.h"
+#include "files/PathText.h"
 #include "files/WholeFile.h"
 
 namespace fs = std::filesystem;
@@ -26,7 +27,7 @@ std::vector<std::string> RecentFiles::Paths() const {
   try {
     std::istringstream lines(WholeFile::Read(ListFile(), LargestFile));
     for (std::string line; paths.size() < Most && std::getline(lines, line);) {
-      if (line.starts_with('/')) paths.push_back(line);
+      if (PathOf(line).is_absolute()) paths.push_back(line);
     }
   } catch (const std::runtime_error&) {
     // No list yet, or none that can be read.
@@ -35,7 +36,7 @@ std::vector<std::string> RecentFiles::Paths() const {
 }
 
 void RecentFiles::Add(const std::string& path) {
-  const std::string whole = fs::absolute(path).lexically_normal().string();
+  const std::string whole = TextOf(fs::absolute(PathOf(path)).lexically_normal());
   std::vector<std::string> paths = Paths();
   if (whole.find('\n') != std::string::npos || (!paths.empty() && paths.front() == whole)) return;
   std::erase(paths, whole);
@@ -55,7 +56,7 @@ void RecentFiles::Keep(std::vector<std::string> paths) {
   std::string text;
   for (const std::string& path : paths_) text += path + '\n';
   std::error_code error;
-  fs::create_directories(fs::path(file).parent_path(), error);
+  fs::create_directories(PathOf(file).parent_path(), error);
   try {
     WholeFile::Write(file, text);
   } catch (const std::runtime_error&) {

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "files/PathText.h"
 #include "files/UserFolders.h"
 #include "files/WholeFile.h"
 
@@ -25,9 +26,9 @@ constexpr std::uintmax_t LargestFile = 1 << 20;
 Lines ReadLines() {
   std::error_code error;
   Lines lines;
-  if (path_.empty() || !fs::is_regular_file(path_, error) || fs::file_size(path_, error) > LargestFile)
-    return lines;
-  std::ifstream file(path_, std::ios::binary);
+  const fs::path path = PathOf(path_);
+  if (!fs::is_regular_file(path, error) || fs::file_size(path, error) > LargestFile) return lines;
+  std::ifstream file(path, std::ios::binary);
   for (std::string line; std::getline(file, line);) {
     if (line.ends_with('\r')) line.pop_back();
     if (lines.empty() && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
@@ -59,7 +60,7 @@ Line FindKey(std::pair<Line, Line> section, std::string_view key) {
 
 void WriteLines(const Lines& lines) {
   std::error_code error;
-  fs::create_directories(fs::path(path_).parent_path(), error);
+  fs::create_directories(PathOf(path_).parent_path(), error);
   try {
     std::string text;
     for (const std::string& line : lines) text += line + '\n';
@@ -73,7 +74,7 @@ void WriteLines(const Lines& lines) {
 
 std::string DefaultPath() {
   const fs::path folder = UserFolders::Config();
-  return folder.empty() ? "" : (folder / "flumewise" / "settings.ini").string();
+  return folder.empty() ? "" : TextOf(folder / "flumewise" / "settings.ini");
 }
 
 void Use(std::string path) {
@@ -81,7 +82,7 @@ void Use(std::string path) {
 }
 
 std::string Beside(std::string_view name) {
-  return path_.empty() ? "" : fs::path(path_).replace_filename(name).string();
+  return path_.empty() ? "" : TextOf(PathOf(path_).replace_filename(name));
 }
 
 std::string Get(std::string_view section, std::string_view key) {

@@ -11,6 +11,7 @@
 #include "app/Declarations.h"
 #include "desktop/kit/FrontWindow.h"
 #include "desktop/kit/Text.h"
+#include "files/PathText.h"
 #include "files/WholeFile.h"
 
 namespace {
@@ -53,7 +54,7 @@ void SetAside(KeptCopy& copy, const std::exception& failure) {
   box.setWindowModality(Qt::WindowModal);
   const QString origin =
       copy.Origin().empty() ? QString() : QStringLiteral(" It belongs to %1.").arg(ToQt(copy.Origin()));
-  box.setInformativeText(QStringLiteral("It was kept as %1.").arg(ToQt(now.string())) + origin);
+  box.setInformativeText(QStringLiteral("It was kept as %1.").arg(ToQt(TextOf(now))) + origin);
   box.exec();
 }
 
@@ -114,15 +115,14 @@ bool Recovery::Offer(const std::filesystem::path& path) {
   if (!left) return false;
   ProjectFile::Project project;
   try {
-    project = ProjectFile::Read(path.string());
+    project = ProjectFile::Read(TextOf(path));
   } catch (const std::exception& failure) {
     SetAside(*left, failure);
     return false;
   }
   const std::optional<bool> wanted =
-      Ask(ToQt(project.ProjName.empty() ? std::filesystem::path(left->Origin()).filename().string()
-                                        : project.ProjName),
-          QFileInfo(ToQt(path.string())).lastModified());
+      Ask(ToQt(project.ProjName.empty() ? TextOf(PathOf(left->Origin()).filename()) : project.ProjName),
+          QFileInfo(ToQt(TextOf(path))).lastModified());
   if (wanted == false) left->Remove();
   if (wanted != true) return false;
   Drop();

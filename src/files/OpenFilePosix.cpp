@@ -17,23 +17,56 @@ void FailStep(const char* step) {
   throw std::system_error(errno, std::generic_category(), step);
 }
 
-OpenFile::OpenFile(const std::filesystem::path& path, int flags, unsigned mode)
-    : number_(open(path.c_str(), flags | O_CLOEXEC, mode)) {
+namespace {
+
+int FlagsOf(OpenFile::For purpose) {
+  constexpr int Common = O_CLOEXEC | O_NONBLOCK;
+  constexpr int Changing = Common | O_RDWR | O_NOFOLLOW;
+  switch (purpose) {
+    case OpenFile::For::Reading:
+      return Common | O_RDONLY;
+    case OpenFile::For::Changing:
+      return Changing;
+    case OpenFile::For::ChangingOrMaking:
+      return Changing | O_CREAT;
+    case OpenFile::For::Making:
+      break;
+  }
+  return Changing | O_CREAT | O_EXCL;
+}
+
+struct stat StatusOf(int file) {
+  struct stat status {};
+  if (fstat(file, &status) != 0) FailStep("read the status");
+  return status;
+}
+
+}  // namespace
+
+OpenFile::OpenFile(const std::filesystem::path& path, For purpose, Access access)
+    : number_(open(path.c_str(), FlagsOf(purpose), access == Access::Private ? 0600 : 0666)) {
   if (number_ < 0) FailStep("open");
 }
 
 OpenFile::OpenFile(OpenFile&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
 
 OpenFile::~OpenFile() {
-  if (number_ >= 0) close(number_);
+  Close();
+}
+
+void OpenFile::Close() {
+  if (number_ >= 0) close(std::exchange(number_, -1));
+}
+
+std::size_t OpenFile::Names() const {
+  return StatusOf(number_).st_nlink;
 }
 
 bool OpenFile::Lock(const std::filesystem::path& path) const {
   if (flock(number_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
-  struct stat held {};
+  const struct stat held = StatusOf(number_);
   struct stat named {};
-  return fstat(number_, &held) == 0 && stat(path.c_str(), &named) == 0 && held.st_dev == named.st_dev &&
-         held.st_ino == named.st_ino;
+  return stat(path.c_str(), &named) == 0 && held.st_dev == named.st_dev && held.st_ino == named.st_ino;
 }
 
 std::string OpenFile::Read() const {
