@@ -20,5 +20,13 @@ function(flumewise_tests name)
   if(NOT name STREQUAL desktop)
     target_precompile_headers(${name}_tests REUSE_FROM test_headers)
   endif()
-  gtest_discover_tests(${name}_tests DISCOVERY_TIMEOUT 60)
+  flumewise_discover(${name}_tests)
+endfunction()
+
+# flumewise_discover(engine_tests): each test of a GoogleTest program known to ctest; of one that is built for another
+# system none.
+function(flumewise_discover program)
+  if(NOT CMAKE_CROSSCOMPILING)
+    gtest_discover_tests(${program} DISCOVERY_TIMEOUT 60)
+  endif()
 endfunction()

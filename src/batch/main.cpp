@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "batch/Batch.h"
+#include "files/StandardStreams.h"
 
 namespace {
 
@@ -15,6 +16,7 @@ void WriteToStandardOutput(std::string_view part) {
 }  // namespace
 
 int main(int count, char* words[]) {
+  StandardStreams::KeepBytes();
   try {
     return Batch::Run(words[0], {words + 1, words + count}, WriteToStandardOutput);
   } catch (const std::exception& failure) {

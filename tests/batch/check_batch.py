@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds the batch program to hand work, to the main window and to itself in several processes.
 
-Usage: check_batch.py BATCH CONSOLE EXAMPLES
+Usage: check_batch.py BATCH CONSOLE EXAMPLES [EMULATOR...]   programs of another system run under an emulator
 """
 import csv
 import io
@@ -13,14 +13,15 @@ import sys
 import tempfile
 from pathlib import Path
 
-BATCH, CONSOLE, EXAMPLES = (Path(word).resolve() for word in sys.argv[1:])
+BATCH, CONSOLE, EXAMPLES = (Path(word).resolve() for word in sys.argv[1:4])
+EMULATOR = sys.argv[4:]
 INPUTS = "Flow Depth ManningN Slope Diameter BaseWidth SideSlopeRight SideSlopeLeft".split()
 RESULTS = ("Velocity VelocityHead Area WettedPerimeter HydraulicRadius TopWidth Froude CriticalDepth"
            " CriticalSlope").split()
 
 
 def run(*arguments, **options):
-    return subprocess.run([BATCH, *arguments], capture_output=True, text=True, timeout=60, **options)
+    return subprocess.run([*EMULATOR, BATCH, *arguments], capture_output=True, text=True, timeout=60, **options)
 
 
 def rows_of(text):
@@ -35,7 +36,7 @@ def sheet(name, *rows):
 def same_as_the_window(project):
     """Every number of the record, bit for bit, is what the window computes from the same file."""
     lines = ["start", f"choose {project}", "click mnuFileOpen", *(f"record {name}" for name in INPUTS + RESULTS)]
-    told = subprocess.run([CONSOLE], input="\n".join(lines), capture_output=True, text=True, check=True, timeout=60)
+    told = subprocess.run([*EMULATOR, CONSOLE], input="\n".join(lines), capture_output=True, text=True, check=True, timeout=60)
     row = rows_of(run("--record-units", project).stdout)[0]
     for name, reply in zip(INPUTS + RESULTS, told.stdout.splitlines()[3:], strict=True):
         if row[name]:
@@ -93,7 +94,7 @@ def same_in_parts():
     rows = [f'"Reach ""{i}"", left\nbank",{chance.choice(["Circular Channel", "Trapezoidal Channel"])},'
             f"{i % 2},{chance.uniform(0.1, 90)},{chance.uniform(1e-4, 0.01)},0.015,{chance.uniform(20, 2000)},3,1,2"
             for i in range(100)]
-    name = sheet("many.csv", "ProjName,ChannelType,UnitsEorM,Flow,Slope,ManningN,Diameter,BaseWidth,SideSlopeLeft,"
+    name = sheet("many – Straße 渠.csv", "ProjName,ChannelType,UnitsEorM,Flow,Slope,ManningN,Diameter,BaseWidth,SideSlopeLeft,"
                  "SideSlopeRight", *rows)
     projects = sorted(EXAMPLES.glob("*.fwd"))
     for options in ([], ["--rating"], ["--record-units", "--rating=Slope,0.001,0.002,0.0005"]):
@@ -129,7 +130,7 @@ def unusable():
         made = run(*arguments)
         assert made.returncode == 2 and made.stdout == "" and made.stderr.count("\n") == 1, (arguments, made)
     with open("/dev/full", "w", encoding="utf-8") as full:
-        assert subprocess.run([BATCH, "hand.csv"], stdout=full, stderr=subprocess.DEVNULL, check=False).returncode == 2
+        assert subprocess.run([*EMULATOR, BATCH, "hand.csv"], stdout=full, stderr=subprocess.DEVNULL, check=False).returncode == 2
     assert run("--help").stdout.startswith("Usage: flumewise-batch ")
 
 

@@ -2,8 +2,10 @@
 #include <iostream>
 
 #include "console/ConsoleStage.h"
+#include "files/StandardStreams.h"
 
 int main() {
+  StandardStreams::KeepBytes();
   std::ios::sync_with_stdio(false);
   const auto read = []() -> std::optional<std::string> {
     std::string line;

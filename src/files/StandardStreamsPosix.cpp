@@ -1,0 +1,4 @@
+// See StandardStreams.h.
+#include "files/StandardStreams.h"
+
+void StandardStreams::KeepBytes() {}
