@@ -12,7 +12,7 @@
 namespace {
 
 HANDLE HandleOf(std::intptr_t number) {
-  return reinterpret_cast<HANDLE>(number);
+  return reinterpret_cast<HANDLE>(number);  // NOLINT(performance-no-int-to-ptr)
 }
 
 /// A word of a command line, which programs take apart again: in quotes, with a backslash before each quote

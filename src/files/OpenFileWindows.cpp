@@ -46,7 +46,7 @@ int Open(const std::filesystem::path& path, Way way) {
 }
 
 HANDLE HandleOf(int number) {
-  return reinterpret_cast<HANDLE>(_get_osfhandle(number));
+  return reinterpret_cast<HANDLE>(_get_osfhandle(number));  // NOLINT(performance-no-int-to-ptr)
 }
 
 BY_HANDLE_FILE_INFORMATION StatusOf(int number) {

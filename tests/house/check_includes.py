@@ -51,6 +51,8 @@ SYSTEMS = {
     "Posix.cpp": {"fcntl.h", "spawn.h", "sys/file.h", "sys/stat.h", "sys/wait.h", "sys/xattr.h", "unistd.h"},
     "Windows.cpp": {"fcntl.h", "io.h", "shlobj.h", "windows.h"},
 }
+# Besides Qt the desktop has one library, in one source.
+WITH_LIBRARY = ("src/desktop/help/HelpFile.cpp", "chm_lib.h")
 DIRECTIVE = re.compile(r'^\s*#\s*include\s*(?:<([^>]*)>|"([^"]*)"|(.*))')
 
 
@@ -75,8 +77,12 @@ def fault_of_include(place, system, own):
     folder = room(place.removeprefix("src/"))
     if system is None and own is None:
         return "an include names its header in <> or quotes"
-    if folder.startswith("desktop") and (system is not None or own.endswith(".moc")):
+    if folder.startswith("desktop") and own is not None and own.endswith(".moc"):
         return None
+    if folder.startswith("desktop") and system is not None:
+        if QT.match(system) or STANDARD.fullmatch(system) or (place, system) == WITH_LIBRARY:
+            return None
+        return f"{folder} asks the system through Qt, not <{system}>"
     if system is not None:
         asked = [headers for ending, headers in SYSTEMS.items() if folder == WITH_SYSTEM and place.endswith(ending)]
         if STANDARD.fullmatch(system) or any(system in headers for headers in asked):
