@@ -4,9 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <memory>
-#include <optional>
 
 #include "engine/Bisection.h"
 #include "engine/Constants.h"
@@ -34,45 +32,31 @@ struct Inputs {
   double S = Finite(ChannelState.Slope.Number());
 };
 
-// The last midpoint up to 999 ft above the lowest point. known(W) says whether the water surface W (ft) lies
-// below the one searched for, or nothing; ask(W) always answers.
-template <typename Known, typename Ask>
-double SearchLevel(const Ground& ground, Known known, Ask ask) {
-  const double low = ground.low;
-  // Above all points: not below there is not below anywhere higher.
-  const double crest = std::nextafter(ground.high, std::numeric_limits<double>::infinity());
-  const bool reachedAtCrest = !known(crest).value_or(true);
-  return Bisect(low, low + Constants::SearchDepth,
-                [&](double W) {
-                  if (reachedAtCrest && W >= crest) return false;
-                  const std::optional<bool> answer = known(W);
-                  return answer ? *answer : ask(W);
-                })
-      .y;
-}
-
+// The water-surface elevation (ft) of the flow Q, up to 999 ft above the lowest point.
 double NormalLevel(SurveyedSection& section, double rootS, double Q) {
-  return SearchLevel(
-      section.ground, [&](double W) { return section.FlowIsBelow(W, rootS, Q); },
-      [&](double W) {
-        const auto [flow, P] = section.roughness.Flow(section.ground, W, rootS);
-        // All points lie at one place, or far from zero the midpoint rounds to the lowest point itself: no
-        // bed under water, no hydraulic radius.
-        if (P == 0) [[unlikely]]
-          ThrowFault("the wetted perimeter is zero");
-        return flow < Q;
-      });
+  const auto below = [&](double W) {
+    if (const auto known = section.FlowIsBelow(W, rootS, Q)) return *known;
+    const auto [flow, P] = section.roughness.Flow(section.ground, W, rootS);
+    // All points lie at one place, or far from zero the midpoint rounds to the lowest point itself: no bed
+    // under water, no hydraulic radius.
+    if (P == 0) [[unlikely]]
+      ThrowFault("the wetted perimeter is zero");
+    return flow < Q;
+  };
+  return Bisect(section.ground.low, section.ground.low + Constants::SearchDepth, below).y;
 }
 
+// The critical water-surface elevation (ft) of the flow Q; blank beyond 998 ft above the lowest point.
 EngineValue CriticalLevel(SurveyedSection& section, double Q) {
+  const double low = section.ground.low;
   const double Z = UniformFlow::CriticalSectionFactor(Q);
-  const double W = SearchLevel(
-      section.ground, [&](double level) { return section.FactorIsBelow(level, Z); },
-      [&](double level) {
-        const Water water = section.ground.Below(level);
-        return UniformFlow::SectionFactor(water.A, water.T) < Z;
-      });
-  return W <= section.ground.low + Constants::DeepestResult ? EngineValue(W) : EngineValue();
+  const auto below = [&](double W) {
+    if (const auto known = section.FactorIsBelow(W, Z)) return *known;
+    const Water water = section.ground.Below(W);
+    return UniformFlow::SectionFactor(water.A, water.T) < Z;
+  };
+  const double W = Bisect(low, low + Constants::SearchDepth, below).y;
+  return W <= low + Constants::DeepestResult ? EngineValue(W) : EngineValue();
 }
 
 // Area, WettedPerimeter and HydraulicRadius of the record.

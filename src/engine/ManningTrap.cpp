@@ -31,8 +31,7 @@ struct Trapezoid {
   // 1e-6 ft, against errors of 1e-14. For d ln Q / d ln y = 5/3 yT/A - 2/3 yP'/P, d ln Z / d ln y =
   // 3/2 yT/A - 1/2 yT'/T, and A <= yT, yP' <= P, yT' <= T.
   bool IsOrdinary() const {
-    return (b == 0 || Search::Ordinary(b)) && (slopes == 0 || Search::Ordinary(slopes)) && b + slopes > 0 &&
-           Search::Ordinary(rightLength + leftLength);
+    return Search::ZeroOrOrdinary(b, slopes) && Search::Ordinary(b + slopes, rightLength + leftLength);
   }
 
   double b, slopes, rightLength, leftLength;

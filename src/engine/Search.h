@@ -33,6 +33,11 @@ bool Ordinary(Numbers... x) {
   return ((x >= 1e-20 && x <= 1e20) && ...);
 }
 
+template <typename... Numbers>
+bool ZeroOrOrdinary(Numbers... x) {
+  return ((x == 0 || Ordinary(x)) && ...);
+}
+
 // x^N for a whole N.
 template <int N>
 double Power(double x) {
@@ -49,14 +54,6 @@ inline double RoughPower(double x, double exponent) {
   return std::bit_cast<double>(One + static_cast<std::int64_t>(exponent * logarithm));
 }
 
-// Cube root within 1e-13, 1e-60 < x < 1e60: 0.98 of the rough power lies within 4 % of it, and each of
-// Halley's steps makes an error of d one of 2/3 d^3.
-inline double CubeRoot(double x) {
-  double root = 0.98 * RoughPower(x, 1 / 3.0);
-  for (int step = 0; step < 2; ++step) root *= (Power<3>(root) + 2 * x) / (2 * Power<3>(root) + x);
-  return root;
-}
-
 // Two sides of an equation at x that grow as powers of x; exponent is the difference of the two powers,
 // d ln(left / right) / d ln x.
 struct Sides {
@@ -64,16 +61,14 @@ struct Sides {
 };
 
 // A guess of the x at which the sides meet, from a start that may be far off. Each step takes left / right
-// for a power of x and its root by (1 + d/2) / (1 - d/2); where they settle, nine digits are right.
+// for a power of x and its root by (1 + d) / (1 - d); where they settle, nine digits are right.
 template <typename SidesAt>
 double GuessRoot(double x, SidesAt sidesAt) {
   for (int step = 0; step < 8; ++step) {
     const auto [left, right, exponent] = sidesAt(x);
-    const double growth = exponent * (right + left);
-    const double gap = right - left;
-    const double before = x;
-    x *= (growth + gap) / (growth - gap);
-    if (std::abs(x - before) < 1e-5 * before) break;
+    const double d = (right - left) / (exponent * (right + left));
+    x *= (1 + d) / (1 - d);
+    if (std::abs(d) < 5e-6) break;
   }
   return x;
 }
