@@ -36,6 +36,12 @@ std::string WhyNoNumber(const std::string& name, std::string_view text) {
                       : must + "; the decimal sign here is '" + CurrentNumberLocale().DecimalSign + "'";
 }
 
+bool Mark(TextBox& box, const std::string& offence, bool isMistake) {
+  box.ToolTip = offence;
+  box.Offending = isMistake && !offence.empty() && !box.Text.Get().empty();
+  return offence.empty();
+}
+
 bool CheckRange(std::string_view value, std::optional<double> min, bool minInclusive,
                 std::optional<double> max, bool maxInclusive, bool showMessage) {
   if (value.empty()) return false;

@@ -28,6 +28,10 @@ inline constexpr const char* TooLongForBox = "The text on the clipboard is too l
 /// "Depth must be a number; the decimal sign here is ','", for a text that is none or too large for one.
 std::string WhyNoNumber(const std::string& name, std::string_view text);
 
+/// Puts what is wrong with the box, or nothing, into its tool tip and marks a mistake; an empty box is none,
+/// but a question. True when nothing is wrong.
+bool Mark(TextBox& box, const std::string& offence, bool isMistake = true);
+
 /// True when the text is a number within the bounds. With `showMessage` a "Warning" box says what the number
 /// must be; an empty text fails without it.
 bool CheckRange(std::string_view value, std::optional<double> min, bool minInclusive,

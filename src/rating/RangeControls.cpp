@@ -2,14 +2,13 @@
 #include "rating/RangeControls.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 
 #include "app/FormStuff.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "app/main/ChannelTypes.h"
+#include "app/main/TypedUnits.h"
 #include "engine/NumberText.h"
 #include "rating/RatingSeries.h"
 
@@ -23,15 +22,6 @@ std::string TwoDecimals(double x) {
   return FixedFormat(x, 1, 2).Text();
 }
 
-/// Rounded to the seven digits that the user types at most: a conversion of units leaves many more.
-double TypedDigits(double x) {
-  std::array<char, 32> text{};
-  const char* const end =
-      std::to_chars(text.data(), text.data() + text.size(), x, std::chars_format::scientific, 6).ptr;
-  std::from_chars(text.data(), end, x);
-  return x;
-}
-
 }  // namespace
 
 std::vector<const Field*> VariableInputs() {
@@ -43,9 +33,9 @@ std::vector<const Field*> VariableInputs() {
 }
 
 std::string WholeNumber(double value, int quantity, bool fixedDecimals) {
-  const double shown = TypedDigits(value / UnitFactor(ChannelState.UnitsEorM, quantity));
-  std::string text = ShownNumber(value, quantity, fixedDecimals);
-  return NumericValue(text) == shown ? text : PlainNumberInLocale(shown);
+  const std::string whole = TypedUnits::SevenDigits(value / UnitFactor(ChannelState.UnitsEorM, quantity));
+  const std::string shown = ShownNumber(value, quantity, fixedDecimals);
+  return NumericValue(shown) == NumericValue(whole) ? shown : whole;
 }
 
 RangeControls::RangeControls(Form* form)
@@ -96,13 +86,6 @@ RatingRangeRecord RangeControls::TypedRange() const {
   return range;
 }
 
-bool RangeControls::Mark(TextBox& box, const std::string& offence) {
-  box.ToolTip = offence;
-  // An empty box is a question, not a mistake.
-  box.Offending = !offence.empty() && !box.Text.Get().empty();
-  return offence.empty();
-}
-
 std::string RangeControls::LastOffence() const {
   if (!IsNumber(tbMax)) return FormStuff::WhyNoNumber("Last", tbMax.Text.Get());
   const bool greater = !IsNumber(tbMin) || LeadingNumber(tbMax.Text.Get()) > LeadingNumber(tbMin.Text.Get());
@@ -110,8 +93,9 @@ std::string RangeControls::LastOffence() const {
 }
 
 bool RangeControls::MarkEnds() {
-  const bool first = Mark(tbMin, IsNumber(tbMin) ? "" : FormStuff::WhyNoNumber("First", tbMin.Text.Get()));
-  const bool last = Mark(tbMax, LastOffence());
+  const bool first =
+      FormStuff::Mark(tbMin, IsNumber(tbMin) ? "" : FormStuff::WhyNoNumber("First", tbMin.Text.Get()));
+  const bool last = FormStuff::Mark(tbMax, LastOffence());
   return first && last;
 }
 

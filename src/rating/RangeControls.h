@@ -38,8 +38,6 @@ class RangeControls {
 
   /// Marks the ends that cannot be used; true when both can.
   bool MarkEnds();
-  /// Puts the offence on the box, as its tool tip and tint; true when it is empty.
-  static bool Mark(TextBox& box, const std::string& offence);
   /// Reports a paste that is too long in the same place.
   void RefuseLongTexts(TextBox& box);
   /// Of the boxes that are checked; empty when all can be used.

@@ -7,6 +7,7 @@
 
 #include "app/Declarations.h"
 #include "app/ExportFile.h"
+#include "app/FormStuff.h"
 #include "app/LastUsed.h"
 #include "platform/Services.h"
 #include "print/Print.h"
@@ -94,7 +95,7 @@ void frmGraph::mnuViewSwap_Click() {
 }
 
 void frmGraph::TakeFamily() {
-  if (Mark(tbFamily, FamilyOffence())) family_ = TypedFamily(main_);
+  if (FormStuff::Mark(tbFamily, FamilyOffence())) family_ = TypedFamily(main_);
 }
 
 void frmGraph::Redraw() {

@@ -54,7 +54,7 @@ void frmTableSettings::ProposeStep() {
 }
 
 bool frmTableSettings::MarkStep() {
-  return Mark(tbIncrement, StepOffence());
+  return FormStuff::Mark(tbIncrement, StepOffence());
 }
 
 std::string frmTableSettings::StepOffence() const {

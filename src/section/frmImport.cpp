@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/FormStuff.h"
 #include "app/NumberDisplay.h"
 #include "app/Units.h"
 #include "engine/ChannelState.h"
@@ -296,8 +297,7 @@ void frmImport::Column_Click(Role role) {
 void frmImport::tbFrontN_Change() {
   const auto value = NumericValue(tbFrontN.Text.Get());
   const bool usable = value && *value > 0;
-  tbFrontN.Offending = !usable && !tbFrontN.Text.Get().empty();
-  tbFrontN.ToolTip = tbFrontN.Offending ? "n must be a number greater than 0" : "";
+  FormStuff::Mark(tbFrontN, usable ? "" : "n must be a number greater than 0");
   import_.ChooseFrontN(usable ? std::optional(Survey::Number{*value, {}}) : std::nullopt);
   ShowChanges();
   ShowDrawing();

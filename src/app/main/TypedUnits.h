@@ -21,7 +21,7 @@ struct Amount {
 std::optional<Amount> Read(std::string_view text, Kind kind);
 
 /// The number with seven significant digits, halves rounded away from zero, and no trailing zeros, in the
-/// locale's spelling without grouping. It must be finite.
+/// locale's spelling without grouping.
 std::string SevenDigits(double x);
 
 /// The text with the last digit of its number raised by `by`, 1 or -1: "0.015" becomes "0.016", "1.9 m"

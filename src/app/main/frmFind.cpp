@@ -79,11 +79,8 @@ void frmFind::Find() {
   tbFound.Text = found.Text;
   tbFound.ToolTip = Sentence(found.WhyNone);
   for (const Given& each : Both) {
-    TextBox& box = this->*each.Box;
     const bool amiss = found.Amiss == &FieldOf(each.InMain);
-    box.ToolTip = amiss ? found.WhyNone : "";
-    // An empty box is a question, not a mistake.
-    box.Offending = amiss && !box.Text.Get().empty();
+    FormStuff::Mark(this->*each.Box, amiss ? found.WhyNone : "");
   }
   lblStatus.Caption = Sentence(found.WhyNone);
   cmdOK.Enabled = !found.Text.empty();

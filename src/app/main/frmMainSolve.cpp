@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/Declarations.h"
+#include "app/FormStuff.h"
 #include "app/LastUsed.h"
 #include "app/NoteSpelling.h"
 #include "app/NumberDisplay.h"
@@ -139,12 +140,9 @@ std::string frmMain::MarkOffences() {
   std::string unread;
   for (const Field& field : Fields()) {
     if (field.Result == ResultWhen::Always) continue;
-    TextBox& box = this->*field.Box;
     std::string offence = OffenceOf(field);
     const bool isUnread = Unread(field).has_value();
-    // An empty box is a question, not a mistake.
-    box.Offending = !offence.empty() && !isUnread && !box.Text.Get().empty();
-    box.ToolTip = offence;
+    FormStuff::Mark(this->*field.Box, offence, !isUnread);
     std::string& reason = isUnread ? unread : first;
     if (reason.empty()) reason = std::move(offence);
   }
