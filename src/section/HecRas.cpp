@@ -9,7 +9,6 @@ namespace Survey {
 namespace {
 
 constexpr std::size_t FieldWidth = 8;
-const NumberLocale ModelSpelling{".", ""};
 
 /// The text in lines, each known by its number.
 class Lines {

@@ -19,10 +19,6 @@ constexpr std::pair<Fault, std::string_view> Messages[] = {
     {Fault::NoPartner, "Each station must have a corresponding elevation."},
 };
 
-std::size_t Index(int number) {
-  return static_cast<std::size_t>(number);
-}
-
 /// A walk over the cells of a table in the order in which they are judged.
 class Check {
  public:

@@ -15,6 +15,11 @@ inline constexpr int Station = 1, Elevation = 2, ManningN = 3;
 /// and column 0 are unused.
 using Table = std::array<std::array<std::string, 4>, Rows + 1>;
 
+/// Of a row or column of the grid in the table.
+constexpr std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
+
 /// What is wrong with a table. The numbers are those by which the messages are known.
 enum class Fault {
   TooFewRows = 1000,

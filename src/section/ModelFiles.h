@@ -5,6 +5,9 @@
 
 namespace Survey {
 
+/// How these models write a number.
+inline const NumberLocale ModelSpelling{".", ""};
+
 // Each returns the sections of a text of its kind in the order of the file, and nothing for a text of another
 // kind. std::runtime_error naming the line where a section is damaged: a count that does not fit, a line that
 // is cut off, a number that is none. The numbers are parts of the text, which must outlive the sections.

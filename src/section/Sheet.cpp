@@ -12,8 +12,6 @@ namespace {
 
 /// Lines that are examined to distinguish commas from blanks: enough to meet every kind of line of a file.
 constexpr int Sample = 1000;
-/// Rows from one look at the watch to the next.
-constexpr std::size_t WatchEvery = 1 << 14;
 
 bool IsBlank(char c) {
   return c == ' ' || c == '\t';

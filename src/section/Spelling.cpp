@@ -12,7 +12,6 @@ const NumberLocale DecimalComma{",", "."};
 namespace {
 
 const std::string GroupSpace = "\u202F";  // beside either sign; the other spaces count as well
-constexpr std::size_t WatchEvery = 1 << 14;
 
 /// The fields of a sheet that hold its numbers, until `visit` returns false.
 template <class Visit>

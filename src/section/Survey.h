@@ -62,6 +62,8 @@ struct Cancelled {};
 
 /// Called now and then with the share that is done; throws Cancelled to end the work.
 using Watch = std::function<void(double share)>;
+/// Rows from one call to the next.
+inline constexpr std::size_t WatchEvery = 1 << 14;
 
 /// For a part of the work, which takes the whole from one share to another.
 Watch PartOf(const Watch& watch, double from, double to);

@@ -9,12 +9,10 @@ namespace Survey {
 
 namespace {
 
-const NumberLocale ModelSpelling{".", ""};
-
 using Words = std::vector<std::string_view>;
 
 /// The words of a line up to a comment.
-Words WordsOf(std::string_view line) {
+Words WordsOfLine(std::string_view line) {
   line = line.substr(0, line.find(';'));
   Words words;
   while (!(line = Trimmed(line)).empty()) {
@@ -165,7 +163,7 @@ std::vector<Section> SwmmSections(std::string_view text) {
     if (each.starts_with('[')) part = Trimmed(each);
     const bool transect = SameWord(part, "[TRANSECTS]");
     if (each.starts_with('[') || (!transect && !SameWord(part, "[OPTIONS]"))) continue;
-    const Words words = WordsOf(each);
+    const Words words = WordsOfLine(each);
     if (words.empty()) continue;
     if (transect) {
       transects.Read(words, line);

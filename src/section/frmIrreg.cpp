@@ -18,12 +18,9 @@
 namespace {
 
 using IrregTable::Elevation;
+using IrregTable::Index;
 using IrregTable::ManningN;
 using IrregTable::Station;
-
-std::size_t Index(int number) {
-  return static_cast<std::size_t>(number);
-}
 
 void Warn(const std::string& text) {
   TheServices().messageBox.Show(text, "Warning", BoxIcon::Exclamation, BoxButtons::Ok);

@@ -12,16 +12,13 @@
 namespace {
 
 using IrregTable::Elevation;
+using IrregTable::Index;
 using IrregTable::ManningN;
 using IrregTable::Station;
 
 constexpr const char* ImportFilter =
     "Surveys (*.csv;*.txt;*.g??;*.inp)|*.csv;*.txt;*.g??;*.inp|All Files (*.*)|*.*";
 constexpr const char* Filter = "Point Lists (*.csv;*.txt)|*.csv;*.txt|All Files (*.*)|*.*";
-
-std::size_t Index(int number) {
-  return static_cast<std::size_t>(number);
-}
 
 bool Confirms(const std::string& question) {
   return TheServices().messageBox.Show(question, "Warning", BoxIcon::Exclamation, BoxButtons::YesNo) ==

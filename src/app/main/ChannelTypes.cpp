@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr ChannelType Rows[] = {
+constexpr ChannelType TypeRows[] = {
     {.Name = ChannelTypes::Rectangular,
      .Item = &frmMain::mnuOptionsRect,
      .Mnemonic = "r",
@@ -57,11 +57,11 @@ Use ChannelType::UseOf(const Field& field) const {
 }
 
 std::span<const ChannelType> AllChannelTypes() {
-  return Rows;
+  return TypeRows;
 }
 
 const ChannelType& CurrentChannelType() {
   const auto* const row =
-      std::ranges::find(Rows, std::string_view(ChannelState.ChannelType), &ChannelType::Name);
-  return row == std::end(Rows) ? Unknown : *row;
+      std::ranges::find(TypeRows, std::string_view(ChannelState.ChannelType), &ChannelType::Name);
+  return row == std::end(TypeRows) ? Unknown : *row;
 }

@@ -25,7 +25,7 @@ std::string WaterSurfaceOffence(const std::string& typed) {
   return level.IsNumeric() && below ? "" : "WSElev must be below the highest point of the section";
 }
 
-constexpr Field Rows[] = {
+constexpr Field FieldRows[] = {
     {.Name = &frmMain::lblFlow,
      .Box = &frmMain::tbFlow,
      .Unit = &frmMain::lblFlowUnits,
@@ -270,9 +270,9 @@ bool Field::IsElevation() const {
 }
 
 std::span<const Field> Fields() {
-  return Rows;
+  return FieldRows;
 }
 
 const Field& FieldOf(TextBox frmMain::*box) {
-  return *std::ranges::find(Rows, box, &Field::Box);
+  return *std::ranges::find(FieldRows, box, &Field::Box);
 }

@@ -28,7 +28,7 @@ struct UnitRow {
 constexpr double Gallon = 231.0 / 1728;  // ft^3: a US liquid gallon is 231 cubic inches
 constexpr double Day = 86400;            // s
 
-constexpr UnitRow Rows[] = {
+constexpr UnitRow UnitRows[] = {
     {"cfs", 1, Kind::Flow},
     {"ft3/s", 1, Kind::Flow},
     {"ft^3/s", 1, Kind::Flow},
@@ -117,7 +117,7 @@ std::optional<double> TakeNumber(std::string_view& text) {
 std::optional<Amount> ReadUnits(std::string_view text, Kind kind, double below) {
   const std::optional<double> number = TakeNumber(text);
   if (!number) return std::nullopt;
-  for (const UnitRow& unit : Rows) {
+  for (const UnitRow& unit : UnitRows) {
     std::string_view rest = text;
     if (unit.Of != kind || !(FactorOf(unit) < below) || !Take(rest, unit.Symbol)) continue;
     const double value = *number * FactorOf(unit);
@@ -142,7 +142,7 @@ std::optional<Amount> ReadRatio(std::string_view text, const RatioRow& row) {
 }
 
 bool IsUnit(std::string_view text, Kind kind) {
-  return std::ranges::any_of(Rows, [=](const UnitRow& unit) {
+  return std::ranges::any_of(UnitRows, [=](const UnitRow& unit) {
     std::string_view rest = text;
     return unit.Of == kind && Take(rest, unit.Symbol) && rest.empty();
   });
@@ -167,6 +167,7 @@ std::optional<Amount> TypedUnits::Read(std::string_view text, Kind kind) {
 }
 
 std::string TypedUnits::SevenDigits(double x) {
+  if (!std::isfinite(x)) return PlainNumberInLocale(x);
   constexpr int seen = 15;  // digits of a double that the user sees in decimals
   constexpr int kept = 7;
   std::array<char, 32> text{};  // d.dddddddddddddde+xx

@@ -11,14 +11,14 @@
 
 namespace {
 
-struct Row {
+struct BoxRow {
   Label& Name;
   TextBox& Box;
   Label& Unit;
   const char* Mnemonics;
 };
 
-void AddRow(QGridLayout& grid, const Row& row, QWidget* parent) {
+void AddRow(QGridLayout& grid, const BoxRow& row, QWidget* parent) {
   const int at = grid.rowCount();
   QLabel* const name = Bind::Caption(row.Name, parent, row.Mnemonics);
   BoxEdit* const box = Bind::Box(row.Box, parent);
