@@ -10,6 +10,7 @@
 #include "app/settings/SettingsFile.h"
 #include "desktop/WidgetHands.h"
 #include "desktop/kit/BoxEdit.h"
+#include "desktop/kit/Text.h"
 #include "engine/ChannelState.h"
 #include "program/Program.h"
 #include "section/frmIrreg.h"
@@ -31,6 +32,22 @@ class LargerText {
  private:
   QFont usual_ = QApplication::font();
 };
+
+/// Widgets that hold a text and are smaller than it needs.
+inline std::string CutOff(const QWidget& window) {
+  QString cut;
+  for (const QWidget* const widget : window.findChildren<QWidget*>()) {
+    const bool text = qobject_cast<const QLabel*>(widget) != nullptr ||
+                      qobject_cast<const QLineEdit*>(widget) != nullptr ||
+                      qobject_cast<const QAbstractButton*>(widget) != nullptr;
+    const QSize least = widget->minimumSizeHint().boundedTo(widget->sizeHint());
+    if (text && widget->isVisible() &&
+        (widget->width() < least.width() || widget->height() < least.height())) {
+      cut += widget->objectName() + u':' + widget->property("text").toString() + u' ';
+    }
+  }
+  return FromQt(cut);
+}
 
 class Desk : public testing::Test {
  protected:
@@ -84,6 +101,15 @@ class Desk : public testing::Test {
     TakePoints(points);
     hands_.Click(main_.mnuSolveForFlow);
     Enter("tbSlope 0.002, tbDepth " + level);
+  }
+
+  void InEveryType(const std::function<void()>& check) {
+    for (MenuItem* const type : {&main_.mnuOptionsRect, &main_.mnuOptionsTriangular, &main_.mnuOptionsTrap,
+                                 &main_.mnuOptionsCircular, &main_.mnuOptionsIrreg}) {
+      SCOPED_TRACE(type->Caption.Get());
+      hands_.Click(*type);
+      check();
+    }
   }
 
   FakeServices services_;
