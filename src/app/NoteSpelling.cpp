@@ -12,10 +12,6 @@ namespace {
 
 constexpr int DigitsOfSentences = 4;
 
-std::string WithUnit(const std::string& number, int quantity) {
-  return number + " " + UnitLabel(ChannelState.UnitsEorM, quantity);
-}
-
 int QuantityOf(Cell cell) {
   if (cell == &ChannelRecord::Area) return Units::Area;
   if (cell == &ChannelRecord::Velocity) return Units::Velocity;

@@ -89,3 +89,7 @@ std::string ShownNumber(const EngineValue& value, int quantity, bool fixedDecima
                         : SigFormat(value, factor, Declarations::SigDigs))
       .Text();
 }
+
+std::string WithUnit(const std::string& number, int quantity) {
+  return number + " " + UnitLabel(ChannelState.UnitsEorM, quantity);
+}

@@ -18,3 +18,6 @@ EngineValue FixedFormat(const EngineValue& value, double factor, int decimals);
 /// A value of the problem record in the unit system and with the digits in force: decimals for depths and
 /// elevations, significant digits for everything else. `quantity` is its row of the unit table.
 std::string ShownNumber(const EngineValue& value, int quantity, bool fixedDecimals);
+
+/// "3.281 ft": a shown number with the unit of its quantity in the unit system in force.
+std::string WithUnit(const std::string& number, int quantity);

@@ -11,7 +11,7 @@ namespace {
 
 class NumberDisplay : public LocaleTest {};
 
-struct Case {
+struct ShownAs {
   EngineValue Value;
   int Digits;
   const char* Shown;
@@ -19,12 +19,13 @@ struct Case {
 
 TEST_P(NumberDisplay, SignificantDigits) {
   // Halves go to the even digit; ln 1000 / ln 10 is a little below 3.
-  for (const Case& each :
-       {Case{1234.56, 3, "1,230"}, Case{0.012345, 3, "0.0123"}, Case{2.5, 3, "2.50"}, Case{0, 3, "0.00"},
-        Case{0.000123456, 2, "0.00012"}, Case{99.96, 3, "100.0"}, Case{12345, 2, "12,000"},
-        Case{-0.5, 3, "-0.500"}, Case{1234567.0, 5, "1,234,600"}, Case{0.25, 1, "0.2"}, Case{0.75, 1, "0.8"},
-        Case{25, 1, "20"}, Case{35, 1, "40"}, Case{9.5, 1, "10"}, Case{1000, 4, "1,000.0"},
-        Case{1e-7, 2, "0.00000010"}, Case{-1e20, 3, "-100,000,000,000,000,000,000"}}) {
+  for (const ShownAs& each :
+       {ShownAs{1234.56, 3, "1,230"}, ShownAs{0.012345, 3, "0.0123"}, ShownAs{2.5, 3, "2.50"},
+        ShownAs{0, 3, "0.00"}, ShownAs{0.000123456, 2, "0.00012"}, ShownAs{99.96, 3, "100.0"},
+        ShownAs{12345, 2, "12,000"}, ShownAs{-0.5, 3, "-0.500"}, ShownAs{1234567.0, 5, "1,234,600"},
+        ShownAs{0.25, 1, "0.2"}, ShownAs{0.75, 1, "0.8"}, ShownAs{25, 1, "20"}, ShownAs{35, 1, "40"},
+        ShownAs{9.5, 1, "10"}, ShownAs{1000, 4, "1,000.0"}, ShownAs{1e-7, 2, "0.00000010"},
+        ShownAs{-1e20, 3, "-100,000,000,000,000,000,000"}}) {
     EXPECT_EQ(SigFormat(each.Value, 1, each.Digits).Text(), Spelled(each.Shown)) << each.Value.Text();
   }
   EXPECT_EQ(SigFormat(100, 1 / 35.31467, 3).Text(), Spelled("2.83"));
@@ -33,12 +34,13 @@ TEST_P(NumberDisplay, SignificantDigits) {
 
 TEST_P(NumberDisplay, FixedDecimals) {
   // Halves, of the decimal that a person sees, go away from zero: the double of 1.005 lies a little below.
-  for (const Case& each :
-       {Case{2.34567, 3, "2.346"}, Case{0.125, 2, "0.13"}, Case{-0.125, 2, "-0.13"}, Case{1.005, 2, "1.01"},
-        Case{0.5, 0, "1"}, Case{1.5, 0, "2"}, Case{-0.0004, 3, "0.000"}, Case{0.0006, 3, "0.001"},
-        Case{0, 2, "0.00"}, Case{999.9996, 3, "1,000.000"}, Case{1234.568, 3, "1,234.568"},
-        Case{1e15, 1, "1,000,000,000,000,000.0"}, Case{123456789012345678.0, 0, "123,456,789,012,346,000"},
-        Case{4e-7, 3, "0.000"}, Case{99.95, 1, "100.0"}}) {
+  for (const ShownAs& each :
+       {ShownAs{2.34567, 3, "2.346"}, ShownAs{0.125, 2, "0.13"}, ShownAs{-0.125, 2, "-0.13"},
+        ShownAs{1.005, 2, "1.01"}, ShownAs{0.5, 0, "1"}, ShownAs{1.5, 0, "2"}, ShownAs{-0.0004, 3, "0.000"},
+        ShownAs{0.0006, 3, "0.001"}, ShownAs{0, 2, "0.00"}, ShownAs{999.9996, 3, "1,000.000"},
+        ShownAs{1234.568, 3, "1,234.568"}, ShownAs{1e15, 1, "1,000,000,000,000,000.0"},
+        ShownAs{123456789012345678.0, 0, "123,456,789,012,346,000"}, ShownAs{4e-7, 3, "0.000"},
+        ShownAs{99.95, 1, "100.0"}}) {
     EXPECT_EQ(FixedFormat(each.Value, 1, each.Digits).Text(), Spelled(each.Shown)) << each.Value.Text();
   }
   EXPECT_EQ(FixedFormat(Spelled("1,000").c_str(), 1 / 3.28084, 3).Text(), Spelled("304.800"));

@@ -15,8 +15,8 @@
 
 namespace {
 
-const NumberLocale Point{".", ","};
-const NumberLocale Comma{",", "."};
+const NumberLocale DecimalPoint{".", ","};
+const NumberLocale DecimalComma{",", "."};
 const NumberLocale French{",", "\u202F"};
 const NumberLocale NoBreak{",", "\u00A0"};
 const NumberLocale Ungrouped{".", ""};
@@ -46,24 +46,26 @@ void ExpectOthers(const NumberLocale& locale, const Readings& readings) {
 }
 
 TEST_F(NumberText, ReadsWhatIsTypedWithAPoint) {
-  ExpectNumbers(Point, {{"7", 7}, {" \t12.5\t ", 12.5}, {".5", 0.5}, {"5.", 5}, {"-.5", -0.5}, {"+3", 3}});
-  ExpectNumbers(Point, {{"1e3", 1000}, {"2.5E-2", 0.025}, {"007", 7}, {"1,234", 1234}, {"1,234.", 1234}});
-  ExpectNumbers(Point, {{"12,345,678.5", 12345678.5}, {"-1,234.568", -1234.568}, {"1,234e2", 123400}});
-  ExpectNumbers(Point, {{"\u00A05\u202F", 5}, {" \u202F-1,234.5\u00A0 ", -1234.5}});
-  ExpectOthers(Point, {{"", 0},           {" ", 0},           {".", 0},
-                       {"- 5", 0},        {"--5", 0},         {"e5", 0},
-                       {"abc", 0},        {"inf", 0},         {"nan", 0},
-                       {"$5", 0},         {"0,500", 0},       {",123", 0},
-                       {"5-", 5},         {"1e", 1},          {"1e+", 1},
-                       {"1.5.2", 1.5},    {"12 m", 12},       {"1 234", 1},
-                       {"5\n", 5},        {"0x10", 0},        {"1,5", 1},
-                       {"01,234", 1},     {"1,2345", 1},      {"1,,234", 1},
-                       {"1,234,5", 1234}, {"1234,567", 1234}, {"1.234,567", 1.234}});
+  ExpectNumbers(DecimalPoint,
+                {{"7", 7}, {" \t12.5\t ", 12.5}, {".5", 0.5}, {"5.", 5}, {"-.5", -0.5}, {"+3", 3}});
+  ExpectNumbers(DecimalPoint,
+                {{"1e3", 1000}, {"2.5E-2", 0.025}, {"007", 7}, {"1,234", 1234}, {"1,234.", 1234}});
+  ExpectNumbers(DecimalPoint, {{"12,345,678.5", 12345678.5}, {"-1,234.568", -1234.568}, {"1,234e2", 123400}});
+  ExpectNumbers(DecimalPoint, {{"\u00A05\u202F", 5}, {" \u202F-1,234.5\u00A0 ", -1234.5}});
+  ExpectOthers(DecimalPoint, {{"", 0},           {" ", 0},           {".", 0},
+                              {"- 5", 0},        {"--5", 0},         {"e5", 0},
+                              {"abc", 0},        {"inf", 0},         {"nan", 0},
+                              {"$5", 0},         {"0,500", 0},       {",123", 0},
+                              {"5-", 5},         {"1e", 1},          {"1e+", 1},
+                              {"1.5.2", 1.5},    {"12 m", 12},       {"1 234", 1},
+                              {"5\n", 5},        {"0x10", 0},        {"1,5", 1},
+                              {"01,234", 1},     {"1,2345", 1},      {"1,,234", 1},
+                              {"1,234,5", 1234}, {"1234,567", 1234}, {"1.234,567", 1.234}});
 }
 
 TEST_F(NumberText, ReadsTheSignsOfOtherCountries) {
-  ExpectNumbers(Comma, {{"1.234", 1234}, {"1.234,5", 1234.5}, {"0,5", 0.5}, {",5", 0.5}});
-  ExpectOthers(Comma, {{"1.5", 1}, {"0.500", 0}, {"1,234.5", 1.234}});
+  ExpectNumbers(DecimalComma, {{"1.234", 1234}, {"1.234,5", 1234.5}, {"0,5", 0.5}, {",5", 0.5}});
+  ExpectOthers(DecimalComma, {{"1.5", 1}, {"0.500", 0}, {"1,234.5", 1.234}});
   for (const NumberLocale& locale : {French, NoBreak}) {
     const std::string& separator = locale.GroupSeparator;
     ExpectNumbers(locale, {{"1" + separator + "234,5", 1234.5},
@@ -80,11 +82,11 @@ TEST_F(NumberText, ReadsTheSignsOfOtherCountries) {
 
 TEST_F(NumberText, JudgesTheSizeByDigitsAndExponentTogether) {
   const std::string zeros(400, '0');
-  ExpectNumbers(Point, {{"0." + zeros + "1e50", 0}, {"1" + zeros + "e-400", 1}});
-  ExpectNumbers(Point, {{"1e-999", 0}, {"0.0000000001e-320", 0}, {"1000000000000000000000e-400", 0}});
-  ExpectNumbers(Point, {{"1e-99999999999999999999", 0}, {"0e99999999999999999999", 0}});
-  ExpectOthers(Point, {{"1e999", 0}, {"-1e999 ft", 0}, {"1.8e308", 0}, {"1e99999999999999999999", 0}});
-  ExpectOthers(Point, {{"1" + zeros + "e-50", 0}});
+  ExpectNumbers(DecimalPoint, {{"0." + zeros + "1e50", 0}, {"1" + zeros + "e-400", 1}});
+  ExpectNumbers(DecimalPoint, {{"1e-999", 0}, {"0.0000000001e-320", 0}, {"1000000000000000000000e-400", 0}});
+  ExpectNumbers(DecimalPoint, {{"1e-99999999999999999999", 0}, {"0e99999999999999999999", 0}});
+  ExpectOthers(DecimalPoint, {{"1e999", 0}, {"-1e999 ft", 0}, {"1.8e308", 0}, {"1e99999999999999999999", 0}});
+  ExpectOthers(DecimalPoint, {{"1" + zeros + "e-50", 0}});
 }
 
 TEST_F(NumberText, RepairsALocaleThatNothingCouldBeReadIn) {
@@ -100,14 +102,14 @@ TEST_F(NumberText, ReadsAMillionCharacters) {
   for (int i = 0; i < 300'000; ++i) groups += ",000";
   const std::string tiny = "0." + std::string(1'000'000, '0') + "1";
   const std::string blanks(1'000'000, ' ');
-  ExpectOthers(Point, {{digits, 0}, {groups, 0}});
-  ExpectNumbers(Point,
+  ExpectOthers(DecimalPoint, {{digits, 0}, {groups, 0}});
+  ExpectNumbers(DecimalPoint,
                 {{tiny, 0}, {tiny + "e1000001", 1}, {digits + "e-999999", 70 / 9.0}, {blanks + "4", 4}});
 }
 
 TEST_F(NumberText, WhatIsWrittenPlainlyReadsBackTheSame) {
   std::mt19937_64 random(20);
-  for (const NumberLocale& locale : {Point, Comma, French, Ungrouped}) {
+  for (const NumberLocale& locale : {DecimalPoint, DecimalComma, French, Ungrouped}) {
     SetNumberLocale(locale);
     for (int i = 0; i < 5000; ++i) {
       const double wide = std::bit_cast<double>(random());
@@ -123,7 +125,7 @@ TEST_F(NumberText, WhatIsWrittenPlainlyReadsBackTheSame) {
 }
 
 TEST_F(NumberText, SpellsPlainly) {
-  SetNumberLocale(Comma);
+  SetNumberLocale(DecimalComma);
   const std::vector<std::pair<double, std::string>> spellings = {
       {0, "0"},           {-0.0, "0"},         {0.1, "0.1"},    {-1234567.25, "-1234567.25"},
       {1e-5, "0.00001"},  {9.9e-6, "9.9e-06"}, {1e15, "1e+15"}, {999999999999999, "999999999999999"},
@@ -133,7 +135,7 @@ TEST_F(NumberText, SpellsPlainly) {
 }
 
 TEST_F(NumberText, ChecksumNumbersKnowNoLocale) {
-  SetNumberLocale(Comma);
+  SetNumberLocale(DecimalComma);
   const std::vector<std::pair<std::string, double>> items = {
       {"1.25", 1.25},     {"12 Main St", 12}, {"1 2\t3\n4", 1234},
       {"True", 0},        {"1,5", 1},         {"-.5e1", -5},
@@ -148,7 +150,7 @@ TEST_F(NumberText, ChecksumNumbersKnowNoLocale) {
 
 TEST_F(NumberText, CellsReadAsNumbers) {
   static_assert(!std::is_constructible_v<EngineValue, bool>);
-  SetNumberLocale(Comma);
+  SetNumberLocale(DecimalComma);
   EXPECT_TRUE(EngineValue().IsEmptyText());
   EXPECT_EQ(EngineValue("1.234,5 ft").Number(), 1234.5);
   EXPECT_FALSE(EngineValue("1.234,5 ft").IsNumeric());

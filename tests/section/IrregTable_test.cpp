@@ -10,7 +10,7 @@ namespace {
 using IrregTable::CheckTable;
 using IrregTable::Failure;
 using IrregTable::Fault;
-using IrregTable::Table;
+using Texts = IrregTable::Table;
 
 struct Cell {
   std::size_t Row, Column;
@@ -20,8 +20,8 @@ struct Cell {
 class PointTableRules : public LocaleTest {
  protected:
   /// Four points, some cells of them replaced.
-  static Table FourPointsWith(std::initializer_list<Cell> cells) {
-    Table table;
+  static Texts FourPointsWith(std::initializer_list<Cell> cells) {
+    Texts table;
     table[1] = {"", "0", "10", Spelled("0.03")};
     table[2] = {"", Spelled("2.5"), "8", ""};
     table[3] = {"", "5", Spelled("8.25"), Spelled("0.05")};

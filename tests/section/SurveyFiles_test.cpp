@@ -28,7 +28,7 @@ std::string Listed(const Mended& mended) {
 }
 
 /// "station elevation n" of the points, a comma between them, whatever the decimal sign.
-std::string Points(const Mended& mended) {
+std::string PointsOf(const Mended& mended) {
   std::string list;
   for (int row = 1; row <= IrregTable::PointCount(mended.Table); ++row) {
     const auto& texts = mended.Table[static_cast<std::size_t>(row)];
@@ -125,7 +125,7 @@ TEST_P(SurveyFiles, EveryShapeIsReadAsAPersonWouldReadIt) {
     const Import import = Read(shape.File);
     EXPECT_EQ(import.Result().Reason, shape.Reason) << shape.File;
     EXPECT_EQ(Listed(import.Result()), shape.Changes) << shape.File;
-    EXPECT_EQ(Points(import.Result()), shape.Points) << shape.File;
+    EXPECT_EQ(PointsOf(import.Result()), shape.Points) << shape.File;
   }
 }
 
@@ -158,7 +158,7 @@ TEST_P(SurveyFiles, EachStepCanBeLeftOut) {
     Import import = Read(file);
     import.Switch(kind, false);
     EXPECT_FALSE(import.Result().Changes.front().On) << file;
-    return Points(import.Result()) + "|" + import.Result().Reason;
+    return PointsOf(import.Result()) + "|" + import.Result().Reason;
   };
   EXPECT_EQ(without("metres.csv", Kind::Conversion), "0 3 0.03, 1.5 1, 4.5 1, 6 3|");
   EXPECT_EQ(without("repeated-n.csv", Kind::RepeatedN), "0 10 0.03, 5 4 0.03, 15 4 0.05, 20 10 0.05|");
@@ -170,34 +170,34 @@ TEST_P(SurveyFiles, EachStepCanBeLeftOut) {
   Import river = Read("river.g01");
   river.ChooseUnit(Feet());
   river.Switch(Kind::Breaks, false);
-  EXPECT_EQ(Points(river.Result()), "0 10 0.06, 10 10, 15 4 0.03, 25 4, 30 10 0.08, 40 10")
+  EXPECT_EQ(PointsOf(river.Result()), "0 10 0.06, 10 10, 15 4 0.03, 25 4, 30 10 0.08, 40 10")
       << "n begins at the next point";
 }
 
 TEST_P(SurveyFiles, WhatThePersonChoosesIsDone) {
   Import columns = Read("point-numbers-no-head.csv");
   columns.ChooseColumns({{Role::Ignored, Role::Station, Role::Elevation, Role::ManningN}, {}});
-  EXPECT_EQ(Points(columns.Result()) + columns.Result().Reason, Channel);
+  EXPECT_EQ(PointsOf(columns.Result()) + columns.Result().Reason, Channel);
   Import river = Read("river.g01");
   ASSERT_EQ(river.Sections().size(), 2U) << "the bridge has no ground";
   EXPECT_EQ(river.Sections()[1].Name, "River mile 12.2");
   river.ChooseSection(1);
   river.ChooseUnit(Metres());
-  EXPECT_EQ(Points(river.Result()) + river.Result().Reason,
+  EXPECT_EQ(PointsOf(river.Result()) + river.Result().Reason,
             "0 26.2467 0.035, 19.685 6.5617, 39.3701 26.2467");
   Import sewer = Read("sewer.inp");
   sewer.ChooseSection(1);
-  EXPECT_EQ(Points(sewer.Result()), "0 8 0.04, 6 2, 12 8") << "without banks all of it is the channel";
+  EXPECT_EQ(PointsOf(sewer.Result()), "0 8 0.04, 6 2, 12 8") << "without banks all of it is the channel";
   Import front = Read("n-later.csv");
   front.ChooseFrontN(Number{0.08, {}});
-  EXPECT_EQ(Points(front.Result()) + front.Result().Reason, "0 10 0.08, 5 4 0.03, 15 4, 20 10");
+  EXPECT_EQ(PointsOf(front.Result()) + front.Result().Reason, "0 10 0.08, 5 4 0.03, 15 4, 20 10");
   EXPECT_EQ(Listed(front.Result()), "front");
   EXPECT_EQ(Listed(ReadText("Station,Elevation,n\n0,5,\n9,5,\n").Result()), "") << "no order is changed";
   Import blanks = Read("blanks.txt");
   blanks.ChooseSeparator(',');
   EXPECT_EQ(blanks.Result().Reason, "No column is known as the elevation: choose it in the lists.");
   const Import metric = Read("feet-after-comma.csv", 1);
-  EXPECT_EQ(Points(metric.Result()), "0 3.048 0.03, 1.524 1.2192, 4.572 1.2192, 6.096 3.048");
+  EXPECT_EQ(PointsOf(metric.Result()), "0 3.048 0.03, 1.524 1.2192, 4.572 1.2192, 6.096 3.048");
 }
 
 TEST_P(SurveyFiles, ASignOfTwoReadingsIsTheUsersOwnOrDoubtful) {
@@ -222,7 +222,7 @@ TEST_P(SurveyFiles, ANThatIsNoneIsNamed) {
   EXPECT_NE(import.Result().Changes[0].Text.find("line 1 has " + Spelled("4.5")), std::string::npos);
   EXPECT_TRUE(import.Result().LacksN);
   import.Switch(Kind::StrangeN, false);
-  EXPECT_EQ(Points(import.Result()) + import.Result().Reason, "0 10 4.5, 5 4, 10 10");
+  EXPECT_EQ(PointsOf(import.Result()) + import.Result().Reason, "0 10 4.5, 5 4, 10 10");
   const Import model = ReadText(
       "Type RM Length L Ch R = 1 ,1 ,,,\n#Sta/Elev= 2 \n       0       5      10       4\n"
       "#Mann= 1 , 0 , 0\n       0     3.5       0\n");
@@ -246,7 +246,7 @@ TEST_P(SurveyFiles, EverySpellingOfTheSamePointsIsRead) {
   };
   for (const char* const text : texts) {
     const Mended mended = ReadText(text).Result();
-    EXPECT_EQ(Points(mended) + mended.Reason, "0 10.5 0.03, 1234.5 8") << text;
+    EXPECT_EQ(PointsOf(mended) + mended.Reason, "0 10.5 0.03, 1234.5 8") << text;
     EXPECT_EQ(mended.Table[2][1], Spelled("1234.5")) << text;
   }
 }
@@ -265,7 +265,7 @@ TEST_P(SurveyFiles, WhatIsExportedIsImportedTheSame) {
   for (const NumberLocale& reader : readers) {
     SetNumberLocale(reader);
     const Mended again = ReadText(text, 1).Result();
-    EXPECT_EQ(Points(again) + again.Reason, "0 1609.344 0.125, 1.234 10.5, 234.5 -0.5 0.25");
+    EXPECT_EQ(PointsOf(again) + again.Reason, "0 1609.344 0.125, 1.234 10.5, 234.5 -0.5 0.25");
     EXPECT_TRUE(again.Changes.empty());
   }
 }

@@ -106,8 +106,9 @@ class Search {
     const auto limit = tooSmall ? first : FlowWith(most_);
     if (!limit) return WhyNoResult({}).Text;
     const char* const is = tooSmall ? "at least " : falls_ ? "more than " : "less than ";
-    return "at this depth the flow is " + (is + ShownNumber(*limit, Units::Flow, false)) + " " +
-           UnitLabel(ChannelState.UnitsEorM, Units::Flow) + " for every " + wanted_.Name;
+    return "at this depth the flow is " +
+           (is + WithUnit(ShownNumber(*limit, Units::Flow, false), Units::Flow)) + " for every " +
+           wanted_.Name;
   }
 
  private:

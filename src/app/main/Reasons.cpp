@@ -40,10 +40,6 @@ double LowPoint(const Record& r) {
   return lowest;
 }
 
-std::string WithUnit(const std::string& number, int quantity) {
-  return number + " " + UnitLabel(ChannelState.UnitsEorM, quantity);
-}
-
 /// The limit of a flow or a depth with its unit: rounded, but never to a number that would be refused.
 std::string Limit(double limit, int quantity, bool included) {
   const double factor = UnitFactor(ChannelState.UnitsEorM, quantity);

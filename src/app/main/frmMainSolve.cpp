@@ -119,8 +119,7 @@ std::string frmMain::NoteOn(const Field& result) {
   if (!value.IsNumeric()) return Sentence(WhyBlank(result.Cell).Text);
   if (FactorOf(result.Quantity) == FactorOf(result.PageQuantity)) return "";
   return Sentence(LowerCase(result.Caption.Current())) + ": " +
-         ShownNumber(value, result.PageQuantity, false) + " " +
-         UnitLabel(ChannelState.UnitsEorM, result.PageQuantity);
+         WithUnit(ShownNumber(value, result.PageQuantity, false), result.PageQuantity);
 }
 
 frmMain::Progress frmMain::FindProgress() const {
