@@ -89,7 +89,7 @@ def survives(tests):
 
 def main():
     count = int(sys.argv[1]) if len(sys.argv) > 1 else 200
-    for folder in ["src", "tests", "fuzz", "examples", "cmake", "docs"]:
+    for folder in ["src", "tests", "bench", "fuzz", "examples", "cmake", "docs", "packaging"]:
         shutil.rmtree(COPY / folder, ignore_errors=True)
         shutil.copytree(ROOT / folder, COPY / folder, copy_function=shutil.copyfile)
     shutil.copy(ROOT / "CMakeLists.txt", COPY)
