@@ -331,7 +331,7 @@ TEST_P(SurveyFiles, WatchingCanEndTheWork) {
   for (int i = 1; i < 40000; ++i) text += std::to_string(i) + ",1,\n";
   EXPECT_THROW(Import(text, 0, [](double) { throw Cancelled(); }), Cancelled);
   std::vector<double> shares;
-  Import(text, 0, [&](double share) { shares.push_back(share); });
+  const Import import(text, 0, [&](double share) { shares.push_back(share); });
   EXPECT_TRUE(std::ranges::is_sorted(shares));
   EXPECT_GT(shares.back(), 0.9) << "thinning is watched, too";
   EXPECT_THROW(Import(text, 0,
