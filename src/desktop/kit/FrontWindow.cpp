@@ -2,6 +2,7 @@
 #include "desktop/kit/FrontWindow.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QWidget>
 
 QWidget* FrontWindow() {
@@ -10,4 +11,10 @@ QWidget* FrontWindow() {
     if (window->objectName() == QLatin1String("frmMain") && window->isVisible()) return window;
   }
   return nullptr;
+}
+
+void SetUpBox(QMessageBox& box) {
+  box.setTextFormat(Qt::PlainText);
+  // The box's own function makes it a sheet, which Wayland shows without a title bar to move it by.
+  box.QWidget::setWindowModality(Qt::WindowModal);
 }

@@ -24,6 +24,14 @@ QString MaximizedKey(const QWidget& window) {
   return window.objectName() + QStringLiteral("/maximized");
 }
 
+bool Fits(const QWidget& window, const QRect& place) {
+  const QWidget* const below = window.parentWidget();
+  const QList<QScreen*> screens =
+      below == nullptr ? QGuiApplication::screens() : QList<QScreen*>{below->screen()};
+  return std::ranges::any_of(
+      screens, [&](const QScreen* screen) { return screen->availableGeometry().contains(place); });
+}
+
 class KeepsPlace : public QObject {
  public:
   using QObject::QObject;
@@ -35,19 +43,18 @@ class KeepsPlace : public QObject {
  private:
   static void Keep(const QWidget& window) {
     QSettings store(StoreFile(), QSettings::IniFormat);
-    const QRect place = window.isMaximized() ? window.normalGeometry() : window.geometry();
+    QRect place = window.isMaximized() ? window.normalGeometry() : window.geometry();
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+      // Only the size is known there; the place of another session stays if it still can.
+      const QRect before = store.value(PlaceKey(window)).toRect();
+      place.moveTopLeft(before.topLeft());
+      if (!before.isValid() || !Fits(window, place))
+        place.moveCenter(window.screen()->availableGeometry().center());
+    }
     if (place.isValid()) store.setValue(PlaceKey(window), place);
     store.setValue(MaximizedKey(window), window.isMaximized());
   }
 };
-
-bool Fits(const QWidget& window, const QRect& place) {
-  const QWidget* const below = window.parentWidget();
-  const QList<QScreen*> screens =
-      below == nullptr ? QGuiApplication::screens() : QList<QScreen*>{below->screen()};
-  return std::ranges::any_of(
-      screens, [&](const QScreen* screen) { return screen->availableGeometry().contains(place); });
-}
 
 }  // namespace
 

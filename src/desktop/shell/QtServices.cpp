@@ -59,8 +59,7 @@ BoxAnswer QtMessageBox::Show(const std::string& text, const std::string& title, 
                   ToQt(text), Buttons(buttons), FrontWindow());
   // Where only Yes and No can be answered, Yes gives something up.
   if (buttons == BoxButtons::YesNo) box.setDefaultButton(QMessageBox::No);
-  box.setTextFormat(Qt::PlainText);
-  box.setWindowModality(Qt::WindowModal);
+  SetUpBox(box);
   switch (box.exec()) {
     case QMessageBox::Yes:
       return BoxAnswer::Yes;

@@ -23,8 +23,7 @@ std::optional<bool> Ask(const QString& projectName, const QDateTime& time) {
                       .arg(projectName.isEmpty() ? QStringLiteral("a project without a name")
                                                  : QStringLiteral("\"%1\"").arg(projectName)),
                   QMessageBox::NoButton, FrontWindow());
-  box.setTextFormat(Qt::PlainText);
-  box.setWindowModality(Qt::WindowModal);
+  SetUpBox(box);
   box.setInformativeText(
       QStringLiteral("A copy from %1 was kept.").arg(QLocale().toString(time, QLocale::ShortFormat)));
   const QPushButton* const open = box.addButton(QStringLiteral("&Open the copy"), QMessageBox::AcceptRole);
@@ -50,8 +49,7 @@ void SetAside(KeptCopy& copy, const std::exception& failure) {
       QMessageBox::Warning, QString::fromLatin1(Declarations::AppTitle),
       QStringLiteral("A recovery copy cannot be opened: %1.").arg(ToQt(WholeFile::ReasonOf(failure))),
       QMessageBox::Ok, FrontWindow());
-  box.setTextFormat(Qt::PlainText);
-  box.setWindowModality(Qt::WindowModal);
+  SetUpBox(box);
   const QString origin =
       copy.Origin().empty() ? QString() : QStringLiteral(" It belongs to %1.").arg(ToQt(copy.Origin()));
   box.setInformativeText(QStringLiteral("It was kept as %1.").arg(ToQt(TextOf(now))) + origin);

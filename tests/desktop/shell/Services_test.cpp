@@ -11,11 +11,16 @@
 namespace {
 
 TEST(DesktopServices, AnswersOfAMessageBox) {
+  QWidget window;
+  window.setObjectName(QStringLiteral("frmMain"));
+  window.show();
   QtMessageBox boxes;
   const auto answer = [&](BoxButtons buttons, Qt::Key key) {
     WhenOpen<QMessageBox>([key](QMessageBox& box) {
       EXPECT_EQ(box.text(), QStringLiteral("Save <b>?"));
       EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      EXPECT_EQ(box.windowModality(), Qt::WindowModal);
+      EXPECT_EQ(box.windowType(), Qt::Dialog);  // a sheet has no title bar under Wayland
       QTest::keyClick(&box, key);
     });
     return boxes.Show("Save <b>?", "Flumewise", BoxIcon::Exclamation, buttons);
