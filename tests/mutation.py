@@ -62,7 +62,7 @@ def mutants():
                     yield source, tests, match.start(), match.end(), change(match[0])
 
 
-def told(*command, limit=600):
+def succeeds(*command, limit=600):
     try:
         return subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=limit).returncode == 0
     except subprocess.TimeoutExpired:
@@ -70,11 +70,11 @@ def told(*command, limit=600):
 
 
 def builds(*targets):
-    return told("ninja", "-C", BUILD, *targets)
+    return succeeds("ninja", "-C", BUILD, *targets)
 
 
 def passes(program):
-    return told(next(BUILD.rglob(program)), SLOW, "--gtest_brief=1", limit=60)
+    return succeeds(next(BUILD.rglob(program)), SLOW, "--gtest_brief=1", limit=60)
 
 
 def survives(tests):
@@ -94,7 +94,7 @@ def main():
         shutil.copytree(ROOT / folder, COPY / folder, copy_function=shutil.copyfile)
     shutil.copy(ROOT / "CMakeLists.txt", COPY)
     programs = sorted({program for tests in TARGETS.values() for program in tests})
-    if not told("cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O0 -g0",
+    if not succeeds("cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS=-O0 -g0",
                 "-DFLUMEWISE_DESKTOP=OFF") or not builds(*programs) or not all(map(passes, programs)):
         sys.exit("The tests do not pass as they are")
     found = list(mutants())
