@@ -95,7 +95,7 @@ inline bool PasteHolds(const std::string& text, Table& pasted) {
   grid.SetClip(text);
   const std::string copied = grid.Clip();
   grid.SetClip(copied);
-  bool holds = grid.Clip() == copied && ShapeOfClip(text).Rows > 0 && ShapeOfClip(text).Cols > 0;
+  bool holds = grid.Clip() == copied && SizeOfClip(text).Rows > 0 && SizeOfClip(text).Cols > 0;
   for (int row = 0; row < grid.Rows(); ++row) {
     for (int col = 1; col < grid.Cols(); ++col) {
       const bool inside = row >= block.Row && row <= block.RowSel && col <= block.ColSel;

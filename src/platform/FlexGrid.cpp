@@ -58,13 +58,13 @@ void FlexGrid::SetClip(std::string_view text) {
   }
 }
 
-ClipShape ShapeOfClip(std::string_view text) {
-  ClipShape shape{0, 1};
+ClipSize SizeOfClip(std::string_view text) {
+  ClipSize size{0, 1};
   while (!text.empty()) {
     const std::string_view line = TakePart(text, '\r');
-    ++shape.Rows;
-    shape.Cols = std::max(shape.Cols, 1 + static_cast<int>(std::ranges::count(line, '\t')));
+    ++size.Rows;
+    size.Cols = std::max(size.Cols, 1 + static_cast<int>(std::ranges::count(line, '\t')));
   }
-  shape.Rows = std::max(shape.Rows, 1);
-  return shape;
+  size.Rows = std::max(size.Rows, 1);
+  return size;
 }

@@ -21,10 +21,10 @@ struct GridBlock {
 };
 
 /// Rows and columns of a text of TABs and CRs, without the empty last row.
-struct ClipShape {
+struct ClipSize {
   int Rows = 1, Cols = 1;
 };
-ClipShape ShapeOfClip(std::string_view text);
+ClipSize SizeOfClip(std::string_view text);
 
 struct GridCell {
   int Row = 0, Col = 0;

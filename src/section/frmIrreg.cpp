@@ -216,7 +216,7 @@ void frmIrreg::PasteWidened() {
   if (HasHeadRow(survey)) return TakeOver(ImportedPoints(survey));
   const GridBlock at = MSFlexGrid1.Selection;
   if (at.Row == at.RowSel && at.Col == at.ColSel) {
-    const ClipShape there = ShapeOfClip(*rows);
+    const ClipSize there = SizeOfClip(*rows);
     if (at.Row + there.Rows > MSFlexGrid1.Rows() || at.Col + there.Cols > MSFlexGrid1.Cols())
       return TakeOver(ImportedPoints(survey));
     MSFlexGrid1.Selection = {at.Row, at.Col, at.Row + there.Rows - 1, at.Col + there.Cols - 1};

@@ -32,7 +32,7 @@ class Helpers : public LocaleTest {
   ScriptedHost windows_;
 };
 
-TEST_P(Helpers, RangeChecksTellTheirBounds) {
+TEST_P(Helpers, RangeChecksNameTheirBounds) {
   using FormStuff::CheckRange;
   EXPECT_TRUE(CheckRange(Spelled("0.5"), 0, false, 1, false, true));
   EXPECT_TRUE(CheckRange("0", 0, true, 1, false, true));

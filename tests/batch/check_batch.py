@@ -36,9 +36,9 @@ def sheet(name, *rows):
 def same_as_the_window(project):
     """Every number of the record, bit for bit, is what the window computes from the same file."""
     lines = ["start", f"choose {project}", "click mnuFileOpen", *(f"record {name}" for name in INPUTS + RESULTS)]
-    told = subprocess.run([*EMULATOR, CONSOLE], input="\n".join(lines), capture_output=True, text=True, check=True, timeout=60)
+    answers = subprocess.run([*EMULATOR, CONSOLE], input="\n".join(lines), capture_output=True, text=True, check=True, timeout=60)
     row = rows_of(run("--record-units", project).stdout)[0]
-    for name, reply in zip(INPUTS + RESULTS, told.stdout.splitlines()[3:], strict=True):
+    for name, reply in zip(INPUTS + RESULTS, answers.stdout.splitlines()[3:], strict=True):
         if row[name]:
             assert reply.startswith("d:") or name in INPUTS, (project, name, reply)
             number = float.fromhex(reply[2:]) if reply.startswith("d:") else float(reply[2:])
@@ -111,7 +111,7 @@ def same_in_parts():
 
 
 def rated():
-    """A rating steps one input, ends where it is told, and counts what has no result."""
+    """A rating steps one input, ends at its last value, and counts what has no result."""
     made = rows_of(run("--rating=Depth,0.5,4,0.5", EXAMPLES / "storm-drain.fwd", EXAMPLES / "roadside-ditch.fwd").stdout)
     pipe, ditch = (made[:1], made[1:])
     assert pipe[0]["Reason"] == "Depth is no input of this problem"

@@ -62,7 +62,7 @@ class Console {
   std::unique_ptr<Program> program_;
   Stage stage_;
 
-  std::optional<std::string> pending_;  // reply to the last line, told when the program waits for the next
+  std::optional<std::string> pending_;  // reply to the last line, sent when the program waits for the next
   std::size_t linesRead_ = 0;
   std::optional<std::string> restart_;  // settings file of the run to start once all forms are unwound
   bool unwinding_ = false;              // open forms are being cancelled, one after the other

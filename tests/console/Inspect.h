@@ -11,7 +11,7 @@
 
 namespace Inspect {
 
-/// A property as the console tells it; nothing when the control has no such property.
+/// A property as the console prints it; nothing when the control has no such property.
 std::optional<std::string> ControlProperty(const Control& control, std::string_view property);
 
 /// The titles of both axes and the values row by row; an empty value is the empty text.

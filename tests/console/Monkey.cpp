@@ -109,7 +109,7 @@ constexpr std::size_t Quarantine = 0;
 #endif
 constexpr std::size_t MostGrowth = (std::size_t{32} << 20U) + Quarantine;  // bytes
 
-/// Bytes of memory that the process holds; 0 where the system does not tell.
+/// Bytes of memory that the process holds; 0 where the system does not say.
 std::size_t ResidentMemory() {
   constexpr std::size_t PageSize = 4096;
   std::size_t total = 0, resident = 0;

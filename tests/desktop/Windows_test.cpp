@@ -81,17 +81,17 @@ TEST_F(Windows, EveryControlHasItsWidgetWithANameAndTheReverse) {
   });
 }
 
-TEST_F(Windows, AScreenReaderTellsCaptionUnitAndWhatIsWrong) {
+TEST_F(Windows, AScreenReaderReadsCaptionUnitAndMistake) {
   EXPECT_EQ(main_.ActiveControl(), &main_.tbFlow);
   EXPECT_EQ(Focused(), "tbFlow");
-  const auto told = [this](const TextBox& box) {
+  const auto spoken = [this](const TextBox& box) {
     const auto* const reader = QAccessible::queryAccessibleInterface(&Edit(box));
     return FromQt(reader->text(QAccessible::Name) + u'|' + reader->text(QAccessible::Description));
   };
   EnterTrapezoid();
   std::string all;
   for (const Control* const control : main_.Controls()) {
-    if (const auto* const box = dynamic_cast<const TextBox*>(control)) all += told(*box) + "; ";
+    if (const auto* const box = dynamic_cast<const TextBox*>(control)) all += spoken(*box) + "; ";
   }
   EXPECT_EQ(
       all,
@@ -101,22 +101,23 @@ TEST_F(Windows, AScreenReaderTellsCaptionUnitAndWhatIsWrong) {
       "is governed from downstream; Critical Depth|ft; "
       "Critical Slope|ft; ");
   hands_.Click(main_.mnuOptionsUnitsMetric);
-  EXPECT_EQ(told(main_.tbArea), "Flow Area|m\u00B2");
+  EXPECT_EQ(spoken(main_.tbArea), "Flow Area|m\u00B2");
   hands_.Type(main_.tbSlope, "2");
-  EXPECT_EQ(told(main_.tbSlope), "Slope|m/m, Slope must be greater than 0 and less than 1");
+  EXPECT_EQ(spoken(main_.tbSlope), "Slope|m/m, Slope must be greater than 0 and less than 1");
 }
 
-/// The letters behind "&" of the texts, joined; none may be there twice.
-QString UniqueLetters(const QStringList& texts) {
-  QString letters;
+/// The mnemonics of the texts, joined; none may occur twice.
+QString UniqueMnemonics(const QStringList& texts) {
+  QString mnemonics;
   for (QString text : texts) {
     text.remove(QLatin1String("&&"));
     const qsizetype at = text.indexOf(QLatin1Char('&'));
-    if (at >= 0) letters += text[at + 1].toLower();
+    if (at >= 0) mnemonics += text[at + 1].toLower();
   }
-  std::sort(letters.begin(), letters.end());
-  EXPECT_EQ(std::adjacent_find(letters.begin(), letters.end()), letters.end()) << letters.toStdString();
-  return letters;
+  std::sort(mnemonics.begin(), mnemonics.end());
+  EXPECT_EQ(std::adjacent_find(mnemonics.begin(), mnemonics.end()), mnemonics.end())
+      << mnemonics.toStdString();
+  return mnemonics;
 }
 
 QStringList TextsOf(const QList<QAction*>& actions) {
@@ -127,8 +128,8 @@ QStringList TextsOf(const QList<QAction*>& actions) {
   return texts;
 }
 
-/// The letters that do something in the window as it is.
-QString Letters(const QWidget& window) {
+/// The mnemonics that work in the window as it is.
+QString Mnemonics(const QWidget& window) {
   QStringList texts;
   if (const auto* const bar = window.findChild<QMenuBar*>()) texts = TextsOf(bar->actions());
   for (const QWidget* const each : window.findChildren<QWidget*>()) {
@@ -138,22 +139,22 @@ QString Letters(const QWidget& window) {
       continue;
     texts << each->property("text").toString() << each->property("title").toString();
   }
-  return UniqueLetters(texts);
+  return UniqueMnemonics(texts);
 }
 
 TEST_F(Windows, MnemonicsAreUnique) {
   InEveryWindow([this](Form& form) {
     SCOPED_TRACE(form.Name());
     const QWidget& window = hands_.Window(form);
-    Letters(window);
+    Mnemonics(window);
     for (const QMenu* const menu : window.findChildren<QMenu*>()) {
       const QStringList items = TextsOf(menu->actions());
-      EXPECT_EQ(UniqueLetters(items).size(), items.size()) << items.join(u' ').toStdString();
+      EXPECT_EQ(UniqueMnemonics(items).size(), items.size()) << items.join(u' ').toStdString();
     }
   });
   const QWidget& window = hands_.Window(main_);
   const auto titles = window.findChild<QMenuBar*>()->actions().size();
-  InEveryType([&] { EXPECT_GE(Letters(window).size(), titles + 4); });
+  InEveryType([&] { EXPECT_GE(Mnemonics(window).size(), titles + 4); });
 }
 
 TEST_F(Windows, TabGoesInReadingOrder) {

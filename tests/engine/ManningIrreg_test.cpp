@@ -1,4 +1,4 @@
-// Surveyed sections against hand values, stretch by stretch and the trapezoid of the same outline.
+// Surveyed sections against hand values, segment by segment, and the trapezoid of the same outline.
 #include "engine/ManningIrreg.h"
 
 #include <algorithm>
@@ -21,8 +21,8 @@ Geometry Measure(const PointTable& table, int count, double W) {
           ManningIrreg::IrregTopWidth(table, count, W)};
 }
 
-// The second method: under each stretch of ground its mean wet depth times its wet width.
-Geometry MeasureByStretches(const Points& points, double W) {
+// The second method: under each segment of the ground its mean wet depth times its wet width.
+Geometry MeasureBySegments(const Points& points, double W) {
   Geometry g{0, 0, 0};
   for (size_t i = 0; i + 1 < points.size(); ++i) {
     const double dx = points[i + 1].x - points[i].x, dy = std::abs(points[i + 1].e - points[i].e);
@@ -60,7 +60,7 @@ TEST_F(ManningIrregTest, GeometryByHand) {
   }
 }
 
-TEST_F(ManningIrregTest, RandomGroundByStretches) {
+TEST_F(ManningIrregTest, RandomGroundBySegments) {
   Uniform uniform(3);
   for (int i = 0; i < 300; ++i) {
     Points points;
@@ -68,7 +68,7 @@ TEST_F(ManningIrregTest, RandomGroundByStretches) {
     double x = uniform(-50, 50);
     for (int p = 0; p < count; ++p) points.push_back({x += uniform(0.1, 9), uniform(-20, 20)});
     const double W = uniform(-19, 25);
-    const Geometry expected = MeasureByStretches(points, W);
+    const Geometry expected = MeasureBySegments(points, W);
     const Geometry found = Measure(Table(points), count, W);
     ASSERT_NEAR(found.A, expected.A, 1e-8);
     ASSERT_NEAR(found.P, expected.P, 1e-9);

@@ -156,7 +156,7 @@ TEST(Search, AWrongGuessIsSearchedPlainly) {
   }
 }
 
-TEST(Search, PowersAndGuessesAreAsCloseAsTold) {
+TEST(Search, PowersAndGuessesAreAsCloseAsDocumented) {
   for (int step = -6800; step <= 6800; ++step) {
     const double x = std::pow(1.0137, step);
     for (const double exponent : {1 / 8.0, 1 / 3.0, 2 / 3.0})
@@ -174,7 +174,7 @@ TEST(Search, PowersAndGuessesAreAsCloseAsTold) {
 using SurveyedSectionTest = EngineTest;
 
 // A = 10 t + t^2 in two halves of one n each; water too thin to tell is left to the segments.
-TEST_F(SurveyedSectionTest, TellWhatTheyCan) {
+TEST_F(SurveyedSectionTest, DecideWhatTheyCan) {
   const auto points = Table({{100, 10, 0.02}, {110, 0}, {115, 0, 0.04}, {120, 0}, {130, 10}});
   ManningIrreg::SurveyedSection pieces(points, 5);
   for (const double t : {1e-3, 4.0, 10.0, 12.0}) {

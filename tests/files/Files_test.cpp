@@ -47,7 +47,7 @@ TEST_F(Files, KeepTheirHardLinks) {
   EXPECT_EQ(FilesInFolder(), 1);
 }
 
-TEST_F(Files, ThatCannotBeWrittenStayWithTheReasonTold) {
+TEST_F(Files, ThatCannotBeWrittenStayAndTheReasonIsGiven) {
   const auto reason = [](const std::string& path) -> std::string {
     try {
       WholeFile::Write(path, "new");

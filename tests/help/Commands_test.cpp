@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 using HelpCommands = ProgramStage;
 
-TEST_P(HelpCommands, EachOpensItsPartOrTellsThatThereIsNoHelpFile) {
+TEST_P(HelpCommands, EachOpensItsPartOrReportsAMissingHelpFile) {
   Main.mnuHelpContents.Click();
   Main.mnuHelpIndex.Click();
   HTMLHelp::ShowFor(Main);

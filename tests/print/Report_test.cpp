@@ -107,7 +107,7 @@ TEST_P(Report, NamesTheProjectEvenWithoutAnInput) {
   EXPECT_THAT(Paper.Calls, testing::Contains("text 1152 14132 /home/me/Mill.fwd    2026-03-09"));
 }
 
-TEST_P(Report, TellsWhenItCannotBePrinted) {
+TEST_P(Report, ReportsThatItCannotBePrinted) {
   TypeRectangle();
   Paper.Works = false;
   PrintReport();

@@ -226,7 +226,7 @@ TEST_P(RatingWindows, ASectionHasNoRoughnessOfItsOwnInTheFile) {
               HasSubstr(DecimalComma() ? "Slope, ft/ft;Vel., fps" : "\"Slope, ft/ft\",\"Vel., fps\""));
 }
 
-TEST_P(RatingWindows, AFailureToExportIsToldAndLeavesNothing) {
+TEST_P(RatingWindows, AFailureToExportIsReportedAndLeavesNothing) {
   TypeRectangle();
   Fakes.fileDialog.Choices = {Path("missing/table.csv"), Path("graph.PNG"), Path("graph.PNG")};
   OpenTable([](frmTable& table) { table.mnuFileExport_Click(); });

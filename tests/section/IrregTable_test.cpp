@@ -31,7 +31,7 @@ class PointTableRules : public LocaleTest {
   }
 };
 
-TEST_P(PointTableRules, TheFirstFailureIsTold) {
+TEST_P(PointTableRules, TheFirstFailureIsReported) {
   struct Case {
     std::initializer_list<Cell> Cells;
     std::optional<Failure> Expected;

@@ -1,4 +1,4 @@
-// The drawing of a cross-section: worked shapes, pools and stretches of roughness.
+// The drawing of a cross-section: worked shapes, pools and ranges of one n.
 #include "section/SectionTable.h"
 
 #include <gmock/gmock.h>

@@ -117,6 +117,6 @@ void FieldPanel::AlignDecimals() {
   }
 }
 
-void FieldPanel::SetAiriness(int spacing) {
+void FieldPanel::SetRowGap(int spacing) {
   grid_->setVerticalSpacing(spacing);
 }

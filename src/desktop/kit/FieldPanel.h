@@ -34,7 +34,7 @@ class FieldPanel : public QWidget {
   void KeepRoom(int unitWidth);
 
   /// More room between the rows, in pixels.
-  void SetAiriness(int spacing);
+  void SetRowGap(int spacing);
 
  private:
   int Row() const;

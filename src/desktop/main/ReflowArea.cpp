@@ -32,7 +32,7 @@ void ReflowArea::resizeEvent(QResizeEvent* event) {
   ScrollPage::resizeEvent(event);
 }
 
-ReflowArea::Flow ReflowArea::Best(QSize room) const {
+ReflowArea::Columns ReflowArea::Best(QSize room) const {
   const int gap = grid_->horizontalSpacing();
   const QSize inputs = parts_.Inputs->sizeHint();
   const QSize results = parts_.Results->sizeHint();
@@ -46,9 +46,9 @@ ReflowArea::Flow ReflowArea::Best(QSize room) const {
   const bool three = beside >= drawing.width() && room.height() >= fieldHeight;
   const bool two = room.width() >= fields + (below >= drawing.height() ? 0 : scrollBar);
   if (three && (below < drawing.height() || Score(beside, room.height()) >= Score(room.width(), below))) {
-    return Flow::Three;
+    return Columns::Three;
   }
-  return two ? Flow::Two : Flow::One;
+  return two ? Columns::Two : Columns::One;
 }
 
 void ReflowArea::Arrange() {
@@ -58,29 +58,29 @@ void ReflowArea::Arrange() {
   grid_->setHorizontalSpacing(em * 3 / 2);
   grid_->setVerticalSpacing(margin);
   const int rowGap = em * 3 / 8;
-  for (FieldPanel* const panel : {parts_.Inputs, parts_.Results}) panel->SetAiriness(rowGap);
+  for (FieldPanel* const panel : {parts_.Inputs, parts_.Results}) panel->SetRowGap(rowGap);
 
   const QSize room = maximumViewportSize() - QSize(2 * margin, 3 * margin + parts_.Top->sizeHint().height());
-  const Flow flow = Best(room);
-  Place(flow);
-  if (flow == Flow::One) return;
+  const Columns columns = Best(room);
+  Place(columns);
+  if (columns == Columns::One) return;
   // Rows grow with the window as far as they still read as one block. They move together to keep the drawing
   // in sight, and where it cannot be, to keep the last of them there.
   constexpr int gaps = 10;
   const int least = em / 8;
   const int fields = std::max(parts_.Inputs->sizeHint().height(), parts_.Results->sizeHint().height());
   int spare = room.height() - fields;
-  if (flow == Flow::Two) {
+  if (columns == Columns::Two) {
     const int besideDrawing = spare - margin - parts_.Drawing->minimumSizeHint().height();
     if (besideDrawing >= gaps * (least - rowGap)) spare = besideDrawing;
   }
-  const int most = flow == Flow::Three ? em * 5 / 4 : rowGap;
+  const int most = columns == Columns::Three ? em * 5 / 4 : rowGap;
   for (FieldPanel* const panel : {parts_.Inputs, parts_.Results}) {
-    panel->SetAiriness(std::clamp(rowGap + static_cast<int>(std::floor(spare / (1.0 * gaps))), least, most));
+    panel->SetRowGap(std::clamp(rowGap + static_cast<int>(std::floor(spare / (1.0 * gaps))), least, most));
   }
 }
 
-void ReflowArea::Place(Flow flow) {
+void ReflowArea::Place(Columns columns) {
   struct Cell {
     int Row, Column, Columns;
   };
@@ -92,7 +92,7 @@ void ReflowArea::Place(Flow flow) {
   static constexpr Placing Placings[] = {{3, 1, {1, 0, 1}, {1, 2, 1}, {1, 1, 1}, {0, 0, 1}},
                                          {2, 2, {1, 0, 1}, {2, 0, 2}, {1, 1, 1}, {1, 1, 0}},
                                          {1, 3, {1, 0, 1}, {3, 0, 1}, {2, 0, 1}, {1, 0, 0}}};
-  const Placing& placing = Placings[static_cast<int>(flow)];
+  const Placing& placing = Placings[static_cast<int>(columns)];
   const auto put = [this](QWidget* widget, const Cell& cell, Qt::Alignment alignment) {
     grid_->removeWidget(widget);
     grid_->addWidget(widget, cell.Row, cell.Column, 1, cell.Columns, alignment);

@@ -24,10 +24,10 @@ class ReflowArea : public ScrollPage {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  enum class Flow { Three, Two, One };
-  Flow Best(QSize room) const;
+  enum class Columns { Three, Two, One };
+  Columns Best(QSize room) const;
   void Arrange();
-  void Place(Flow flow);
+  void Place(Columns columns);
 
   Parts parts_;
   QGridLayout* grid_;

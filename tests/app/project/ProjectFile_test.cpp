@@ -138,7 +138,7 @@ TEST_F(ProjectFileTest, IsRefusedWhenCutOffAnywhere) {
 }
 
 TEST_F(ProjectFileTest, IsRefusedWhenAnyDigitHasChanged) {
-  // Other letters of a text are no part of the checksum: they read as they stand.
+  // Other characters of a text are no part of the checksum: they read as they stand.
   const std::string whole = SampleFile();
   for (size_t at = 0; at < whole.size(); ++at) {
     if (whole[at] < '0' || whole[at] > '9') continue;

@@ -77,7 +77,7 @@ TEST_F(Chart, EveryPairOfColumnsIsALine) {
   EXPECT_THAT(Plot().Points(), ElementsAre(QPointF(3, 4)));
 }
 
-TEST_F(Chart, AScreenReaderIsToldATableOfThePoints) {
+TEST_F(Chart, AScreenReaderReadsATableOfThePoints) {
   Show({{0.5, 2}, Gap, {1, 1234.5678}});
   QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(widget_.get());
   EXPECT_EQ(reader->role(), QAccessible::Chart);
@@ -102,14 +102,14 @@ TEST_F(Chart, AScreenReaderIsToldATableOfThePoints) {
   EXPECT_EQ(text(0, 0), "7.000");
 }
 
-TEST_F(Chart, MarkedStretchesAreDrawnOnceMore) {
+TEST_F(Chart, MarkedRangesAreDrawnOnceMore) {
   chart_.Marked = {{1, 2}, {4, 5}};
   Show({{1, 1}, {2, 5}, {3, 4}, {4, 6}, {5, 8}, {6, 7}});
   EXPECT_EQ(Drawn(Plot(), 2), "2,5 3,4 - 5,8 6,7 - ");
   EXPECT_TRUE(widget_->accessibleDescription().endsWith(QStringLiteral("It falls.")));
 }
 
-TEST_F(Chart, WhatStandsBesideTheRowsIsDrawnReadAndTold) {
+TEST_F(Chart, NotesBesideTheRowsAreDrawnAndReadAloud) {
   chart_.Heading = {"Mill race", "b 3 m"};
   chart_.RowsName = "n = 0.013";
   chart_.Curves = {{"n = 0.011", {{1, 10}, {2, 60}}, {{0, 1}}, 1},
@@ -155,7 +155,7 @@ TEST_F(Chart, KeysReadOffOnePointAfterTheOther) {
   EXPECT_EQ(ReadingAfter("Up Left"), "Depth 1.000 ft\nFlow 1,235 m\u00B3/s");
 }
 
-TEST_F(Chart, ReadingsTellNeighboursApart) {
+TEST_F(Chart, ReadingsDistinguishNeighbours) {
   Show({{400.455, 0.00791}, {400.46, 0.0123}, {401.5, 35.42}});
   EXPECT_EQ(ReadingAfter("Right"), "Depth 400.455 ft\nFlow 0.007910 m\u00B3/s");
   EXPECT_EQ(ReadingAfter("Right"), "Depth 400.460 ft\nFlow 0.01230 m\u00B3/s");

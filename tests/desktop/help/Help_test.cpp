@@ -215,7 +215,7 @@ TEST_F(Help, PicturesFitAndWordsAreReadOnLightAndDark) {
   QApplication::setPalette(usual);
 }
 
-TEST_F(Help, AFileThatIsMissingIsToldOnce) {
+TEST_F(Help, AMissingFileIsReportedOnce) {
   QtHelpViewer none({QStringLiteral("/no such folder/pages.chm")});
   Use(none);
   main_.mnuHelpContents.Click();

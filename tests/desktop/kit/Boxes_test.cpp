@@ -1,4 +1,4 @@
-// Text boxes: editing stays what a person knows, and colours tell inputs, answers and what cannot be used.
+// Text boxes: editing stays what a person knows, and colours distinguish inputs, answers and mistakes.
 
 #include "desktop/Desk.h"
 #include "desktop/kit/Appearance.h"
@@ -256,7 +256,7 @@ TEST_F(Boxes, TheSignFollowsTheProblemThoughTheReasonStays) {
   EXPECT_EQ(Sign(), "Solved");
 }
 
-TEST_F(Boxes, ColoursTellInputsResultsAndOffencesAndFollowThePalette) {
+TEST_F(Boxes, ColoursDistinguishInputsResultsAndMistakes) {
   const QPalette usual = QApplication::palette();
   const auto ground = [this](const TextBox& box) { return Edit(box).palette().color(QPalette::Base); };
   hands_.Type(main_.tbSlope, "2");

@@ -24,17 +24,17 @@ const ShapeLayout& Drawn(ShapeWidget& sketch) {
   return sketch.Layout();
 }
 
-TEST_F(MainView, TheDrawingTellsMeasuresAsLongAsThereIsRoom) {
+TEST_F(MainView, TheDrawingShowsDimensionsThatHaveRoom) {
   SetNumberLocale({",", "\u202F"});
   hands_.Click(main_.mnuOptionsRect);
-  const auto told = [this](const char* typed) {
+  const auto shown = [this](const char* typed) {
     hands_.Type(main_.tbBaseWidth, typed);
     return Sketch(hands_.Window(main_))
         .accessibleDescription()
         .contains(QStringLiteral("b = ") + QString::fromUtf8(typed));
   };
-  EXPECT_TRUE(told("1\u202F234\u202F567,89")) << "12 characters, in four bytes more";
-  EXPECT_FALSE(told("1\u202F234\u202F567,89123"));
+  EXPECT_TRUE(shown("1\u202F234\u202F567,89")) << "12 characters, in four bytes more";
+  EXPECT_FALSE(shown("1\u202F234\u202F567,89123"));
   SetNumberLocale({});
 }
 

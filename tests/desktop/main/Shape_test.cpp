@@ -39,7 +39,7 @@ ShapeInputs Section(double W, Outline::Line points) {
   return {std::string(ChannelTypes::Irregular), W, {}, {}, {}, {}, std::move(points)};
 }
 
-TEST(Shape, TellsWhatIsOnlySchematic) {
+TEST(Shape, SaysWhatIsOnlySchematic) {
   EXPECT_FALSE(ShapeOf(Trapezoid(3, 20, 2, 1)).Schematic);
   EXPECT_FALSE(ShapeOf(Pipe(1, 2)).Schematic);
   for (const std::string_view type : ChannelTypes::All) {

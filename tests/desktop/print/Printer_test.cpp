@@ -23,8 +23,8 @@ namespace {
 using testing::Contains;
 using testing::HasSubstr;
 
-/// What a program of poppler writes.
-QByteArray Told(const QString& program, const QStringList& arguments) {
+/// The standard output of a program of poppler.
+QByteArray OutputOf(const QString& program, const QStringList& arguments) {
   QProcess process;
   process.start(program, arguments);
   EXPECT_TRUE(process.waitForFinished()) << program.toStdString() << " does not run";
@@ -33,7 +33,7 @@ QByteArray Told(const QString& program, const QStringList& arguments) {
 
 class Printing : public Desk {
  protected:
-  /// Prints into the file; true when no failure is told.
+  /// Prints into the file; true when no failure is reported.
   bool Pdf(const Print::Document& document, QPageSize::PageSizeId size = QPageSize::Letter,
            QPageLayout::Orientation orientation = QPageLayout::Portrait) {
     QPrinter device(QPrinter::ScreenResolution);
@@ -46,7 +46,7 @@ class Printing : public Desk {
   }
 
   QByteArray Text(const char* option) const {
-    return Told(QStringLiteral("pdftotext"), {QLatin1String(option), file_, QStringLiteral("-")});
+    return OutputOf(QStringLiteral("pdftotext"), {QLatin1String(option), file_, QStringLiteral("-")});
   }
   int Pages() const { return static_cast<int>(Text("-layout").count('\f')); }
   /// The lines of the file, a single blank between the words.
@@ -194,7 +194,7 @@ TEST_F(Printing, ThePictureIsWhatTheGraphWindowShowsInLightColours) {
   QFile file(file_);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_FALSE(file.readAll().contains("/Subtype /Image")) << "lines stay lines";
-  const QImage page = QImage::fromData(Told(QStringLiteral("pdftoppm"), {QStringLiteral("-png"), file_}));
+  const QImage page = QImage::fromData(OutputOf(QStringLiteral("pdftoppm"), {QStringLiteral("-png"), file_}));
   ASSERT_FALSE(page.isNull());
   const QImage shade = page.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   EXPECT_GT(qGray(shade.pixel(0, 0)), 240);

@@ -34,7 +34,7 @@ class Rating : public Desk {
   }
 };
 
-TEST_F(Rating, TheTableHasRoomForItsTextsAndTellsItsRows) {
+TEST_F(Rating, TheTableHasRoomForItsTextsAndCountsItsRows) {
   Open<frmTable>(main_.mnuSolveTable, [this](frmTable& form) {
     const auto& table = hands_.Of<GridTable>(form.MSFlexGrid1);
     for (int column = 0; column < 14; ++column) {
@@ -83,7 +83,7 @@ TEST_F(Rating, MouseAndKeysSelectABlockToCopy) {
   });
 }
 
-TEST_F(Rating, TableAndGraphTellThePointsThatAreMissing) {
+TEST_F(Rating, TableAndGraphReportMissingPoints) {
   const auto range = [this](const char* first, const char* last) {
     return [this, first, last](RangeSettings& form) {
       hands_.Type(form.tbMin, first);
@@ -117,7 +117,7 @@ TEST_F(Rating, TableAndGraphTellThePointsThatAreMissing) {
       range("-2", "-1"));
 }
 
-TEST_F(Rating, WhatCannotBeUsedIsToldAndEnterDoesNotTakeIt) {
+TEST_F(Rating, AMistakeIsExplainedAndEnterDoesNotTakeIt) {
   RatingRange.RatingCancelled = false;
   InModal(main_.mnuSolveTable, [this](Form& settings) {
     auto& form = dynamic_cast<frmTableSettings&>(settings);

@@ -251,7 +251,7 @@ TEST_F(PointEditor, DraggingBeyondTheEdgeGoesOn) {
   });
 }
 
-TEST_F(PointEditor, AButtonPressedByItsLetterKeepsTheEditAndARefusalComesBackToTheTable) {
+TEST_F(PointEditor, AMnemonicKeepsTheEditAndARefusalReturnsToTheTable) {
   Edit("0 8 0.03, 5 2", [this] {
     Press("Down 0 Alt+O");
     EXPECT_TRUE(QTest::qWaitFor([this] { return !services_.messageBox.Boxes.empty(); }));

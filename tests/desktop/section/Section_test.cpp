@@ -68,7 +68,7 @@ TEST_F(Section, APipeIsRoundAndItsWaterNoWider) {
   });
 }
 
-TEST_F(Section, StretchesOfDifferentNAreToldApart) {
+TEST_F(Section, RangesOfDifferentNAreDistinct) {
   EnterSection("0 9 0.08, 40 5, 50 0 0.03, 60 5 0.08, 100 9", "6");
   Open([this] {
     const double above =

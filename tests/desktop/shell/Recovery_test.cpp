@@ -141,7 +141,7 @@ TEST_F(RecoveryTest, OnlyALockThatAProgramHoldsHidesACopy) {
   EXPECT_EQ(main_.FileOfWork(), "");
 }
 
-TEST_F(RecoveryTest, WhatCannotBeOpenedIsSetAsideAndTold) {
+TEST_F(RecoveryTest, AnUnreadableCopyIsSetAsideAndReported) {
   const fs::path copy = KeptCopy("/rivers/points.csv", "0;10\r\n").Path();
   QString told;
   WhenOpen<QMessageBox>([&](QMessageBox& box) {
