@@ -75,7 +75,7 @@ TEST_F(SearchEdges, ProblemsAtTheLimits) {
   }
 }
 
-// Each of these levels is one that the pieces must leave to the segments, or tell in spite of a trap.
+// Each of these levels is one that the pieces must leave to the segments, or decide in spite of a trap.
 TEST_F(SearchEdges, SectionsWhoseFlowFallsOrHangsOnRounding) {
   const std::vector<std::vector<Point>> sections = {
       {{0, 10, 0.03}, {5, 0}, {10, 4}, {400, 4}, {401, 10}},           // the perimeter jumps at a bench
@@ -173,7 +173,7 @@ TEST(Search, PowersAndGuessesAreAsCloseAsDocumented) {
 
 using SurveyedSectionTest = EngineTest;
 
-// A = 10 t + t^2 in two halves of one n each; water too thin to tell is left to the segments.
+// A = 10 t + t^2 in two halves of one n each; water too thin to decide is left to the segments.
 TEST_F(SurveyedSectionTest, DecideWhatTheyCan) {
   const auto points = Table({{100, 10, 0.02}, {110, 0}, {115, 0, 0.04}, {120, 0}, {130, 10}});
   ManningIrreg::SurveyedSection pieces(points, 5);
@@ -192,8 +192,8 @@ TEST_F(SurveyedSectionTest, DecideWhatTheyCan) {
   EXPECT_EQ(pieces.FlowIsBelow(0, 0.1, 1), std::nullopt);
   EXPECT_EQ(pieces.FlowIsBelow(4, 0.1, 1e-21), std::nullopt);
   EXPECT_EQ(pieces.FactorIsBelow(-1, 1), std::nullopt);
-  const auto slit = Table({{1e6, 10, 0.02}, {1e6 + 1e-6, 0}, {1e6 + 2e-6, 10}});
-  EXPECT_EQ(ManningIrreg::SurveyedSection(slit, 3).FactorIsBelow(1e-4, 1), std::nullopt);
+  const auto slit = Table({{0, 10, 0.02}, {1e6, 10}, {1e6 + 1e-6, 0}, {1e6 + 2e-6, 10}});
+  EXPECT_EQ(ManningIrreg::SurveyedSection(slit, 4).FactorIsBelow(1e-4, 1), std::nullopt);
 }
 
 }  // namespace
