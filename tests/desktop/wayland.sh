@@ -23,11 +23,13 @@ program=$!
 
 # shows LINE KEYS...: the keys are pressed until the project file has the line
 shows() {
+  local runs=true
   for _ in {1..30}; do
-    if ! kill -0 "$program" 2>/dev/null; then break; fi
+    kill -0 "$program" 2>/dev/null || runs=false
+    if grep -qF "\"$1\"" "$project"; then return; fi
+    if ! $runs; then break; fi
     xdotool key --delay 30 "${@:2}"
     sleep 0.3
-    if grep -qF "\"$1\"" "$project"; then return; fi
   done
   cat "$complaints"
   if grep -q 'Could not find the Qt platform plugin "wayland"' "$complaints"; then exit 77; fi
