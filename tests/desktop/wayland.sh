@@ -36,9 +36,9 @@ shows() {
   echo "The project does not show $1"
   exit 1
 }
-shows 1.836 alt+w 1 5 ctrl+s
+shows 1.836 alt+w ctrl+a 1 5 ctrl+s
 shows y1.836 alt+d ctrl+a ctrl+c alt+j ctrl+a y ctrl+v ctrl+s
-shows 2.117 alt+w 2 0 ctrl+q y
+shows 2.117 alt+w ctrl+a 2 0 ctrl+q y
 wait "$program"
 grep -qxF "$left" "$places" || { cat "$places" && exit 1; }
 [ ! -s "$complaints" ] || { cat "$complaints" && exit 1; }
