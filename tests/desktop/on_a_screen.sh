@@ -3,7 +3,7 @@
 # Usage: on_a_screen.sh "TOOL..." COMMAND...   status 77 where one of the tools, or the screen, is missing
 set -euo pipefail
 
-for tool in xvfb-run openbox xprop xdotool $1; do
+for tool in Xvfb openbox xprop xdotool $1; do
   type -P "$tool" >/dev/null || {
     echo "skipped: $tool is missing"
     exit 77
@@ -12,17 +12,22 @@ done
 
 if [ -z "${ON_A_SCREEN:-}" ]; then
   home=$(mktemp -d)
-  trap 'rm -rf "$home"' EXIT
+  screen=
+  trap 'kill $screen 2>/dev/null || true; rm -rf "$home"' EXIT
   chmod 711 "$home"
   mkdir -m 700 "$home/run"
   export ON_A_SCREEN=1 HOME=$home XDG_RUNTIME_DIR=$home/run XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
   export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 CUPS_SERVER=localhost:1
-  xvfb-run -a -s "-screen 0 1024x640x24 -nolisten tcp" "$0" "$@"
+  # The server itself finds a free number: two that begin together would take the same one.
+  Xvfb -displayfd 3 -screen 0 1024x640x24 -nolisten tcp -noreset 3>"$home/number" 2>/dev/null &
+  screen=$!
+  until [ -s "$home/number" ]; do kill -0 "$screen"; sleep 0.1; done
+  DISPLAY=:$(cat "$home/number") "$0" "$@"
   exit
 fi
 
 openbox --sm-disable 2>/dev/null &
 manager=$!
 trap 'kill "$manager" 2>/dev/null || true' EXIT
-until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "#"; do sleep 0.1; done
+until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "#"; do kill -0 "$manager"; sleep 0.1; done
 "${@:2}"
