@@ -8,7 +8,7 @@ namespace {
 
 struct Unit {
   const char* Label = "";
-  double Factor = 0;
+  double Factor;
   std::optional<int> Decimals = {};
 };
 

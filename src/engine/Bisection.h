@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cmath>
+#include <utility>
 
 #include "engine/Constants.h"
 #include "engine/EngineFault.h"
@@ -18,10 +19,10 @@ struct Halving {
 // midpoint to try; faults of below pass through.
 template <typename Below>
 Halving Bisect(double lo, double hi, Below below) {
-  if (!(std::abs(hi - lo) > Constants::SearchTolerance))
+  double width = hi - lo;
+  if (!(std::abs(width) > Constants::SearchTolerance))
     ThrowFault("the range of depths is too narrow to search");
   Halving last;
-  double width = hi - lo;
   double widthBefore = 0;
   do {
     last = {(lo + hi) / 2, lo, hi};
@@ -34,8 +35,7 @@ Halving Bisect(double lo, double hi, Below below) {
       asm volatile("");
       hi = last.y;
     }
-    widthBefore = width;
-    width = hi - lo;
+    widthBefore = std::exchange(width, hi - lo);
   } while (std::abs(width) > Constants::SearchTolerance && width != widthBefore);
   return last;
 }

@@ -243,7 +243,7 @@ class SurveyedSection {
   }
 
   Piece Build(double W) {
-    Piece piece{ground.low, std::numeric_limits<double>::infinity(), strips_.size(), 0};
+    Piece piece{ground.low, std::numeric_limits<double>::infinity(), strips_.size(), strips_.size()};
     for (size_t i = 1; i <= ground.last; ++i) {
       const double e = ground.e[i];
       if (e < W && e > piece.from) piece.from = e;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <random>
 
 #include "Problem.h"
 #include "engine/ManningCircular.h"
@@ -169,6 +170,31 @@ TEST(Search, PowersAndGuessesAreAsCloseAsDocumented) {
     });
     EXPECT_NEAR(root, 3, 3e-9) << start;
   }
+}
+
+// A poor start of a guess or a slip in its equation costs steps or a plain search. Each problem makes two
+// guesses, of its normal and of its critical depth.
+TEST_F(SearchEdges, GuessesInUsualChannelsSettleSoon) {
+  std::mt19937_64 random(3);
+  const auto between = [&](double low, double high) {
+    return std::uniform_real_distribution(low, high)(random);
+  };
+  constexpr int Count = 4000;
+  Search::Spent = {};
+  for (int i = 0; i < Count; ++i) {
+    SetTrapezoid(between(0, 30), between(0, 4), between(0, 4), 0.03, between(1e-4, 0.02));
+    SolveDepth(between(1, 5000));
+  }
+  EXPECT_EQ(Search::Spent.wrong, 0);
+  EXPECT_LT(Search::Spent.steps, 2.7 * (2 * Count));
+  Search::Spent = {};
+  for (int i = 0; i < Count; ++i) {
+    const double D = between(0.5, 12), S = between(1e-4, 0.02);
+    SetPipe(D, 0.013, S);
+    SolveDepth(between(0, 1) * ManningCircular::CircMaxFlow(D, S, 0.013));
+  }
+  EXPECT_LT(Search::Spent.wrong, 0.001 * (2 * Count));
+  EXPECT_LT(Search::Spent.steps, 3.05 * (2 * Count));
 }
 
 using SurveyedSectionTest = EngineTest;
