@@ -12,17 +12,12 @@ done
 
 if [ -z "${ON_A_SCREEN:-}" ]; then
   home=$(mktemp -d)
-  screen=
-  trap 'kill $screen 2>/dev/null || true; rm -rf "$home"' EXIT
+  trap 'rm -rf "$home"' EXIT
   chmod 711 "$home"
   mkdir -m 700 "$home/run"
   export ON_A_SCREEN=1 HOME=$home XDG_RUNTIME_DIR=$home/run XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
   export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 CUPS_SERVER=localhost:1
-  # The server itself finds a free number: two that begin together would take the same one.
-  Xvfb -displayfd 3 -screen 0 1024x640x24 -nolisten tcp -noreset 3>"$home/number" 2>/dev/null &
-  screen=$!
-  until [ -s "$home/number" ]; do kill -0 "$screen"; sleep 0.1; done
-  DISPLAY=:$(cat "$home/number") "$0" "$@"
+  "$(dirname "${BASH_SOURCE[0]}")/../../scripts/virtual-screen" 1024x640 "$0" "$@"
   exit
 fi
 
