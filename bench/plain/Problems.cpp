@@ -159,14 +159,13 @@ void ProblemSource::Next() {
 // Makes the flow, or one a bit away, the one whose normal or critical depth is a midpoint itself, so that the
 // search meets its target where both sides are equal.
 void ProblemSource::AimAtAMidpoint() {
-  const ChannelRecord& s = ChannelState;
   const bool normal = Chance(0.5);
   double lo = 0;
   double hi = 999;
   try {
-    if (kind_ == ProblemKind::Pipe) hi = (normal ? 0.938 : 1) * s.Diameter.Number();
+    if (kind_ == ProblemKind::Pipe) hi = (normal ? 0.938 : 1) * ChannelState.Diameter.Number();
     if (kind_ == ProblemKind::Section) {
-      lo = ManningIrreg::IrregLowPoint(s.IrregEnginePoints, s.IrregPointCount);
+      lo = ManningIrreg::IrregLowPoint(ChannelState.IrregEnginePoints, ChannelState.IrregPointCount);
       hi = lo + 999;
     }
     const double halvings = Between(1, 30);
@@ -177,26 +176,27 @@ void ProblemSource::AimAtAMidpoint() {
     }
     double Q = 0;
     if (normal) {
-      const EngineValue depth = s.Depth;
-      const bool forFlow = s.SolveForFlow;
+      const EngineValue depth = ChannelState.Depth;
+      const bool forFlow = ChannelState.SolveForFlow;
       ChannelState.Depth = y;
       ChannelState.SolveForFlow = true;
       Run([&] {
         PlainLoops::SolveChannel();
-        Q = s.Flow.Number();
+        Q = ChannelState.Flow.Number();
       });
       ChannelState.SolveForFlow = forFlow;
       ChannelState.Depth = depth;
     } else {
       const auto [A, T] = [&]() -> std::pair<double, double> {
-        const double b = s.BaseWidth.Number(), zL = s.SideSlopeLeft.Number(), zR = s.SideSlopeRight.Number();
+        const double b = ChannelState.BaseWidth.Number(), zL = ChannelState.SideSlopeLeft.Number(),
+                     zR = ChannelState.SideSlopeRight.Number();
         if (kind_ == ProblemKind::Trapezoid)
           return {ManningTrap::TrapArea(y, b, zL, zR), ManningTrap::TrapTopWidth(y, b, zL, zR)};
-        const double D = s.Diameter.Number();
+        const double D = ChannelState.Diameter.Number();
         if (kind_ == ProblemKind::Pipe)
           return {ManningCircular::CircArea(y, D), ManningCircular::CircTopWidth(y, D)};
-        return {ManningIrreg::IrregArea(s.IrregEnginePoints, s.IrregPointCount, y),
-                ManningIrreg::IrregTopWidth(s.IrregEnginePoints, s.IrregPointCount, y)};
+        return {ManningIrreg::IrregArea(ChannelState.IrregEnginePoints, ChannelState.IrregPointCount, y),
+                ManningIrreg::IrregTopWidth(ChannelState.IrregEnginePoints, ChannelState.IrregPointCount, y)};
       }();
       Q = std::sqrt(32.17405) * (A * std::sqrt(A / T));
     }

@@ -87,11 +87,13 @@ class FindInputTest : public testing::Test {
       TypeOrdinary();
       const bool isPipe = input.Box == &frmMain::tbDiameter;
       double x = isPipe ? 12 * LeadingNumber(TextOf(FieldOf(&frmMain::tbDepth))) : 1e-3;
-      for (double before = rises ? 0 : HUGE_VAL; x < input.Bounds.Max.value_or(1e4); x *= 1.1) {
+      double before = rises ? 0 : HUGE_VAL;
+      while (x < input.Bounds.Max.value_or(1e4)) {
         Type(wanted, PlainNumber(x));
         const double flow = Flow();
         ASSERT_EQ(flow > before, rises) << x;
         before = flow;
+        x *= 1.1;
       }
     }
   }

@@ -39,16 +39,18 @@ TEST_F(PipeLevels, BothDepthsOfRandomPipes) {
     ASSERT_TRUE(found.Pipe->OtherDepth);
     const std::vector<double> depths = {found.Depth, *found.Pipe->OtherDepth};
     std::size_t bracketed = 0;
-    for (double y = D / 2, before = flow(y); y < D; y += Grid) {
+    double y = D / 2, before = flow(y);
+    while (y < D) {
       const double after = flow(y + Grid);
       if ((before < Q) != (after < Q)) {
         ASSERT_LT(bracketed, 2U);
         EXPECT_NEAR(depths[bracketed++], y + Grid / 2, Grid / 2 + Tolerance);
       }
       before = after;
+      y += Grid;
     }
     EXPECT_EQ(bracketed, 2U) << D << " ft, " << Q << " cfs";
-    for (const double y : depths) ExpectCrossing(flow, y, Q);
+    for (const double depth : depths) ExpectCrossing(flow, depth, Q);
   }
 }
 
@@ -111,7 +113,8 @@ class SectionLevels : public EngineTest {
       return [=](double level) { return a - Tolerance <= level && level <= b + Tolerance; };
     };
     double before = curve(Grid / 2);
-    for (double W = Grid / 2; W < 12; W += Grid) {
+    for (int step = 0; step < 12 / Grid; ++step) {
+      const double W = (step + 0.5) * Grid;
       const double after = curve(W + Grid);
       const auto bench = std::ranges::adjacent_find(
           points, [&](const Point& a, const Point& b) { return a.e == b.e && W <= a.e && a.e < W + Grid; });
@@ -136,7 +139,8 @@ class SectionLevels : public EngineTest {
   /// step.
   static void ExpectFalls(const std::function<double(double)>& curve, const LevelSearch& found) {
     double before = curve(Grid / 2);
-    for (double W = Grid / 2; W < 12; W += Grid) {
+    for (int step = 0; step < 12 / Grid; ++step) {
+      const double W = (step + 0.5) * Grid;
       const double after = curve(W + Grid);
       const bool inside = std::ranges::any_of(
           found.Falls, [&](const FallingRange& fall) { return fall.From <= W && W + Grid <= fall.To; });

@@ -15,8 +15,6 @@
 namespace {
 
 using testing::ContainsRegex;
-using testing::ElementsAre;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -64,8 +62,8 @@ class WorkingTest : public ProgramStage {
   }
 
   void ExpectCells(const std::string& head, const std::vector<std::string>& hand) const {
-    std::vector<std::string> spelled;
-    for (const std::string& cell : hand) spelled.push_back(Spelled(cell));
+    std::vector<std::string> spelled(hand.size());
+    std::ranges::transform(hand, spelled.begin(), Spelled);
     EXPECT_EQ(LastCells(head), spelled);
   }
 
