@@ -35,14 +35,14 @@ bool Boolean(const std::string& text) {
     std::string_view Text;
     bool Value;
   };
-  constexpr std::array<Word, 8> Words = {{{"True", true},
-                                          {"TRUE", true},
-                                          {"true", true},
-                                          {"1", true},
-                                          {"False", false},
-                                          {"FALSE", false},
-                                          {"false", false},
-                                          {"0", false}}};
+  constexpr auto Words = std::to_array<Word>({{"True", true},
+                                              {"TRUE", true},
+                                              {"true", true},
+                                              {"1", true},
+                                              {"False", false},
+                                              {"FALSE", false},
+                                              {"false", false},
+                                              {"0", false}});
   const auto* const word = std::ranges::find(Words, std::string_view(text), &Word::Text);
   if (word == Words.end()) throw std::runtime_error("SolveForFlow must be True or False");
   return word->Value;

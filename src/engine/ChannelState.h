@@ -15,8 +15,7 @@ inline constexpr std::string_view Triangular = "Triangular Channel";
 inline constexpr std::string_view Trapezoidal = "Trapezoidal Channel";
 inline constexpr std::string_view Circular = "Circular Channel";
 inline constexpr std::string_view Irregular = "Irregular Section";
-inline constexpr std::array<std::string_view, 5> All = {Rectangular, Triangular, Trapezoidal, Circular,
-                                                        Irregular};
+inline constexpr std::array All = {Rectangular, Triangular, Trapezoidal, Circular, Irregular};
 
 }  // namespace ChannelTypes
 

@@ -11,7 +11,7 @@ struct RecordCell {
   EngineValue ChannelRecord::*Cell;
 };
 
-inline constexpr std::array<RecordCell, 17> RecordCells = {{
+inline constexpr auto RecordCells = std::to_array<RecordCell>({
     {"Flow", &ChannelRecord::Flow},
     {"Depth", &ChannelRecord::Depth},
     {"ManningN", &ChannelRecord::ManningN},
@@ -29,4 +29,4 @@ inline constexpr std::array<RecordCell, 17> RecordCells = {{
     {"Froude", &ChannelRecord::Froude},
     {"CriticalDepth", &ChannelRecord::CriticalDepth},
     {"CriticalSlope", &ChannelRecord::CriticalSlope},
-}};
+});

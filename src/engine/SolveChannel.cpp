@@ -18,13 +18,13 @@ struct Solver {
   void (*DepthFromFlow)();
 };
 
-constexpr std::array<Solver, 5> Solvers = {{
+constexpr auto Solvers = std::to_array<Solver>({
     {ChannelTypes::Rectangular, ManningTrap::PrismaticFlowFromDepth, ManningTrap::PrismaticDepthFromFlow},
     {ChannelTypes::Triangular, ManningTrap::PrismaticFlowFromDepth, ManningTrap::PrismaticDepthFromFlow},
     {ChannelTypes::Trapezoidal, ManningTrap::PrismaticFlowFromDepth, ManningTrap::PrismaticDepthFromFlow},
     {ChannelTypes::Circular, ManningCircular::CircularFlowFromDepth, ManningCircular::CircularDepthFromFlow},
     {ChannelTypes::Irregular, ManningIrreg::IrregFlowFromDepth, ManningIrreg::IrregDepthFromFlow},
-}};
+});
 
 }  // namespace
 
