@@ -32,7 +32,7 @@ std::string ScaledDigits(double x, int decimals) {
 
   const int wanted = decimals + 1;
   const int kept = exponent + 1 + decimals;
-  std::string digits(static_cast<std::size_t>(std::max({kept, wanted, 1}) + 1), '0');
+  std::string digits(static_cast<std::size_t>(std::max(kept, wanted)) + 1, '0');  // one for a carry
   const int copied = std::clamp(kept, 0, SeenDigits);
   std::copy_n(seen, copied, digits.end() - std::max(kept, 0));
   if (kept >= 0 && kept < SeenDigits && seen[kept] >= '5') {

@@ -125,8 +125,7 @@ struct Roughness {
   bool IsWhole() const { return !subsections.empty() && subsections[0].from == 1; }
 
   struct WetFlow {
-    double Q = 0;
-    double P = 0;
+    double Q, P;
   };
 
   // Manning's flow of the subsections at W and their wetted perimeter, added up; a dry one adds none.

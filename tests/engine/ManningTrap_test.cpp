@@ -100,7 +100,7 @@ TEST_F(ManningTrapTest, DepthsOutOfRangeOverflow) {
 
 TEST_F(ManningTrapTest, ADepthWithoutFlowIsTheLowestMidpoint) {
   SetTrapezoid(10, 1, 1, 0.013, 0.001);
-  EXPECT_THROW(SolveDepth(0), EngineFault);  // no critical slope without flow
+  EXPECT_EQ(FaultOf([] { SolveDepth(0); }), "the flow is zero");  // there is no critical slope
   EXPECT_DOUBLE_EQ(ChannelState.Depth.Number(), std::ldexp(999, -30));
   EXPECT_EQ(ChannelState.Velocity, 0);
 }
@@ -114,25 +114,36 @@ TEST_F(ManningTrapTest, AFaultKeepsTheResultsBeforeIt) {
   EXPECT_EQ(ChannelState.HydraulicRadius, "before");
 }
 
-TEST_F(ManningTrapTest, Faults) {
-  const double tooLarge = 1e308, infinite = std::numeric_limits<double>::infinity();
+TEST_F(ManningTrapTest, FaultsNameTheirReason) {
+  const double huge = 1e308, infinite = std::numeric_limits<double>::infinity();
   struct Case {
     double y, b, z, n, S;
+    const char* reason;
   };
-  for (const Case& c :
-       {Case{1, 0, 0, 0.01, 0.001}, Case{0, 0, 1, 0.01, 0.001}, Case{1, 5, 1, 0, 0.001},
-        Case{1, 5, 1, 0.01, -0.001}, Case{tooLarge, 5, 1, 0.01, 0.001}, Case{1, 5, tooLarge, 0.01, 0.001},
-        Case{1, 5, 1e160, 0.01, 0.001}, Case{1, 5, 1, infinite, 0.001}, Case{1, infinite, 1, 0.01, 0.001}}) {
+  for (const Case& c : {Case{1, 0, 0, 0.01, 0.001, "the flow area is zero"},
+                        {0, 0, 1, 0.01, 0.001, "the wetted perimeter is zero"},
+                        {1, -1.5, 0, 0.01, 0.001, "the hydraulic radius is negative"},  // -1.5 / (-1.5 + 2)
+                        {1, 5, 1, 0, 0.001, "Manning's n is zero"},
+                        {1, 5, 1, 0.01, -0.001, "the slope is negative"},
+                        {huge, 5, 1, 0.01, 0.001, "a number is too large"},
+                        {1, 5, huge, 0.01, 0.001, "a number is too large"},
+                        {1, 5, 1e160, 0.01, 0.001, "a number is too large"},
+                        {1, 5, 1, infinite, 0.001, "a number is too large"},
+                        {1, infinite, 1, 0.01, 0.001, "a number is too large"}}) {
     SetTrapezoid(c.b, c.z, c.z, c.n, c.S);
-    EXPECT_THROW(SolveFlow(c.y), EngineFault) << c.y << ' ' << c.b << ' ' << c.z;
+    EXPECT_EQ(FaultOf([&] { SolveFlow(c.y); }), c.reason) << c.y << ' ' << c.b << ' ' << c.z;
   }
   SetTrapezoid(5, 1, 1, 0.01, -0.001);
-  EXPECT_THROW(SolveDepth(10), EngineFault);
+  EXPECT_EQ(FaultOf([] { SolveDepth(10); }), "the slope is negative");
   // Sides so flat that their length overflows would make R, and so the flow, a silent 0.
   SetTrapezoid(5, 1e160, 1e160, 0.01, 0.001);
-  EXPECT_THROW(SolveDepth(10), EngineFault);
-  EXPECT_THROW(UniformFlow::SectionFactor(1, infinite), EngineFault);
-  EXPECT_THROW(ManningTrap::TrapFroude(1, 0, 1), EngineFault);
+  EXPECT_EQ(FaultOf([] { SolveDepth(10); }), "a number is too large");
+  EXPECT_EQ(FaultOf([&] { UniformFlow::SectionFactor(1, infinite); }), "a number is too large");
+  EXPECT_EQ(FaultOf([] { UniformFlow::SectionFactor(1, 0); }), "the top width is zero");
+  EXPECT_EQ(FaultOf([] { UniformFlow::SectionFactor(1, -1); }), "the hydraulic depth is negative");
+  EXPECT_EQ(FaultOf([] { ManningTrap::TrapFroude(1, 0, 1); }), "the top width is zero");
+  EXPECT_EQ(FaultOf([] { ManningTrap::TrapCriticalSlope(0, 5, 1, 1, 0.01, 10); }),
+            "the flow area at critical depth is zero");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -16,6 +17,17 @@ struct Point {
   double x, e;
   EngineValue n = {};
 };
+
+/// The reason of the fault that ends the operation.
+template <typename Operation>
+std::string FaultOf(Operation operation) {
+  try {
+    operation();
+  } catch (const EngineFault& fault) {
+    return fault.what();
+  }
+  return "no fault";
+}
 
 class EngineTest : public testing::Test {
  protected:
