@@ -27,12 +27,10 @@
 
 namespace Search {
 
-// What the guesses have cost so far. A poor one changes no answer, so that only these counts show it.
-struct Effort {
-  long steps = 0;  // towards the roots
-  long wrong = 0;  // guesses with a plain search after them
-};
-inline Effort Spent;
+// What the guesses have cost so far: steps towards their roots, and plain searches after wrong ones. A poor
+// guess changes no answer, so that only these counts show it.
+inline long StepsTaken = 0;
+inline long WrongGuesses = 0;
 
 // Numbers that may be searched this way.
 template <typename... Numbers>
@@ -75,7 +73,7 @@ double GuessRoot(double x, SidesAt sidesAt) {
     const auto [left, right, exponent] = sidesAt(x);
     const double d = (right - left) / (exponent * (right + left));
     x *= (1 + d) / (1 - d);
-    ++Spent.steps;
+    ++StepsTaken;
     if (std::abs(d) < 5e-6) break;
   }
   return x;
@@ -86,9 +84,8 @@ template <typename Below>
 double Jump(double lo, double hi, double guess, Below below) {
   const Halving last = Bisect(lo, hi, [&](double y) { return y < guess; });
   const bool sameWay = (last.lo == lo || below(last.lo)) && (last.hi == hi || !below(last.hi));
-  if (sameWay) return last.y;
-  ++Spent.wrong;
-  return Bisect(lo, hi, below).y;
+  WrongGuesses += sameWay ? 0 : 1;
+  return sameWay ? last.y : Bisect(lo, hi, below).y;
 }
 
 // The same from 0 to the top of an open channel's search, without halving: 999 has ten bits, so that every
@@ -103,9 +100,8 @@ double JumpInOpenChannel(double guess, Below below) {
   const double lo = Top * k / Intervals;
   const double hi = Top * (k + 1) / Intervals;
   const bool sameWay = (k == 0 || below(lo)) && (k + 1 == Intervals || !below(hi));
-  if (sameWay) return (lo + hi) / 2;
-  ++Spent.wrong;
-  return Bisect(0, Top, below).y;
+  WrongGuesses += sameWay ? 0 : 1;
+  return sameWay ? (lo + hi) / 2 : Bisect(0, Top, below).y;
 }
 
 }  // namespace Search

@@ -180,21 +180,21 @@ TEST_F(SearchEdges, GuessesInUsualChannelsSettleSoon) {
     return std::uniform_real_distribution(low, high)(random);
   };
   constexpr int Count = 4000;
-  Search::Spent = {};
+  Search::StepsTaken = Search::WrongGuesses = 0;
   for (int i = 0; i < Count; ++i) {
     SetTrapezoid(between(0, 30), between(0, 4), between(0, 4), 0.03, between(1e-4, 0.02));
     SolveDepth(between(1, 5000));
   }
-  EXPECT_EQ(Search::Spent.wrong, 0);
-  EXPECT_LT(Search::Spent.steps, 2.7 * (2 * Count));
-  Search::Spent = {};
+  EXPECT_EQ(Search::WrongGuesses, 0);
+  EXPECT_LT(Search::StepsTaken, 2.7 * (2 * Count));
+  Search::StepsTaken = Search::WrongGuesses = 0;
   for (int i = 0; i < Count; ++i) {
     const double D = between(0.5, 12), S = between(1e-4, 0.02);
     SetPipe(D, 0.013, S);
     SolveDepth(between(0, 1) * ManningCircular::CircMaxFlow(D, S, 0.013));
   }
-  EXPECT_LT(Search::Spent.wrong, 0.001 * (2 * Count));
-  EXPECT_LT(Search::Spent.steps, 3.05 * (2 * Count));
+  EXPECT_LT(Search::WrongGuesses, 0.001 * (2 * Count));
+  EXPECT_LT(Search::StepsTaken, 3.05 * (2 * Count));
 }
 
 using SurveyedSectionTest = EngineTest;
