@@ -86,16 +86,14 @@ bool IsNumber(const Item& item) {
   return !item.Quoted && FileNumber::IsNumeric(item.Text);
 }
 
-/// A whole number; one that no int holds is the greatest or least.
+/// A whole number; one that no int holds is the greatest, which is beyond every range too.
 int WholeNumber(const Item& item) {
-  using Limits = std::numeric_limits<int>;
   int number = 0;
   const char* const end = item.Text.data() + item.Text.size();
   const auto read = std::from_chars(item.Text.data(), end, number);
   if (item.Quoted || read.ec == std::errc::invalid_argument || read.ptr != end)
     throw std::runtime_error("an item that must be a whole number is none");
-  if (read.ec != std::errc{}) return item.Text.starts_with('-') ? Limits::min() : Limits::max();
-  return number;
+  return read.ec == std::errc{} ? number : std::numeric_limits<int>::max();
 }
 
 int WholeNumber(const Item& item, int least, int most) {
