@@ -81,21 +81,21 @@ void ReflowArea::Arrange() {
 }
 
 void ReflowArea::Place(Columns columns) {
-  struct Cell {
+  struct Area {
     int Row, Column, Columns;
   };
   struct Placing {
     int Columns, DrawingRow;
-    Cell Inputs, Drawing, Results;
+    Area Inputs, Drawing, Results;
     int Stretches[3];
   };
   static constexpr Placing Placings[] = {{3, 1, {1, 0, 1}, {1, 2, 1}, {1, 1, 1}, {0, 0, 1}},
                                          {2, 2, {1, 0, 1}, {2, 0, 2}, {1, 1, 1}, {1, 1, 0}},
                                          {1, 3, {1, 0, 1}, {3, 0, 1}, {2, 0, 1}, {1, 0, 0}}};
   const Placing& placing = Placings[static_cast<int>(columns)];
-  const auto put = [this](QWidget* widget, const Cell& cell, Qt::Alignment alignment) {
+  const auto put = [this](QWidget* widget, const Area& area, Qt::Alignment alignment) {
     grid_->removeWidget(widget);
-    grid_->addWidget(widget, cell.Row, cell.Column, 1, cell.Columns, alignment);
+    grid_->addWidget(widget, area.Row, area.Column, 1, area.Columns, alignment);
   };
   put(parts_.Top, {0, 0, placing.Columns}, {});
   put(parts_.Inputs, placing.Inputs, Qt::AlignTop);
