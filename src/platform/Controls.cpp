@@ -2,6 +2,7 @@
 #include "platform/Controls.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -35,6 +36,12 @@ std::string TextBox::SelectedText() const {
   const TextRange range = Selection;
   const std::size_t from = ByteOffset(text, range.Start);
   return text.substr(from, ByteOffset(std::string_view(text).substr(from), range.Length));
+}
+
+void TextBox::Rewrite(const std::string& text) {
+  const bool whole = Length() > 0 && Selection == TextRange{0, Length()};
+  Text = text;
+  if (whole) SelectAll();
 }
 
 void TextBox::ReplaceSelection(std::string_view with) {

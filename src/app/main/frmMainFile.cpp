@@ -152,7 +152,7 @@ void frmMain::Fill(ProjectFile::Project project) {
   Problem::TakeSetting(project);
   tbProjName.Text = project.ProjName;
   for (const Field& field : Fields()) {
-    if (const std::string* const item = Problem::ItemOf(project, field)) (this->*field.Box).Text = *item;
+    if (const std::string* const item = Problem::ItemOf(project, field)) (this->*field.Box).Rewrite(*item);
   }
   Declarations::DataChanged = false;
 }

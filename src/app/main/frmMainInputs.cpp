@@ -34,9 +34,7 @@ bool frmMain::Input_KeyDown(const Field& field, int keyCode) {
     return field.IsElevation() || FormStuff::Within(LeadingNumber(text), field.Bounds);
   };
   if (!allowed(*nudged) && allowed(box.Text)) return true;
-  const bool selected = box.Selection == TextRange{0, box.Length()};
-  box.Text = *nudged;
-  if (selected) box.SelectAll();
+  box.Rewrite(*nudged);
   return true;
 }
 
@@ -54,7 +52,7 @@ bool frmMain::ReadUnits() {
     TextBox& box = this->*field.Box;
     const std::string typed = box.Text;
     const std::string unit = UnitLabel(ChannelState.UnitsEorM, field.Quantity);
-    box.Text = TypedUnits::SevenDigits(amount->Value / UnitFactor(ChannelState.UnitsEorM, field.Quantity));
+    box.Rewrite(TypedUnits::SevenDigits(amount->Value / UnitFactor(ChannelState.UnitsEorM, field.Quantity)));
     read += (read.empty() ? "Read " : ", ") + typed;
     if (*amount->Which != '\0') read += " (" + std::string(amount->Which) + ")";
     read += " as " + box.Text.Get() + (unit.empty() ? field.Suffix : " " + unit);

@@ -81,7 +81,7 @@ void frmMain::ConvertInput(int before) {
     if (CurrentChannelType().AsksFor(*field) && IsNotable(number)) {
       moved += (moved.empty() ? "" : ", ") + std::string(field->Caption.Current());
     }
-    (this->*field->Box).Text = number.Text().Text();
+    (this->*field->Box).Rewrite(number.Text().Text());
   }
   if (!moved.empty()) status_.Set(StatusLine::Moved, "Rounded by more than 1 %: " + moved);
 }
