@@ -17,6 +17,7 @@ struct ShapeInputs {
   Outline::Line Ground;                      ///< of an irregular section
   std::optional<double> CriticalDepth{};     ///< measured like the depth
   std::vector<Outline::Subsection> Parts{};  ///< of an irregular section
+  int UnitSystem = 0;                        ///< of the lengths
 
   bool operator==(const ShapeInputs&) const = default;
 };

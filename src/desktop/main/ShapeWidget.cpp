@@ -45,7 +45,8 @@ ShapeInputs InputsOf(const frmMain& form) {
                      NumberIn(form.tbDiameter),
                      {},
                      NumberIn(form.tbCritD),
-                     {}};
+                     {},
+                     record.UnitsEorM};
   if (inputs.Diameter)
     *inputs.Diameter *=
         UnitFactor(record.UnitsEorM, Units::Diameter) / UnitFactor(record.UnitsEorM, Units::Length);
@@ -60,7 +61,8 @@ ShapeInputs InputsOf(const frmMain& form) {
 bool OneTyped(const ShapeInputs& before, const ShapeInputs& now) {
   const int differ = (before.BaseWidth != now.BaseWidth) + (before.LeftSlope != now.LeftSlope) +
                      (before.RightSlope != now.RightSlope) + (before.Diameter != now.Diameter);
-  return differ <= 1 && before.Type == now.Type && before.Ground == now.Ground;
+  return differ <= 1 && before.Type == now.Type && before.Ground == now.Ground &&
+         before.UnitSystem == now.UnitSystem;
 }
 
 ShapeLabels LabelsOf(const frmMain& form) {
