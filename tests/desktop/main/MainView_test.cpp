@@ -48,7 +48,8 @@ TEST_F(MainView, TheDrawingFollowsASwitchOfUnits) {
     const QRectF ground = drawn.Ground.boundingRect();
     EXPECT_NEAR((ground.bottom() - drawn.Surfaces[0].y1()) / ground.height(), 0.5, 0.01);
   }
-  // The same trapezoid fills its room at once, with no pause as after typing: a metre is drawn as three feet were.
+  // The same trapezoid fills its room at once, with no pause as after typing: a metre is drawn as three feet
+  // were.
   EnterTrapezoid();
   const auto scale = [this] { return Drawn(Sketch(hands_.Window(main_))).Scale.value().Across; };
   const double perFoot = scale();
