@@ -115,7 +115,7 @@ class TextBox : public FocusControl {
   int Length() const;  ///< of the text, in characters
   /// The selected part of the text.
   std::string SelectedText() const;
-  /// The same value written otherwise: selected as a whole when the text was, so that typing replaces it.
+  /// The program's own text: selected as a whole when the one before was, so that typing replaces it.
   void Rewrite(const std::string& text);
   /// Puts `with` in the place of the selection and the caret behind it.
   void ReplaceSelection(std::string_view with);
